@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Shared by ./run and ./test: install missing Debian packages, configure once, build incrementally.
+set -euo pipefail
+here="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+build="${TARVANEL_BUILD_DIR:-$here/build}"
+
+packages=(
+    cmake g++ make pkg-config
+    qt6-base-dev qt6-multimedia-dev libicu-dev libqrencode-dev
+    gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core tzdata
+    libgtest-dev libgmock-dev libbenchmark-dev
+    xvfb x11-xserver-utils x11-apps xdotool trayer faketime oathtool zbar-tools imagemagick
+    clang libclang-rt-14-dev
+)
+
+missing=()
+for p in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+    echo "Installing: ${missing[*]}" >&2
+    sudo=""
+    [ "$(id -u)" -eq 0 ] || sudo="sudo"
+    export DEBIAN_FRONTEND=noninteractive
+    $sudo apt-get update -qq >&2
+    $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+fi
+
+if [ ! -f "$build/CMakeCache.txt" ]; then
+    cmake -S "$here" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo >&2
+fi
+cmake --build "$build" -j"$(nproc)" >&2

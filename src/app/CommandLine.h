@@ -1,0 +1,35 @@
+#pragma once
+// The process entry's reading of the command line and the terminal commands.
+#include "engine/Config.h"
+
+#include <QDateTime>
+#include <QStringList>
+#include <optional>
+
+namespace tarvanel {
+
+inline constexpr const char* appLabel = "com.velmora.tarvanel";
+inline constexpr const char* appDisplayName = "Tarvanel";
+
+struct CommandLine {
+    bool help = false;
+    bool version = false;
+    bool times = false;
+    std::optional<QString> date; // the argument after --date, as given
+    bool installAgent = false;
+    std::optional<double> testLockSeconds;
+    bool testNudge = false;
+};
+
+// Options are exact, case-sensitive whole arguments in any position; a value is the argument
+// right after its option. args[0] is the program path.
+CommandLine parseCommandLine(const QStringList& args);
+
+// The day --times prints: local midnight of --date when it parses, else `now`.
+QDateTime timesDay(const CommandLine& cl, const QDateTime& now);
+// The header and table of --times.
+QString timesText(const Config& cfg, const QDateTime& day);
+
+QString usageText();
+
+} // namespace tarvanel

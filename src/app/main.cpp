@@ -1,0 +1,38 @@
+// Process entry: terminal commands run and exit; anything else starts the tray application.
+#include "app/CommandLine.h"
+#include "desktop/DesktopApp.h"
+#include "engine/Clock.h"
+#include "engine/Config.h"
+
+#include <QStringList>
+#include <cstdio>
+
+using namespace tarvanel;
+
+static void print(const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+int main(int argc, char** argv) {
+    QStringList args;
+    for (int i = 0; i < argc; ++i)
+        args << QString::fromLocal8Bit(argv[i]);
+    const CommandLine cl = parseCommandLine(args);
+
+    if (cl.help) {
+        print(usageText());
+        return 0;
+    }
+    if (cl.version) {
+        print(QStringLiteral("tarvanel " TARVANEL_VERSION "\n"));
+        return 0;
+    }
+    if (cl.times) {
+        const Config cfg = loadConfig();
+        print(timesText(cfg, timesDay(cl, systemNow())));
+        return 0;
+    }
+    return runDesktopApplication(argc, argv, cl);
+}

@@ -1,0 +1,126 @@
+#include "engine/Config.h"
+#include "records/Log.h"
+#include "records/StateFiles.h"
+#include "support/TestEnv.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+using namespace tarvanel;
+using tarvanel::test::writeSupportFile;
+
+namespace {
+class ConfigTest : public test::ScratchTest {
+protected:
+    void SetUp() override {
+        ScratchTest::SetUp();
+        setLogSink([this](const QString& line) { logs << line; });
+    }
+    QStringList logs;
+};
+} // namespace
+
+TEST_F(ConfigTest, MissingFileGivesDefaultsSilently) {
+    EXPECT_EQ(loadConfig(), Config());
+    EXPECT_TRUE(logs.isEmpty());
+    EXPECT_FALSE(lastGoodConfig().has_value());
+}
+
+TEST_F(ConfigTest, EmptyObjectAndNullsKeepDefaults) {
+    writeSupportFile("config.json", "{}");
+    EXPECT_EQ(loadConfig(), Config());
+    writeSupportFile("config.json", R"({"lockLeadMinutes": null, "method": null})");
+    const Config c = loadConfig();
+    EXPECT_EQ(c.lockLeadMinutes, 5.0);
+    EXPECT_FALSE(c.method.has_value());
+}
+
+TEST_F(ConfigTest, MethodAloneKeepsAnglesAndWholeNumbersReadAsDoubles) {
+    writeSupportFile("config.json", R"({"method": "ISNA", "lockMinutes": 20, "extra": [1]})");
+    const Config c = loadConfig();
+    EXPECT_EQ(c.method, QString("ISNA"));
+    EXPECT_EQ(c.fajrAngle, 18);
+    EXPECT_EQ(c.ishaAngle, 17);
+    EXPECT_EQ(c.lockMinutes, 20.0);
+}
+
+TEST_F(ConfigTest, WrongTypeFailsWholeDecodeAndFallsBackToLastGood) {
+    // No good file seen yet: defaults, with the message.
+    writeSupportFile("config.json", R"({"latitude": "north", "lockMinutes": 30})");
+    EXPECT_EQ(loadConfig(), Config());
+    ASSERT_EQ(logs.size(), 1);
+    EXPECT_TRUE(logs[0].startsWith("Tarvanel: config.json is invalid ("));
+    EXPECT_TRUE(logs[0].endsWith("); keeping the last good settings"));
+    EXPECT_TRUE(logs[0].contains("latitude"));
+
+    // A good file, then a broken one: the good settings stay.
+    writeSupportFile("config.json", R"({"latitude": 51.5, "locationName": "London"})");
+    const Config good = loadConfig();
+    EXPECT_EQ(good.latitude, 51.5);
+    for (const char* broken : {"not json", "[1,2]", R"({"nudgeOffsetsMinutes": [20, "x"]})",
+                               R"({"prayerOverrides": {"Fajr": 5}})", R"({"strictMode": 1})", ""}) {
+        writeSupportFile("config.json", broken);
+        EXPECT_EQ(loadConfig(), good) << broken;
+    }
+    EXPECT_EQ(logs.size(), 7);
+}
+
+TEST_F(ConfigTest, SaveWritesSortedPrettyJsonWithoutAbsentOptionals) {
+    saveConfig(Config());
+    const auto bytes = readWholeFile(configURL());
+    ASSERT_TRUE(bytes);
+    EXPECT_TRUE(bytes->contains("\n    \"asrFactor\""));
+    for (const char* key : {"\"method\"", "\"ishaMinutes\"", "\"maghribAngle\"", "\"calendarID\""})
+        EXPECT_FALSE(bytes->contains(key)) << key;
+    const QJsonObject o = QJsonDocument::fromJson(*bytes).object();
+    EXPECT_EQ(o.keys().size(), 23);
+    QStringList sorted = o.keys();
+    sorted.sort();
+    EXPECT_EQ(o.keys(), sorted);
+    EXPECT_LT(bytes->indexOf("adhanEnabled"), bytes->indexOf("asrFactor"));
+    EXPECT_EQ(loadConfig(), Config());
+}
+
+TEST_F(ConfigTest, RoundTripsEveryField) {
+    Config c;
+    c.locationName = "Doha";
+    c.latitude = 25.28;
+    c.longitude = 51.53;
+    c.method = "Qatar";
+    c.ishaMinutes = 90;
+    c.maghribAngle = 4.5;
+    c.calendarID = "work/prayers";
+    c.prayerOverrides = QMap<QString, QString>{{"Fajr", "+10"}, {"Isha", "20:30"}};
+    c.nudgeOffsetsMinutes = {15, 1.5};
+    c.strictMode = true;
+    c.excusedMaxDays = 7.5;
+    saveConfig(c);
+    EXPECT_EQ(loadConfig(), c);
+}
+
+TEST_F(ConfigTest, UnknownKeysVanishAtNextSave) {
+    writeSupportFile("config.json", R"({"latitude": 3, "colour": "green"})");
+    saveConfig(loadConfig());
+    EXPECT_FALSE(readWholeFile(configURL())->contains("colour"));
+}
+
+TEST_F(ConfigTest, NonFiniteNumbersAreNotWrittenAndOldFileStays) {
+    saveConfig(Config());
+    const QByteArray before = *readWholeFile(configURL());
+    Config c;
+    c.latitude = std::numeric_limits<double>::infinity();
+    saveConfig(c);
+    EXPECT_EQ(*readWholeFile(configURL()), before);
+}
+
+TEST_F(ConfigTest, SaveIntoReadOnlyFolderFailsQuietlyAndKeepsOldFile) {
+    saveConfig(Config());
+    const QByteArray before = *readWholeFile(configURL());
+    QFile::setPermissions(supportDir(), QFile::ReadOwner | QFile::ExeOwner);
+    Config c;
+    c.latitude = 10;
+    saveConfig(c);
+    QFile::setPermissions(supportDir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (geteuid() == 0) GTEST_SKIP() << "root ignores folder permissions";
+    EXPECT_EQ(*readWholeFile(configURL()), before);
+}

@@ -1,0 +1,72 @@
+#pragma once
+// A Platform that records what the core showed and answers questions from scripts.
+#include "platform/Platform.h"
+
+#include <QList>
+#include <QString>
+#include <deque>
+
+namespace tarvanel::test {
+
+class FakePlatform : public Platform {
+public:
+    // What was shown.
+    int screens = 1;
+    QList<QList<LockWindowContent>> lockShows; // every showLockWindows call
+    bool lockWindowsUp = false;
+    int raises = 0;
+    int closes = 0;
+    int activations = 0;
+    QList<BannerContent> banners;
+    bool bannerUp = false;
+    bool hasMainScreen = true;
+    QString title;
+    TitleColor titleColor = TitleColor::Label;
+    QStringList titles; // every distinct title in order
+    QStringList sounds; // named sounds, and "file:<path>" for played files
+    bool soundFilesPlay = true;
+    QList<AlertRequest> alerts;
+    QStringList openedUrls;
+    int settingsOpened = 0;
+    bool settingsFirstRun = false;
+    bool settingsOpen = false;
+    std::optional<int> exitStatus;
+    QList<std::function<void()>> posted;
+    QList<std::pair<int, std::function<void()>>> timers;
+
+    // Scripted answers, consumed in order; when empty the second button (cancel) is chosen.
+    std::deque<AlertAnswer> alertAnswers;
+    std::deque<std::optional<QDate>> dateAnswers;
+    std::deque<std::optional<QString>> savePathAnswers;
+
+    void answerAlert(int response, bool checkBox = false) {
+        alertAnswers.push_back({response, checkBox});
+    }
+    // Runs the work posted so far (after the current event).
+    void runPosted();
+
+    int screenCount() const override { return screens; }
+    void showLockWindows(const QList<LockWindowContent>& perScreen, LockScreenState*) override;
+    void raiseLockWindows(bool) override { ++raises; }
+    void closeLockWindows() override;
+    void activateApp() override { ++activations; }
+    bool showBanner(const BannerContent& banner) override;
+    void closeBanner() override { bannerUp = false; }
+    void setStatusTitle(const QString& text, TitleColor color) override;
+    void playNamedSound(const QString& name) override { sounds << name; }
+    bool playSoundFile(const QString& path) override;
+    AlertAnswer showAlert(const AlertRequest& request) override;
+    std::optional<QDate> askDate(const AlertRequest& request, const QDate& minimum,
+                                 const QDate& initial) override;
+    std::optional<QString> askSavePath(const QString& proposedName) override;
+    void openUrl(const QString& url) override { openedUrls << url; }
+    void openSettingsWindow(bool firstRun) override;
+    bool settingsWindowOpen() const override { return settingsOpen; }
+    void post(std::function<void()> work) override { posted << std::move(work); }
+    void singleShot(int ms, std::function<void()> work) override {
+        timers.append({ms, std::move(work)});
+    }
+    void exitProcess(int status) override { exitStatus = status; }
+};
+
+} // namespace tarvanel::test

@@ -41,7 +41,8 @@ public:
     void singleShot(int, std::function<void()>) override {}
     void exitProcess(int) override {}
     void runPosted() {
-        while (!posted.isEmpty()) posted.takeFirst()();
+        while (!posted.isEmpty())
+            posted.takeFirst()();
     }
 };
 
@@ -104,13 +105,15 @@ BENCHMARK(BM_EveningTick);
 void BM_TomorrowScheduleUncached(benchmark::State& state) {
     const Config cfg = benchConfig();
     const QDateTime now = localTime(21, 0);
-    for (auto _ : state) benchmark::DoNotOptimize(effectiveTimes(now.addSecs(86400), cfg));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(effectiveTimes(now.addSecs(86400), cfg));
 }
 BENCHMARK(BM_TomorrowScheduleUncached);
 
 void BM_BuildMenu(benchmark::State& state) {
     Fixture f(localTime(12, 0));
-    for (auto _ : state) benchmark::DoNotOptimize(f.app->buildMenu());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(f.app->buildMenu());
 }
 BENCHMARK(BM_BuildMenu)->Unit(benchmark::kMicrosecond);
 

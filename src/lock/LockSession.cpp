@@ -31,7 +31,8 @@ void AppDelegate::startLock(const QString&, const QString& displayName, const QD
 
     const std::optional<QString> adhan =
         config_.isOn(config_.adhanEnabled, true) ? adhanFileURL() : std::nullopt;
-    if (!adhan || !platform_.playSoundFile(*adhan)) platform_.playNamedSound(QStringLiteral("Blow"));
+    if (!adhan || !platform_.playSoundFile(*adhan))
+        platform_.playNamedSound(QStringLiteral("Blow"));
 
     if (config_.isOn(config_.focusShortcuts, false) && completedLocksKeyPending_) {
         // Focus shortcuts are a separate piece of work; remember that this lock asked for one.

@@ -24,13 +24,12 @@ namespace {
 std::optional<bool> soundServerRecording() {
     const QString tool = roots().soundServerTool;
     if (tool.isEmpty()) return std::nullopt;
-    const QString program = QFileInfo(tool).isAbsolute()
-                                ? tool
-                                : QStandardPaths::findExecutable(tool);
+    const QString program =
+        QFileInfo(tool).isAbsolute() ? tool : QStandardPaths::findExecutable(tool);
     if (program.isEmpty()) return std::nullopt;
     QProcess p;
-    p.start(program, {QStringLiteral("list"), QStringLiteral("short"),
-                      QStringLiteral("source-outputs")});
+    p.start(program,
+            {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("source-outputs")});
     if (!p.waitForFinished(1000)) {
         p.kill();
         p.waitForFinished(200);
@@ -69,7 +68,8 @@ bool cameraInUse() {
     for (const QString& pid : proc.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         if (pid.isEmpty() || !pid.front().isDigit()) continue;
         const QDir fds(proc.filePath(pid) + QStringLiteral("/fd"));
-        for (const QFileInfo& fd : fds.entryInfoList(QDir::System | QDir::Files | QDir::NoDotAndDotDot)) {
+        for (const QFileInfo& fd :
+             fds.entryInfoList(QDir::System | QDir::Files | QDir::NoDotAndDotDot)) {
             if (!fd.isSymLink()) continue;
             if (fd.symLinkTarget().startsWith(QStringLiteral("/dev/video"))) return true;
         }
@@ -77,7 +77,9 @@ bool cameraInUse() {
     return false;
 }
 
-bool inCall() { return micInUse() || cameraInUse(); }
+bool inCall() {
+    return micInUse() || cameraInUse();
+}
 
 } // namespace Presence
 

@@ -63,9 +63,9 @@ TEST_F(AgentTest, InstallWritesTheUnitAndStartsIt) {
     EXPECT_TRUE(installAgent());
     EXPECT_EQ(QString::fromUtf8(readWholeFile(agentUnitPath()).value_or(QByteArray())),
               agentUnitText("/opt/tarvanel/tarvanel"));
-    EXPECT_EQ(calls(), QStringList({"--user stop com.velmora.tarvanel.service",
-                                    "--user daemon-reload",
-                                    "--user enable --now com.velmora.tarvanel.service"}));
+    EXPECT_EQ(calls(),
+              QStringList({"--user stop com.velmora.tarvanel.service", "--user daemon-reload",
+                           "--user enable --now com.velmora.tarvanel.service"}));
     EXPECT_TRUE(installAgent()); // twice in a row is fine
 }
 
@@ -88,7 +88,8 @@ TEST_F(AgentTest, InstallAgentCommandPrintsTheOutcome) {
     EXPECT_EQ(p.exitCode(), 0);
     EXPECT_EQ(QString::fromUtf8(p.readAllStandardOutput()),
               "✓ Tarvanel running — look for 🕌 in the menu bar\n");
-    EXPECT_TRUE(QFile::exists(scratchHome() + "/.config/systemd/user/com.velmora.tarvanel.service"));
+    EXPECT_TRUE(
+        QFile::exists(scratchHome() + "/.config/systemd/user/com.velmora.tarvanel.service"));
 
     // --times comes first: nothing is installed.
     QFile::remove(scratchHome() + "/calls");

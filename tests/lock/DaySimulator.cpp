@@ -100,8 +100,8 @@ void DaySimulator::record() {
     for (; seenBanners_ < platform.banners.size(); ++seenBanners_)
         events << Event{now, QStringLiteral("banner: ") + platform.banners[seenBanners_].message};
     for (; seenShows_ < platform.lockShows.size(); ++seenShows_)
-        events << Event{now, QStringLiteral("lock: ") +
-                                 platform.lockShows[seenShows_].value(0).prayer};
+        events << Event{now,
+                        QStringLiteral("lock: ") + platform.lockShows[seenShows_].value(0).prayer};
     for (; seenCloses_ < platform.closes; ++seenCloses_)
         events << Event{now, QStringLiteral("unlock")};
     for (; seenAlerts_ < platform.alerts.size(); ++seenAlerts_)

@@ -12,6 +12,12 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <ostream>
+
+// Readable QStrings in failure messages.
+inline void PrintTo(const QString& text, std::ostream* os) {
+    *os << '"' << text.toStdString() << '"';
+}
 
 namespace tarvanel::test {
 

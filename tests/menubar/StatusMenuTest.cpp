@@ -2,6 +2,8 @@
 #include "../lock/DaySimulator.h"
 
 #include "app/Agent.h"
+#include "engine/CalcMethods.h"
+#include "engine/LocalTime.h"
 #include "records/History.h"
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
@@ -22,14 +24,15 @@ protected:
     static QDateTime at(const QString& time, const QDate& date = kDay) {
         return localAt(date, time);
     }
-    static const MenuItem* find(const MenuModel& menu, const QString& prefix) {
+    static std::optional<MenuItem> find(const MenuModel& menu, const QString& prefix) {
         for (const MenuItem& item : menu)
-            if (item.text.startsWith(prefix)) return &item;
-        return nullptr;
+            if (item.text.startsWith(prefix)) return item;
+        return std::nullopt;
     }
     static QStringList texts(const QList<MenuItem>& items) {
         QStringList out;
-        for (const MenuItem& item : items) out << item.text;
+        for (const MenuItem& item : items)
+            out << item.text;
         return out;
     }
 };
@@ -42,13 +45,15 @@ TEST_F(StatusMenuTest, DayRowsWaqtPartsAndTheNextMarker) {
     EXPECT_TRUE(menu[1].text.endsWith(" AH")) << menu[1].text.toStdString();
     EXPECT_EQ(menu[2].kind, MenuItem::Kind::Separator);
     QStringList rows;
-    for (int i = 3; i < 9; ++i) rows << menu[i].text;
+    for (int i = 3; i < 9; ++i)
+        rows << menu[i].text;
     EXPECT_TRUE(rows[0].startsWith("Fajr\t6:30 AM  (waqt "));
     EXPECT_EQ(rows[1].indexOf("(waqt"), -1); // Sunrise has no lock time of its own
     EXPECT_TRUE(rows[2].startsWith("Dhuhr\t1:00 PM  (waqt "));
     EXPECT_TRUE(rows[2].endsWith("  ◀ next"));
     EXPECT_EQ(rows.filter("◀ next").size(), 1);
-    for (int i = 3; i < 9; ++i) EXPECT_FALSE(menu[i].enabled);
+    for (int i = 3; i < 9; ++i)
+        EXPECT_FALSE(menu[i].enabled);
 
     sim.sleepUntil(at("19:00"));
     sim.step();
@@ -58,8 +63,8 @@ TEST_F(StatusMenuTest, DayRowsWaqtPartsAndTheNextMarker) {
 TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
     DaySimulator sim(fixedTimesConfig(), at("13:00"));
     sim.launch();
-    const MenuItem* mark = find(sim.app->buildMenu(), "Mark as Prayed");
-    ASSERT_NE(mark, nullptr);
+    const auto mark = find(sim.app->buildMenu(), "Mark as Prayed");
+    ASSERT_TRUE(mark.has_value());
     ASSERT_EQ(mark->submenu.size(), 2);
     EXPECT_EQ(mark->submenu[0].text, "Fajr: Prayed Late (Qada)");
     EXPECT_EQ(mark->submenu[0].tag, 100);
@@ -68,7 +73,7 @@ TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
 
     mark->submenu[0].action();
     EXPECT_TRUE(sim.logs.contains("Tarvanel: marked Fajr as qada"));
-    const MenuItem* again = find(sim.app->buildMenu(), "Mark as Prayed");
+    const auto again = find(sim.app->buildMenu(), "Mark as Prayed");
     EXPECT_EQ(again->submenu[0].text, "✓ Fajr");
     EXPECT_FALSE(again->submenu[0].enabled);
     EXPECT_EQ(find(sim.app->buildMenu(), "🔥")->text, "🔥 Streak: 1 day");
@@ -76,7 +81,7 @@ TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
     // Isha is never late; out-of-range tags do nothing.
     sim.sleepUntil(at("23:30"));
     sim.step();
-    const MenuItem* night = find(sim.app->buildMenu(), "Mark as Prayed");
+    const auto night = find(sim.app->buildMenu(), "Mark as Prayed");
     EXPECT_EQ(night->submenu.last().text, "Isha: Prayed Elsewhere");
     const HistoryMap before = loadHistory();
     sim.app->markPrayed(5);
@@ -88,7 +93,7 @@ TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
 TEST_F(StatusMenuTest, NothingToMarkBeforeFajr) {
     DaySimulator sim(fixedTimesConfig(), at("01:00"));
     sim.launch();
-    const MenuItem* mark = find(sim.app->buildMenu(), "Mark as Prayed");
+    const auto mark = find(sim.app->buildMenu(), "Mark as Prayed");
     ASSERT_EQ(mark->submenu.size(), 1);
     EXPECT_EQ(mark->submenu[0].text, "Nothing to mark yet");
     EXPECT_FALSE(mark->submenu[0].enabled);
@@ -105,7 +110,8 @@ TEST_F(StatusMenuTest, SevenDayGridIsMonospacedOldestFirst) {
     ASSERT_EQ(grid.size(), 7);
     EXPECT_TRUE(grid[0].startsWith("Thu 8   ")) << grid[0].toStdString();
     EXPECT_TRUE(grid[6].startsWith("Wed 14  ")) << grid[6].toStdString();
-    for (const QString& row : grid) EXPECT_EQ(row.mid(8).split(' ').size(), 5);
+    for (const QString& row : grid)
+        EXPECT_EQ(row.mid(8).split(' ').size(), 5);
 }
 
 TEST_F(StatusMenuTest, ModeLinesAndToggles) {
@@ -119,24 +125,24 @@ TEST_F(StatusMenuTest, ModeLinesAndToggles) {
     EXPECT_EQ(find(menu, "⏸")->text, "⏸ Locks paused until Wednesday 6:00 PM");
     EXPECT_EQ(find(menu, "✈️ Travelling")->text,
               "✈️ Travelling until Thursday 15 Jan · combining prayers");
-    EXPECT_NE(find(menu, "Asr (with Dhuhr)\t"), nullptr);
-    EXPECT_NE(find(menu, "Isha (with Maghrib)\t"), nullptr);
-    EXPECT_NE(find(menu, "Resume Locks"), nullptr);
-    EXPECT_EQ(find(menu, "Pause Locks"), nullptr);
-    EXPECT_NE(find(menu, "Stop Travelling"), nullptr);
+    EXPECT_TRUE(find(menu, "Asr (with Dhuhr)\t").has_value());
+    EXPECT_TRUE(find(menu, "Isha (with Maghrib)\t").has_value());
+    EXPECT_TRUE(find(menu, "Resume Locks").has_value());
+    EXPECT_FALSE(find(menu, "Pause Locks").has_value());
+    EXPECT_TRUE(find(menu, "Stop Travelling").has_value());
 
     find(menu, "Resume Locks")->action();
     find(menu, "Stop Travelling")->action();
     menu = sim.app->buildMenu();
-    EXPECT_EQ(find(menu, "⏸"), nullptr);
-    EXPECT_EQ(find(menu, "✈️"), nullptr);
-    const MenuItem* pause = find(menu, "Pause Locks");
-    ASSERT_NE(pause, nullptr);
+    EXPECT_FALSE(find(menu, "⏸").has_value());
+    EXPECT_FALSE(find(menu, "✈️").has_value());
+    const auto pause = find(menu, "Pause Locks");
+    ASSERT_TRUE(pause.has_value());
     EXPECT_EQ(texts(pause->submenu),
               QStringList({"For the Rest of Today", "For 3 Days", "For a Week"}));
     EXPECT_EQ(pause->submenu[2].tag, 7);
-    EXPECT_NE(find(menu, "I'm Travelling…"), nullptr);
-    EXPECT_NE(find(menu, "I'm Excused…"), nullptr);
+    EXPECT_TRUE(find(menu, "I'm Travelling…").has_value());
+    EXPECT_TRUE(find(menu, "I'm Excused…").has_value());
     EXPECT_EQ(menu.last().text, "Settings…");
     EXPECT_EQ(menu.last().shortcut, ",");
     EXPECT_EQ(menu[menu.size() - 2].text, "Preview Lock (10 s)");

@@ -60,7 +60,7 @@ void AppDelegate::launchFinished() {
 
     if (testLockSeconds_) {
         exitAfterTest_ = true;
-        const QDateTime now = clock();
+        const QDateTime now = currentTime();
         startLock(QStringLiteral("Test"), QStringLiteral("Test"),
                   now.addMSecs(qint64(*testLockSeconds_ * 1000.0)));
         return;
@@ -138,7 +138,7 @@ const QString& AppDelegate::dayKeyOf(const QDateTime& now) {
 
 const DayTimes& AppDelegate::todaysTimes() {
     reloadConfigIfChanged();
-    return scheduleFor(clock());
+    return scheduleFor(currentTime());
 }
 
 const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {
@@ -162,10 +162,12 @@ const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {
             slot.valid = t && t->isValid();
             slot.at = slot.valid ? t->toMSecsSinceEpoch() : 0;
         }
-        const QString prefix = today;
-        auto keepToday = [&prefix](QSet<QString>& keys) {
+        // Keys of earlier days go. Keys of a later day stay: the clock went back over midnight
+        // (NTP, a hand correction) and those prayers are done all the same.
+        auto keepToday = [&today](QSet<QString>& keys) {
             for (auto it = keys.begin(); it != keys.end();)
-                it = it->startsWith(prefix) ? std::next(it) : keys.erase(it);
+                it = QStringView(*it).left(10) >= QStringView(today) ? std::next(it)
+                                                                     : keys.erase(it);
         };
         keepToday(firedNudges_);
         keepToday(completedLocks_);

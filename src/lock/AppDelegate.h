@@ -110,6 +110,9 @@ public:
     const DayTimes& cachedWaqt() const { return cachedWaqt_; }
     bool hasDeferredLock() const { return deferred_.has_value(); }
     bool hasStrictQuestion() const { return strict_.has_value(); }
+    // The title last handed to the platform, for a tray that appears late.
+    const QString& statusTitle() const { return lastTitle_; }
+    TitleColor statusTitleColor() const { return lastTitleColor_; }
 
 private:
     struct DeferredLock {
@@ -125,6 +128,9 @@ private:
     };
 
     enum class GuardianAnswer { ok, wrong, tooManyTries };
+
+    // `clock`, or the system clock should someone clear it.
+    QDateTime currentTime() const { return clock ? clock() : systemNow(); }
 
     // One prayer of today's schedule with the keys the tick looks up, made once per schedule.
     struct PrayerSlot {

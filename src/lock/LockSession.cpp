@@ -123,7 +123,7 @@ void AppDelegate::guardianKeyInput(const QString& text, bool del) {
     if (guardianBuffer_.size() >= 6) {
         const QString code = guardianBuffer_.left(6);
         guardianBuffer_.clear();
-        switch (verifyGuardian(code, clock())) {
+        switch (verifyGuardian(code, currentTime())) {
         case GuardianAnswer::ok:
             endLock(true);
             return;

@@ -88,7 +88,7 @@ void AppDelegate::askStrict() {
     completedLocksKeyPending_ = pending.key;
     combinedPending_ = pending.partner;
     const QString prayer = pending.key.mid(pending.key.lastIndexOf(QLatin1Char('-')) + 1);
-    startLock(prayer, pending.displayName, clock().addSecs(300));
+    startLock(prayer, pending.displayName, currentTime().addSecs(300));
 }
 
 } // namespace tarvanel

@@ -18,7 +18,7 @@ qint64 minutesMs(double minutes) {
 } // namespace
 
 void AppDelegate::tick() {
-    const QDateTime now = clock();
+    const QDateTime now = currentTime();
     if (!now.isValid()) return;
 
     // 1. Not set up. One stat of the settings file serves this check and the reload.
@@ -62,6 +62,7 @@ void AppDelegate::tick() {
 
     // 10. A lock waiting for a call.
     if (deferred_) {
+        if (now < deferred_->since) deferred_->since = now; // the clock went back: wait afresh
         const qint64 waited = deferred_->since.msecsTo(now);
         if (callCheck && callCheck() && waited < minutesMs(config_.callGrace())) {
             setStatusTitle(QStringLiteral("🕌 ") + deferred_->displayName +

@@ -60,7 +60,7 @@ MenuModel AppDelegate::buildMenu() {
         return menu;
     }
 
-    const QDateTime now = clock();
+    const QDateTime now = currentTime();
     const Config display = activeConfig();
     const DayTimes times = todaysTimes();
     const double maxDays = config_.excusedDays();
@@ -213,7 +213,7 @@ void AppDelegate::markPrayed(int tag) {
     if (tag < 0 || i >= prayerNames().size()) return;
     const QString prayer = prayerNames()[i];
     const bool elsewhere = tag < 100;
-    markKept({prayer}, dayKey(clock()),
+    markKept({prayer}, dayKey(currentTime()),
              elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"), completedLocks_);
     if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
     logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
@@ -236,7 +236,7 @@ void AppDelegate::exportHistory() {
     const std::optional<QString> path =
         platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
     if (!path) return;
-    writeFileAtomically(*path, historyCSV(config_, clock()).toUtf8());
+    writeFileAtomically(*path, historyCSV(config_, currentTime()).toUtf8());
 }
 
 void AppDelegate::uninstall() {
@@ -249,19 +249,19 @@ void AppDelegate::uninstall() {
 }
 
 void AppDelegate::startExcused() {
-    if (!askStartExcused(platform_, config_, clock())) return;
+    if (!askStartExcused(platform_, config_, currentTime())) return;
     deferred_.reset();
     tick();
 }
 
 void AppDelegate::endExcused() {
-    tarvanel::endExcused(clock());
+    tarvanel::endExcused(currentTime());
     tick();
 }
 
 void AppDelegate::startTravelling() {
     defaultsStamp_.reset();
-    if (askTravel(platform_, *defaults_, config_, clock())) tick();
+    if (askTravel(platform_, *defaults_, config_, currentTime())) tick();
 }
 
 void AppDelegate::stopTravelling() {
@@ -273,7 +273,7 @@ void AppDelegate::stopTravelling() {
 void AppDelegate::pauseLocks(int days) {
     if (lockEnd_) return;
     defaultsStamp_.reset();
-    if (askPause(platform_, *defaults_, days, clock())) tick();
+    if (askPause(platform_, *defaults_, days, currentTime())) tick();
 }
 
 void AppDelegate::resumeLocks() {

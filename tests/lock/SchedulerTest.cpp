@@ -414,4 +414,53 @@ TEST_F(SchedulerTest, TarawihReminderTwoMinutesAfterIshasWindow) {
     EXPECT_EQ(localText(tarawih[0].at).mid(11, 8), "19:42:00");
 }
 
+TEST_F(SchedulerTest, TravellingOnAFridayKeepsJumuahAndAsrApart) {
+    Config cfg = fixedTimesConfig();
+    cfg.combineWhenTravelling = true;
+    UserDefaults().setTravellingUntil(localAt(kFriday.addDays(1), "00:00"));
+    DaySimulator sim(cfg, localAt(kFriday, "12:00"));
+    sim.launch();
+    sim.runUntil(localAt(kFriday, "23:00"));
+    EXPECT_EQ(whats(sim.eventsStarting("lock:")),
+              QStringList({"lock: Jumu'ah", "lock: Asr", "lock: Maghrib & Isha"}));
+}
+
+TEST_F(SchedulerTest, WeeklyReportOnSundayEveningOnce) {
+    const QDate sunday(2026, 1, 18);
+    Config cfg = fixedTimesConfig();
+    DaySimulator sim(cfg, localAt(sunday, "20:59:58"));
+    sim.launch();
+    sim.runUntil(localAt(sunday, "21:30"));
+    const auto report = sim.eventsStarting("banner: 📿");
+    ASSERT_EQ(report.size(), 1);
+    EXPECT_EQ(report[0].at, localAt(sunday, "21:00"));
+    EXPECT_EQ(report[0].what, "banner: 📿  This week: 0/35 prayers at the Mac • streak 0 days");
+    EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::normal);
+}
+
+TEST_F(SchedulerTest, ClockGoingBackOverMidnightForgetsNothingDone) {
+    DaySimulator sim(fixedTimesConfig(), localAt(kWednesday.addDays(1), "00:00:30"));
+    sim.launch();
+    sim.app->markPrayed(0);
+    const QSet<QString> done{"2026-01-15-Fajr"};
+    EXPECT_EQ(sim.app->completedLocks(), done);
+    sim.sleepUntil(at("23:59:50")); // a correction takes the clock back a minute
+    sim.runUntil(localAt(kWednesday.addDays(1), "06:40"));
+    EXPECT_EQ(sim.app->completedLocks(), done);
+    EXPECT_EQ(stateFile(), done);
+    EXPECT_TRUE(sim.eventsStarting("lock:").isEmpty());
+}
+
+TEST_F(SchedulerTest, CallWaitIsMeasuredAfreshWhenTheClockGoesBack) {
+    DaySimulator sim(fixedTimesConfig(), at("14:54:59"));
+    sim.launch();
+    sim.inCall = true;
+    sim.runUntil(at("15:05"));
+    sim.sleepUntil(at("14:30"));
+    sim.runUntil(at("14:50")); // the first tick after the jump, 14:30:01, starts the wait
+    EXPECT_FALSE(sim.app->isLocked());
+    sim.step();
+    EXPECT_TRUE(sim.app->isLocked()); // the full grace after the jump, no more
+}
+
 } // namespace

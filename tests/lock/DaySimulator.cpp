@@ -4,6 +4,7 @@
 #include "engine/LocalTime.h"
 #include "records/Log.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace tarvanel::test {
@@ -11,9 +12,11 @@ namespace tarvanel::test {
 QDateTime localAt(const QDate& date, const QString& time) {
     const QStringList parts = time.split(QLatin1Char(':'));
     const double seconds = parts.size() > 2 ? parts[2].toDouble() : 0.0;
-    const qint64 ms = (parts[0].toLongLong() * 3600 + parts[1].toLongLong() * 60) * 1000 +
-                      qint64(seconds * 1000.0);
-    return startOfLocalDay(date).addMSecs(ms);
+    const int ms = int(std::lround(seconds * 1000.0));
+    // Wall-clock time: on a day with a clock change, "13:00" is not midnight + 13 h.
+    return QDateTime(date, QTime(parts[0].toInt(), parts[1].toInt(), ms / 1000, ms % 1000),
+                     Qt::LocalTime)
+        .toUTC();
 }
 
 QString localText(const QDateTime& instant) {

@@ -26,8 +26,7 @@ AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* par
     : QObject(parent), clock(systemNow), callCheck(Presence::inCall), platform_(platform),
       lockState_(new LockScreenState(this)), config_(loadConfig()),
       defaults_(std::make_unique<UserDefaults>()), travel_(new TravelLocator(this)),
-      configPath_(QFile::encodeName(configURL())), completedLocks_(loadCompletedLocks()),
-      defaultsPath_(QFile::encodeName(UserDefaults::defaultPath())) {
+      configPath_(QFile::encodeName(configURL())), completedLocks_(loadCompletedLocks()) {
     travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
         if (self) self->invalidateSchedule();
     };
@@ -257,12 +256,11 @@ bool AppDelegate::excusedNow(const QDateTime& now) {
     return Excused::current(config_.excusedDays(), now).has_value();
 }
 
-// The two mode instants are read again only when their file changed (our own writes change it
-// too), so an idle tick costs one stat for them rather than a re-read of the store.
+// Only this process writes the two mode instants (the running copy is the only one), so they
+// are read at the first need and again after each of our own writes, not on every tick.
 void AppDelegate::refreshModes() {
-    const FileStamp stamp = FileStamp::of(defaultsPath_);
-    if (defaultsStamp_ && stamp == *defaultsStamp_) return;
-    defaultsStamp_ = stamp;
+    if (modesFresh_) return;
+    modesFresh_ = true;
     pausedCache_ = defaults_->pausedUntil();
     travellingCache_ = defaults_->travellingUntil();
 }
@@ -273,7 +271,7 @@ std::optional<QDateTime> AppDelegate::pausedUntil() {
 }
 void AppDelegate::clearPause() {
     defaults_->setPausedUntil(std::nullopt);
-    defaultsStamp_.reset();
+    modesFresh_ = false;
 }
 std::optional<QDateTime> AppDelegate::travellingUntil() {
     refreshModes();
@@ -281,7 +279,7 @@ std::optional<QDateTime> AppDelegate::travellingUntil() {
 }
 void AppDelegate::clearTravellingUntil() {
     defaults_->setTravellingUntil(std::nullopt);
-    defaultsStamp_.reset();
+    modesFresh_ = false;
 }
 
 std::optional<TravelCoords> AppDelegate::travelCoords() const {

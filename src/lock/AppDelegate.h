@@ -211,9 +211,8 @@ private:
     };
     std::optional<TomorrowCache> tomorrow_;
     quint64 scheduleGeneration_ = 0;
-    // The user defaults as last read, refreshed when their file changes or after our own writes.
-    QByteArray defaultsPath_;
-    std::optional<FileStamp> defaultsStamp_;
+    // The user defaults as last read; our own writes mark them stale.
+    bool modesFresh_ = false;
     std::optional<QDateTime> pausedCache_, travellingCache_;
     // The countdown title's inputs at the last tick: the text is only rebuilt when they change.
     struct TitleInputs {

@@ -222,8 +222,8 @@ void AppDelegate::markPrayed(int tag) {
 }
 
 void AppDelegate::previewLock() {
-    // The preview always runs ten real seconds, whatever clock the scheduler reads.
-    startLock(QStringLiteral("Preview"), QStringLiteral("Preview"), systemNow().addSecs(10));
+    // The controller's clock, like every other instant, so the tick that ends it agrees.
+    startLock(QStringLiteral("Preview"), QStringLiteral("Preview"), currentTime().addSecs(10));
 }
 
 void AppDelegate::openSettings() {
@@ -244,7 +244,10 @@ void AppDelegate::uninstall() {
     const std::optional<bool> deleteData =
         confirmUninstall(platform_, QStringLiteral("Your prayer times stop locking the screen."));
     if (!deleteData) return;
-    if (*deleteData) defaults_->removeAll();
+    if (*deleteData) {
+        defaults_->removeAll();
+        modesFresh_ = false;
+    }
     uninstallApp(platform_, *deleteData);
 }
 
@@ -260,25 +263,25 @@ void AppDelegate::endExcused() {
 }
 
 void AppDelegate::startTravelling() {
-    defaultsStamp_.reset();
+    modesFresh_ = false;
     if (askTravel(platform_, *defaults_, config_, currentTime())) tick();
 }
 
 void AppDelegate::stopTravelling() {
     tarvanel::stopTravelling(*defaults_);
-    defaultsStamp_.reset();
+    modesFresh_ = false;
     tick();
 }
 
 void AppDelegate::pauseLocks(int days) {
     if (lockEnd_) return;
-    defaultsStamp_.reset();
+    modesFresh_ = false;
     if (askPause(platform_, *defaults_, days, currentTime())) tick();
 }
 
 void AppDelegate::resumeLocks() {
     resume(*defaults_);
-    defaultsStamp_.reset();
+    modesFresh_ = false;
     tick();
 }
 

@@ -126,6 +126,24 @@ TEST_F(LockSessionTest, WithoutAGuardianDigitsDoNothing) {
     EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
 }
 
+TEST_F(LockSessionTest, PreviewLocksTenSecondsAndRecordsNothing) {
+    Config cfg = fixedTimesConfig();
+    cfg.strictMode = true;
+    DaySimulator sim(cfg, at("12:00"));
+    sim.launch();
+    const MenuModel menu = sim.app->buildMenu();
+    menu[menu.size() - 2].action(); // "Preview Lock (10 s)"
+    EXPECT_EQ(sim.platform.lockShows.value(0).value(0).prayer, "Preview");
+    sim.runUntil(at("12:00:09"));
+    EXPECT_TRUE(sim.app->isLocked());
+    sim.step();
+    EXPECT_FALSE(sim.app->isLocked());
+    EXPECT_TRUE(sim.platform.alerts.isEmpty());
+    EXPECT_FALSE(sim.app->hasStrictQuestion());
+    EXPECT_TRUE(loadHistory().isEmpty());
+    EXPECT_TRUE(sim.app->completedLocks().isEmpty());
+}
+
 TEST_F(LockSessionTest, EachScreenGetsAWindowAndTheAdhanPrefersMp3) {
     writeSupportFile("adhan.wav", "RIFF");
     writeSupportFile("adhan.mp3", "ID3");

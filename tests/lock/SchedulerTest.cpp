@@ -480,4 +480,44 @@ TEST_F(SchedulerTest, DaysWithAClockChangeLockAtLocalTimes) {
     }
 }
 
+TEST_F(SchedulerTest, SleepEndingBeforeTheWindowSkipsOnlyTheOldReminders) {
+    DaySimulator sim(fixedTimesConfig(), at("06:00"));
+    sim.launch();
+    sim.sleepUntil(at("06:22"));
+    sim.runUntil(at("06:41"));
+    EXPECT_EQ(whats(sim.eventsStarting("banner:")),
+              QStringList{"banner: 🕌  Fajr in 6 minutes. Save your work now."});
+    EXPECT_EQ(times(sim.eventsStarting("lock:")), QStringList{"06:25:00"});
+    EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-Fajr-10"));
+}
+
+TEST_F(SchedulerTest, BrokenOrMissingSettingsFileNeverLosesTheDay) {
+    DaySimulator sim(fixedTimesConfig(), at("12:30"));
+    sim.launch();
+    sim.runUntil(at("12:45"));
+    QFile::remove(configURL());
+    writeSupportFile("config.json", "{ not json");
+    sim.runUntil(at("12:56"));
+    EXPECT_EQ(sim.logsContaining("config reloaded").size(), 1);
+    EXPECT_TRUE(sim.app->isLocked()); // the last good settings still hold
+    sim.runUntil(at("13:10"));
+
+    QFile::remove(configURL());
+    sim.runUntil(at("14:56"));
+    EXPECT_EQ(sim.platform.title, "🕌 Set up");
+    EXPECT_FALSE(sim.app->isLocked());
+    saveConfig(fixedTimesConfig());
+    sim.step(); // back inside Asr's window
+    EXPECT_TRUE(sim.app->isLocked());
+    EXPECT_EQ(whats(sim.eventsStarting("lock:")), QStringList({"lock: Dhuhr", "lock: Asr"}));
+}
+
+TEST_F(SchedulerTest, BrokenStateFileStartsTheDayAfresh) {
+    writeSupportFile("state.json", "[\"2026-01-14-Dhuhr\", 7");
+    DaySimulator sim(fixedTimesConfig(), at("12:56"));
+    sim.launch();
+    EXPECT_TRUE(sim.app->isLocked());
+    EXPECT_EQ(sim.app->lockEnd(), at("13:10"));
+}
+
 } // namespace

@@ -148,7 +148,7 @@ private:
     bool ramadanToday(const QDateTime& now);
     std::optional<QDateTime> tomorrowsFajr(const QDateTime& now);
     void runLockTick(const DayTimes& times, const QDateTime& now);
-    bool walkPrayers(const DayTimes& times, const QDateTime& now);
+    bool walkPrayers(const QDateTime& now);
     void buildLockWindows();
 
     // What the controller asks of the stores.

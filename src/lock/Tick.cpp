@@ -84,7 +84,7 @@ void AppDelegate::tick() {
         return;
     }
     // 12–13. The five prayers.
-    walkPrayers(times, now);
+    walkPrayers(now);
 
     // 14. The day's one-off banners, only while nothing locks.
     if (!lockEnd_) {
@@ -115,8 +115,8 @@ void AppDelegate::runLockTick(const DayTimes& times, const QDateTime& now) {
     updateStatusTitle(times, now);
 }
 
-bool AppDelegate::walkPrayers(const DayTimes& times, const QDateTime& now) {
-    Q_UNUSED(times); // the slots made with the schedule carry the same instants
+// The slots made with the schedule carry the same instants as `times`.
+bool AppDelegate::walkPrayers(const QDateTime& now) {
     const bool combining = combiningPrayers(now);
     const qint64 nowMs = now.toMSecsSinceEpoch();
     const qint64 leadMs = minutesMs(config_.leadMinutes());

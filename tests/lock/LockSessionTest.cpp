@@ -208,6 +208,18 @@ TEST_F(LockSessionTest, TestNudgeShowsOneReminderAndExitsAfterSeventeenSeconds) 
     EXPECT_EQ(sim.platform.settingsOpened, 0);
 }
 
+TEST_F(LockSessionTest, ShowSettingsMarkerOpensTheWindowOnceAfterTheFirstTick) {
+    writeSupportFile(".show-settings", "");
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    sim.launch();
+    EXPECT_EQ(sim.platform.settingsOpened, 1);
+    EXPECT_FALSE(sim.platform.settingsFirstRun);
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m"); // the tick ran first
+    EXPECT_FALSE(QFile::exists(supportPath(".show-settings")));
+    sim.restart();
+    EXPECT_EQ(sim.platform.settingsOpened, 1);
+}
+
 TEST_F(LockSessionTest, ASecondCopyExitsQuietly) {
     ensureSupportDir();
     const int fd = ::open(QFile::encodeName(supportPath(".instance.lock")).constData(),

@@ -154,6 +154,20 @@ TEST_F(HistoryTest, CsvExcusedRowsStopAtNowAndUnknownPrayersSortLast) {
                                   "2025-03-04,Dhuhr,excused\n"));
 }
 
+TEST_F(HistoryTest, CsvFindsPeriodsYearsApartOverlappingOrBackwards) {
+    Excused::save({
+        {utc(2025, 3, 4, 8), utc(2025, 3, 4, 23, 59, 59)}, // overlaps the next one
+        {utc(2024, 1, 10, 0), utc(2024, 1, 11, 0)},        // a whole winter day, a year earlier
+        {utc(2024, 6, 1, 12), utc(2024, 6, 1, 6)},         // ends before it starts: empty
+        {utc(2025, 3, 4, 0), utc(2025, 3, 4, 10)},
+    });
+    QString expected = QStringLiteral("date,prayer,status\n");
+    for (const char* day : {"2024-01-10", "2025-03-04"})
+        for (const char* prayer : {"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"})
+            expected += QStringLiteral("%1,%2,excused\n").arg(day, prayer);
+    EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), expected);
+}
+
 TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfSundayNine) {
     // 2 March 2025 is a Sunday; London is on GMT.
     saveHistory({{"2025-02-23", {"Fajr"}},

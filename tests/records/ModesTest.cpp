@@ -98,6 +98,12 @@ TEST_F(ModesTest, PauseRunsToTheMidnightAfterTheChosenDays) {
     EXPECT_EQ(d.pausedUntil(), utc(2025, 7, 7, 23));
     EXPECT_EQ(logs.last(), QStringLiteral("Tarvanel: paused until 2025-07-07 23:00:00 +0000"));
 
+    // Three days from Friday 24 October run across the end of summer time to Monday's midnight.
+    platform.answerAlert(1000);
+    EXPECT_TRUE(askPause(platform, d, 3, utc(2025, 10, 24, 9)));
+    EXPECT_EQ(d.pausedUntil(), utc(2025, 10, 27, 0));
+    EXPECT_TRUE(platform.alerts.last().info.contains(QStringLiteral("until Monday 27 October")));
+
     resume(d);
     EXPECT_FALSE(d.pausedUntil().has_value());
     EXPECT_EQ(logs.last(), QStringLiteral("Tarvanel: resumed"));

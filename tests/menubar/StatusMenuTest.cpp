@@ -216,4 +216,46 @@ TEST_F(StatusMenuTest, UninstallAsksAndRemovesWhatWasChosen) {
     setSystemctlForTesting({});
 }
 
+TEST_F(StatusMenuTest, ModeCommandsShowAtOnceInTheTitle) {
+    Config cfg = fixedTimesConfig();
+    cfg.combineWhenTravelling = true;
+    DaySimulator sim(cfg, at("12:00"));
+    sim.launch();
+    auto pick = [&](const QString& prefix) {
+        const auto item = find(sim.app->buildMenu(), prefix);
+        EXPECT_TRUE(item.has_value()) << prefix.toStdString();
+        return item.value_or(MenuItem::info({}));
+    };
+
+    sim.platform.answerAlert(1000);
+    pick("Pause Locks").submenu[0].action();
+    EXPECT_EQ(sim.platform.title, "🕌 Paused");
+    pick("Resume Locks").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
+
+    sim.platform.dateAnswers.push_back(kDay);
+    pick("I'm Travelling…").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
+    pick("Stop Travelling").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
+
+    sim.platform.answerAlert(1000);
+    pick("I'm Excused…").action();
+    EXPECT_EQ(sim.platform.title, "🕌");
+    EXPECT_EQ(sim.platform.titleColor, TitleColor::Secondary);
+    EXPECT_TRUE(find(sim.app->buildMenu(), "Excused · reminders and locks are off").has_value());
+    pick("No Longer Excused").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
+}
+
+TEST_F(StatusMenuTest, NoPauseOrUninstallDuringALock) {
+    DaySimulator sim(fixedTimesConfig(), at("12:55"));
+    sim.launch();
+    sim.platform.answerAlert(1000);
+    sim.app->pauseLocks(7);
+    sim.app->uninstall();
+    EXPECT_TRUE(sim.platform.alerts.isEmpty());
+    EXPECT_TRUE(sim.app->isLocked());
+}
+
 } // namespace

@@ -161,6 +161,9 @@ bool installAgent() {
     ensureSupportDir();
     if (!writeFileAtomically(unit, agentUnitText(executablePath()).toUtf8())) return false;
     systemctlUser({QStringLiteral("stop"), unitName()}); // an older copy makes way
+    // A service manager started before the graphical session does not know the display.
+    systemctlUser({QStringLiteral("import-environment"), QStringLiteral("DISPLAY"),
+                   QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("XAUTHORITY")});
     systemctlUser({QStringLiteral("daemon-reload")});
     for (int attempt = 0; attempt < 12; ++attempt) {
         if (systemctlUser({QStringLiteral("enable"), QStringLiteral("--now"), unitName()}) == 0)
@@ -199,7 +202,9 @@ void uninstallApp(Platform& platform, bool deleteData) {
         exe.startsWith(home + QStringLiteral("/Applications/")))
         QFile::moveToTrash(exe);
     logLine(QLatin1String(appDisplayName) + QStringLiteral(": uninstalled"));
-    systemctlUser({QStringLiteral("disable"), QStringLiteral("--now"), unitName()});
+    // Without --no-block the agent would wait here for its own stop.
+    systemctlUser({QStringLiteral("--no-block"), QStringLiteral("disable"), QStringLiteral("--now"),
+                   unitName()});
     platform.exitProcess(0);
 }
 

@@ -63,9 +63,10 @@ TEST_F(AgentTest, InstallWritesTheUnitAndStartsIt) {
     EXPECT_TRUE(installAgent());
     EXPECT_EQ(QString::fromUtf8(readWholeFile(agentUnitPath()).value_or(QByteArray())),
               agentUnitText("/opt/tarvanel/tarvanel"));
-    EXPECT_EQ(calls(),
-              QStringList({"--user stop com.velmora.tarvanel.service", "--user daemon-reload",
-                           "--user enable --now com.velmora.tarvanel.service"}));
+    EXPECT_EQ(calls(), QStringList({"--user stop com.velmora.tarvanel.service",
+                                    "--user import-environment DISPLAY WAYLAND_DISPLAY XAUTHORITY",
+                                    "--user daemon-reload",
+                                    "--user enable --now com.velmora.tarvanel.service"}));
     EXPECT_TRUE(installAgent()); // twice in a row is fine
 }
 

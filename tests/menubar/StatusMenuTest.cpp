@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
@@ -192,10 +193,14 @@ TEST_F(StatusMenuTest, UninstallAsksAndRemovesWhatWasChosen) {
     {
         QFile f(systemctl);
         ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("#!/bin/sh\nexit 0\n");
+        f.write(QStringLiteral("#!/bin/sh\necho \"$@\" >> %1/calls\n").arg(scratchHome()).toUtf8());
         f.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     setSystemctlForTesting(systemctl);
+    QDir().mkpath(QFileInfo(agentUnitPath()).absolutePath());
+    QFile unit(agentUnitPath());
+    ASSERT_TRUE(unit.open(QIODevice::WriteOnly));
+    unit.close();
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
     sim.launch();
     sim.app->uninstall(); // cancelled
@@ -213,6 +218,10 @@ TEST_F(StatusMenuTest, UninstallAsksAndRemovesWhatWasChosen) {
     EXPECT_EQ(sim.platform.exitStatus, 0);
     EXPECT_FALSE(QDir(supportDir()).exists());
     EXPECT_TRUE(sim.logs.contains("Tarvanel: uninstalled"));
+    // The agent must not wait for its own stop.
+    EXPECT_EQ(readWholeFile(scratchHome() + "/calls").value_or(QByteArray()),
+              "--user --no-block disable --now com.velmora.tarvanel.service\n");
+    EXPECT_FALSE(QFile::exists(agentUnitPath()));
     setSystemctlForTesting({});
 }
 

@@ -76,7 +76,7 @@ TEST_F(SchedulerTest, RoadOfDhuhrToTheSecond) {
     EXPECT_TRUE(sim.app->lockState()->countdown().isEmpty());
 }
 
-TEST_F(SchedulerTest, WholeDayLocksEachPrayerOnceAndStaysFast) {
+TEST_F(SchedulerTest, WholeDayLocksEachPrayerOnceAndAsksAboutCallsOnlyWhenDue) {
     DaySimulator sim(fixedTimesConfig(), at("00:00"));
     sim.launch();
     sim.runUntil(at("23:59:59"));

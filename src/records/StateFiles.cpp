@@ -58,8 +58,10 @@ std::optional<QByteArray> readWholeFile(const QString& path) {
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
     QSaveFile f(path);
-    if (!f.open(QIODevice::WriteOnly)) return false;
-    if (f.write(bytes) != bytes.size()) {
+    // Unbuffered, so a short write (disk full, size limit) is seen here: QSaveFile does not
+    // notice a failure of the final flush and would replace the file with a truncated one.
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
+    if (f.write(bytes) != bytes.size() || !f.flush()) {
         f.cancelWriting();
         return false;
     }

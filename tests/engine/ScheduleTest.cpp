@@ -82,12 +82,21 @@ TEST_F(ScheduleTest, ParseFixedTimeReadsLooseButValidClockTimes) {
         EXPECT_FALSE(parseFixedTime(bad, day).has_value()) << bad;
 }
 
-TEST_F(ScheduleTest, FixedTimesOnDaylightSavingDayCountElapsedSeconds) {
-    // On the spring-forward day 03:00 is three elapsed hours after midnight: 04:00 BST.
-    const QDateTime day = startOfLocalDay(QDate(2025, 3, 30));
-    const auto t = parseFixedTime("03:00", day);
-    ASSERT_TRUE(t);
-    EXPECT_EQ(clock(t), "04:00");
+TEST_F(ScheduleTest, FixedTimesFollowTheWallClockOnClockChangeDays) {
+    // London springs forward at 01:00 on 30 March 2025 and falls back at 02:00 on 26 October.
+    for (const QDate date : {QDate(2025, 3, 30), QDate(2025, 10, 26)}) {
+        SCOPED_TRACE(date.toString(Qt::ISODate).toStdString());
+        const QDateTime day = startOfLocalDay(date);
+        for (const char* text : {"00:30", "03:00", "13:30", "20:30", "23:59"})
+            EXPECT_EQ(clock(parseFixedTime(text, day)), text);
+    }
+    // 01:30 does not exist on the spring day: it reads as the instant an hour and a half after
+    // midnight, 02:30 on the clock.
+    EXPECT_EQ(clock(parseFixedTime("01:30", startOfLocalDay(QDate(2025, 3, 30)))), "02:30");
+    test::setTimeZone("America/New_York");
+    const QDateTime fallBack = startOfLocalDay(QDate(2025, 11, 2));
+    EXPECT_EQ(clock(parseFixedTime("13:30", fallBack)), "13:30");
+    EXPECT_EQ(fallBack.secsTo(*parseFixedTime("13:30", fallBack)), 14 * 3600 + 1800);
 }
 
 TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverride) {

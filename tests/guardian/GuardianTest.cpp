@@ -132,10 +132,13 @@ TEST_F(GuardianTest, SecretFileIsReadStrictlyWithSurroundingWhiteSpace) {
     EXPECT_EQ(Guardian::secret(), rfcKey);
     test::writeSupportFile(".guardian", "  \t" + rfcKey.toBase64() + "\r\n\n");
     EXPECT_EQ(Guardian::secret(), rfcKey);
+    test::writeSupportFile(".guardian", rfcKey.toBase64() + "\xc2\xa0\xe2\x80\xa8");
+    EXPECT_EQ(Guardian::secret(), rfcKey); // no-break space, line separator
 
     for (const QByteArray& bad :
          {QByteArray(), QByteArray("\n"), QByteArray("not base64!"), QByteArray("QUJD RA=="),
-          QByteArray("QUJDRA"), QByteArray("QUJDRA=\n="), QByteArray("\xff\xfe\x00", 3)}) {
+          QByteArray("QUJDRA"), QByteArray("QUJDRA=\n="), QByteArray("\xff\xfe\x00", 3),
+          rfcKey.toBase64() + "\xff"}) {
         SCOPED_TRACE(bad.toHex().toStdString());
         test::writeSupportFile(".guardian", bad);
         EXPECT_FALSE(Guardian::secret().has_value());

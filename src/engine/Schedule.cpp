@@ -4,6 +4,7 @@
 #include "records/Log.h"
 #include "timetable/Timetable.h"
 
+#include <QSet>
 #include <cmath>
 
 namespace tarvanel {
@@ -84,8 +85,15 @@ DayTimes applyOverrides(const DayTimes& times, const Config& cfg, const QDateTim
         if (const auto fixed = parseFixedTime(rule.toString(), on)) {
             result.insert(name, *fixed);
         } else {
-            logLine(QStringLiteral("Tarvanel: ignoring invalid override for %1: \"%2\"")
-                        .arg(name, it.value()));
+            // Schedules are computed for many days (menu grid, export): say it once per rule.
+            static QSet<QString> reported;
+            const QString line =
+                QStringLiteral("Tarvanel: ignoring invalid override for %1: \"%2\"")
+                    .arg(name, it.value());
+            if (!reported.contains(line)) {
+                reported.insert(line);
+                logLine(line);
+            }
         }
     }
     return result;

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QMap>
 #include <QString>
+#include <cmath>
 #include <optional>
 
 namespace tarvanel {
@@ -39,8 +40,12 @@ struct Config {
 
     bool operator==(const Config&) const = default;
 
-    // Readers fall back to the same defaults when an optional is absent.
-    double leadMinutes() const { return lockLeadMinutes.value_or(5); }
+    // Readers fall back to the same defaults when an optional is absent. A lead that is not a
+    // usable number of minutes (hand-edited to inf or 1e300) counts as absent too.
+    double leadMinutes() const {
+        const double v = lockLeadMinutes.value_or(5);
+        return std::isfinite(v) && std::fabs(v) <= 1e6 ? v : 5;
+    }
     double jumuahLock() const { return jumuahLockMinutes.value_or(45); }
     double callGrace() const { return callGraceMinutes.value_or(20); }
     double excusedDays() const { return excusedMaxDays.value_or(15); }

@@ -1,5 +1,6 @@
 #pragma once
 // Times of one day: prayer name → instant, for the six names the engine produces.
+#include <QAnyStringView>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -29,23 +30,23 @@ public:
     static constexpr int Count = 6;
 
     // Index in dayRowNames(), or -1 for any other name.
-    static int indexOf(QStringView name) {
+    static int indexOf(QAnyStringView name) {
         const QStringList& names = dayRowNames();
         for (int i = 0; i < Count; ++i)
-            if (names[i] == name) return i;
+            if (QAnyStringView::equal(names[i], name)) return i;
         return -1;
     }
 
-    std::optional<QDateTime> value(QStringView name) const {
+    std::optional<QDateTime> value(QAnyStringView name) const {
         const int i = indexOf(name);
         return i < 0 ? std::nullopt : slots_[size_t(i)];
     }
-    bool contains(QStringView name) const { return value(name).has_value(); }
-    void insert(QStringView name, const QDateTime& instant) {
+    bool contains(QAnyStringView name) const { return value(name).has_value(); }
+    void insert(QAnyStringView name, const QDateTime& instant) {
         const int i = indexOf(name);
         if (i >= 0) slots_[size_t(i)] = instant;
     }
-    void remove(QStringView name) {
+    void remove(QAnyStringView name) {
         const int i = indexOf(name);
         if (i >= 0) slots_[size_t(i)].reset();
     }

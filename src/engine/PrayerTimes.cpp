@@ -7,9 +7,13 @@ namespace tarvanel {
 namespace {
 constexpr double kDeg = M_PI / 180.0;
 
+// x modulo m in [0, m). Same value as fmod plus m for negatives, without glibc's slow fmod.
 double fixMod(double x, double m) {
-    double r = std::fmod(x, m);
-    return r < 0 ? r + m : r;
+    if (x >= 0 && x < m) return x;
+    double r = x - m * std::floor(x / m);
+    if (r >= m) r -= m;
+    if (r < 0) r += m;
+    return r;
 }
 double fix360(double x) {
     return fixMod(x, 360.0);
@@ -67,6 +71,8 @@ DayTimes PrayerTimes::times(const QDateTime& date) {
     const double jd =
         std::floor((y + 4716) * 365.25) + std::floor((m + 1) * 30.6001) + local.day + b - 1524.5;
     jDate = jd - cfg_.longitude / 360.0;
+    sinLat_ = dsin(cfg_.latitude);
+    cosLat_ = dcos(cfg_.latitude);
 
     double fajr = 5.0 / 24, sunrise = 6.0 / 24, dhuhr = 0.5, asr = 13.0 / 24, sunset = 0.75,
            maghrib = 0.75, isha = 0.75;
@@ -124,7 +130,7 @@ DayTimes PrayerTimes::times(const QDateTime& date) {
     for (double v : values)
         anyFinite = anyFinite || std::isfinite(v);
     if (!anyFinite) return result;
-    const QDateTime dayStart = startOfLocalDay(QDate(local.year, local.month, local.day));
+    const QDateTime dayStart = startOfLocalDay(date);
     if (!dayStart.isValid()) return result;
     const qint64 startMs = dayStart.toMSecsSinceEpoch();
     for (int i = 0; i < DayTimes::Count; ++i) {

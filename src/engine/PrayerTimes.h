@@ -26,6 +26,7 @@ private:
     double sunAngleTime(double angle, double time, bool ccw) const;
 
     Config cfg_;
+    double sinLat_ = 0, cosLat_ = 1; // of cfg_.latitude, once per day computed
 };
 
 } // namespace tarvanel

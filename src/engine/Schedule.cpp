@@ -4,6 +4,7 @@
 #include "records/Log.h"
 #include "timetable/Timetable.h"
 
+#include <QSet>
 #include <cmath>
 
 namespace tarvanel {
@@ -56,7 +57,16 @@ std::optional<QDateTime> parseFixedTime(const QString& text, const QDateTime& on
         return std::nullopt;
     const QDateTime start = startOfLocalDay(on);
     if (!start.isValid()) return std::nullopt;
-    return start.addSecs(qint64(*hour) * 3600 + qint64(*minute) * 60);
+    // Follow the wall clock on days when the clock changes: 20:30 is 20:30 on the clock, not
+    // twenty and a half hours after midnight. A clock time that the change skips stays at the
+    // elapsed-time reading, just after the jump.
+    const QDateTime elapsed = start.addSecs(qint64(*hour) * 3600 + qint64(*minute) * 60);
+    const int shift = utcOffsetSeconds(start) - utcOffsetSeconds(elapsed);
+    if (shift == 0) return elapsed;
+    const QDateTime wall = elapsed.addSecs(shift);
+    const LocalFields f = localFields(wall);
+    if (f.hour == *hour && f.minute == *minute) return wall;
+    return elapsed;
 }
 
 DayTimes applyOverrides(const DayTimes& times, const Config& cfg, const QDateTime& on) {
@@ -75,8 +85,15 @@ DayTimes applyOverrides(const DayTimes& times, const Config& cfg, const QDateTim
         if (const auto fixed = parseFixedTime(rule.toString(), on)) {
             result.insert(name, *fixed);
         } else {
-            logLine(QStringLiteral("Tarvanel: ignoring invalid override for %1: \"%2\"")
-                        .arg(name, it.value()));
+            // Schedules are computed for many days (menu grid, export): say it once per rule.
+            static QSet<QString> reported;
+            const QString line =
+                QStringLiteral("Tarvanel: ignoring invalid override for %1: \"%2\"")
+                    .arg(name, it.value());
+            if (!reported.contains(line)) {
+                reported.insert(line);
+                logLine(line);
+            }
         }
     }
     return result;

@@ -5,6 +5,8 @@
 
 #include <QFile>
 #include <QJsonDocument>
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace tarvanel;
 using tarvanel::test::writeSupportFile;
@@ -113,14 +115,21 @@ TEST_F(ConfigTest, NonFiniteNumbersAreNotWrittenAndOldFileStays) {
     EXPECT_EQ(*readWholeFile(configURL()), before);
 }
 
-TEST_F(ConfigTest, SaveIntoReadOnlyFolderFailsQuietlyAndKeepsOldFile) {
+TEST_F(ConfigTest, FailedWriteLeavesThePreviousFileWhole) {
+    // A file-size limit makes the disk "fill up" part-way through the write, for root too.
     saveConfig(Config());
     const QByteArray before = *readWholeFile(configURL());
-    QFile::setPermissions(supportDir(), QFile::ReadOwner | QFile::ExeOwner);
     Config c;
-    c.latitude = 10;
+    c.locationName = QString(4096, 'x');
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit small = old;
+    small.rlim_cur = 512;
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     saveConfig(c);
-    QFile::setPermissions(supportDir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    if (geteuid() == 0) GTEST_SKIP() << "root ignores folder permissions";
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, oldHandler);
     EXPECT_EQ(*readWholeFile(configURL()), before);
+    EXPECT_EQ(loadConfig(), Config());
 }

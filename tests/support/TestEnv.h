@@ -1,8 +1,20 @@
 #pragma once
 // A scratch home for each test process, emptied between tests, and helpers to switch the
 // process's time zone.
+#include <QDateTime>
 #include <QString>
 #include <gtest/gtest.h>
+#include <ostream>
+
+// Readable failure messages for Qt values.
+QT_BEGIN_NAMESPACE
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
+inline void PrintTo(const QDateTime& t, std::ostream* os) {
+    *os << t.toString(Qt::ISODateWithMs).toStdString();
+}
+QT_END_NAMESPACE
 
 namespace tarvanel::test {
 

@@ -1,0 +1,174 @@
+#include "engine/PrayerTimes.h"
+#include "engine/LocalTime.h"
+#include "support/TestEnv.h"
+
+#include <cmath>
+
+using namespace tarvanel;
+
+namespace {
+
+class PrayerTimesTest : public test::ScratchTest {};
+
+Config at(double lat, double lon) {
+    Config c;
+    c.latitude = lat;
+    c.longitude = lon;
+    return c;
+}
+
+QDateTime localNoon(int y, int m, int d) {
+    return startOfLocalDay(QDate(y, m, d)).addSecs(12 * 3600);
+}
+
+double hoursAfterMidnight(const QDateTime& instant) {
+    const LocalFields f = localFields(instant);
+    return f.hour + f.minute / 60.0 + f.second / 3600.0;
+}
+
+double minutesBetween(const QDateTime& a, const QDateTime& b) {
+    return a.msecsTo(b) / 60000.0;
+}
+
+} // namespace
+
+TEST_F(PrayerTimesTest, OrdinaryDayHasAllSixInOrderOnTheSameLocalDay) {
+    test::setTimeZone("Asia/Riyadh");
+    const QDateTime day = localNoon(2024, 11, 5);
+    const DayTimes t = PrayerTimes(at(21.4225, 39.8262)).times(day);
+    QDateTime previous;
+    for (const QString& name : dayRowNames()) {
+        SCOPED_TRACE(name.toStdString());
+        ASSERT_TRUE(t.contains(name));
+        EXPECT_EQ(localDate(*t.value(name)), QDate(2024, 11, 5));
+        if (previous.isValid()) {
+            EXPECT_LT(previous, *t.value(name));
+        }
+        previous = *t.value(name);
+    }
+}
+
+TEST_F(PrayerTimesTest, MarginsAndMinuteRulesAreExact) {
+    test::setTimeZone("Asia/Riyadh");
+    Config c = at(21.4225, 39.8262);
+    c.ishaMinutes = 90;
+    PrayerTimes pt(c);
+    const DayTimes t = pt.times(localNoon(2025, 1, 10));
+    // No Maghrib angle: Maghrib is sunset + 2 min, so Isha (sunset + 90) is 88 min later.
+    EXPECT_NEAR(minutesBetween(*t.value("Maghrib"), *t.value("Isha")), 88.0, 0.01);
+
+    EXPECT_DOUBLE_EQ(pt.tz, 3.0); // the zone's offset at the instant, in hours
+}
+
+TEST_F(PrayerTimesTest, HighLatitudeSummerUsesNightPortion) {
+    // At 55° N in June the sun never gets 18° below the horizon.
+    test::setTimeZone("Europe/London");
+    const Config c = at(55.0, -1.6);
+    const DayTimes t = PrayerTimes(c).times(localNoon(2025, 6, 21));
+    ASSERT_TRUE(t.contains("Sunrise") && t.contains("Fajr") && t.contains("Isha"));
+    const double sunrise = hoursAfterMidnight(*t.value("Sunrise"));
+    const double sunsetish = hoursAfterMidnight(*t.value("Maghrib")) - 1.0 / 30;
+    const double night = sunrise - sunsetish + 24;
+    EXPECT_NEAR(minutesBetween(*t.value("Fajr"), *t.value("Sunrise")), 18.0 / 60 * night * 60,
+                0.05);
+    EXPECT_NEAR(hoursAfterMidnight(*t.value("Isha")) - sunsetish, 17.0 / 60 * night, 0.001);
+}
+
+TEST_F(PrayerTimesTest, PolarNightAndPolarDayDropTheMissingTimes) {
+    test::setTimeZone("Europe/Oslo");
+    const Config tromso = at(69.65, 18.96);
+    const DayTimes winter = PrayerTimes(tromso).times(localNoon(2024, 12, 21));
+    EXPECT_FALSE(winter.contains("Sunrise"));
+    EXPECT_FALSE(winter.contains("Maghrib")); // sunset + 2 min needs a sunset
+    EXPECT_TRUE(winter.contains("Dhuhr"));
+    EXPECT_TRUE(winter.contains("Fajr")); // the sun reaches 18° below the horizon
+
+    const DayTimes summer = PrayerTimes(tromso).times(localNoon(2025, 6, 21));
+    EXPECT_FALSE(summer.contains("Sunrise"));
+    EXPECT_FALSE(summer.contains("Fajr"));
+    EXPECT_FALSE(summer.contains("Isha"));
+    EXPECT_TRUE(summer.contains("Dhuhr"));
+    EXPECT_TRUE(summer.contains("Asr"));
+}
+
+TEST_F(PrayerTimesTest, WestLongitudeMovesTheDayLater) {
+    test::setTimeZone("UTC");
+    const QDateTime day = localNoon(2025, 3, 20);
+    PrayerTimes greenwich(at(0, 0));
+    PrayerTimes west(at(0, -45));
+    const DayTimes a = greenwich.times(day);
+    const DayTimes b = west.times(day);
+    EXPECT_NEAR(west.jDate - greenwich.jDate, 45.0 / 360, 1e-12);
+    // 45° west is three hours later by the clock, less the small change of the equation of time.
+    EXPECT_NEAR(minutesBetween(*a.value("Dhuhr"), *b.value("Dhuhr")), 180.0, 0.2);
+}
+
+TEST_F(PrayerTimesTest, TimesWrapIntoTheSameCalendarDay) {
+    // Far east of the zone's meridian the late times wrap to the small hours of the same date.
+    test::setTimeZone("UTC");
+    Config c = at(0, 170);
+    const DayTimes t = PrayerTimes(c).times(localNoon(2025, 3, 20));
+    for (const QString& name : dayRowNames()) {
+        SCOPED_TRACE(name.toStdString());
+        ASSERT_TRUE(t.contains(name));
+        EXPECT_EQ(localDate(*t.value(name)), QDate(2025, 3, 20));
+    }
+    EXPECT_LT(*t.value("Isha"), *t.value("Fajr")); // 170° E: Isha is early in the UTC day
+}
+
+TEST_F(PrayerTimesTest, UsesTheZoneOffsetInForceAtTheGivenInstant) {
+    // London springs forward at 01:00 on 30 March 2025. Computed from local midnight the
+    // offset is still GMT and Dhuhr lands at its true instant; from an afternoon instant the
+    // offset is BST and every time moves one hour later on that day only.
+    test::setTimeZone("Europe/London");
+    const Config c = at(51.5072, -0.1276);
+    const QDateTime midnight = startOfLocalDay(QDate(2025, 3, 30));
+    const DayTimes early = PrayerTimes(c).times(midnight);
+    const DayTimes late = PrayerTimes(c).times(midnight.addSecs(15 * 3600));
+    EXPECT_NEAR(minutesBetween(*early.value("Dhuhr"), *late.value("Dhuhr")), 60.0, 0.01);
+    const LocalFields dhuhr = localFields(*early.value("Dhuhr"));
+    EXPECT_EQ(dhuhr.utcOffsetSeconds, 3600);
+    EXPECT_EQ(dhuhr.hour, 13);
+
+    // The day before and after agree within a few minutes once both sides use the same offset.
+    const DayTimes before = PrayerTimes(c).times(startOfLocalDay(QDate(2025, 3, 29)));
+    EXPECT_NEAR(hoursAfterMidnight(*early.value("Dhuhr")) -
+                    hoursAfterMidnight(*before.value("Dhuhr")),
+                1.0, 0.02);
+}
+
+TEST_F(PrayerTimesTest, NewYorkFallBackDayKeepsTimesOnTheirDate) {
+    test::setTimeZone("America/New_York");
+    const Config c = at(40.7128, -74.0060);
+    const QDate day(2025, 11, 2); // clocks go back at 02:00
+    const DayTimes t = PrayerTimes(c).times(startOfLocalDay(day));
+    for (const QString& name : dayRowNames()) {
+        SCOPED_TRACE(name.toStdString());
+        ASSERT_TRUE(t.contains(name));
+        EXPECT_EQ(localDate(*t.value(name)), day);
+    }
+    // The day is 25 hours long: midnight is EDT and Dhuhr is EST.
+    EXPECT_EQ(utcOffsetSeconds(startOfLocalDay(day)), -4 * 3600);
+    EXPECT_EQ(utcOffsetSeconds(*t.value("Dhuhr")), -5 * 3600);
+}
+
+TEST_F(PrayerTimesTest, NonsenseCoordinatesGiveNoTimesInsteadOfGarbage) {
+    test::setTimeZone("UTC");
+    const QDateTime day = localNoon(2025, 3, 20);
+    for (double lat : {std::nan(""), 1000.0, -91.0, 1e308}) {
+        SCOPED_TRACE(lat);
+        Config c = at(lat, 0);
+        const DayTimes t = PrayerTimes(c).times(day);
+        for (int i = 0; i < DayTimes::Count; ++i)
+            if (t.at(i)) {
+                EXPECT_EQ(localDate(*t.at(i)), QDate(2025, 3, 20));
+            }
+    }
+    Config inf = at(10, std::numeric_limits<double>::infinity());
+    EXPECT_TRUE(PrayerTimes(inf).times(day).isEmpty());
+    Config badAngles = at(10, 10);
+    badAngles.fajrAngle = std::nan("");
+    badAngles.asrFactor = -5;
+    const DayTimes t = PrayerTimes(badAngles).times(day);
+    EXPECT_TRUE(t.contains("Dhuhr"));
+}

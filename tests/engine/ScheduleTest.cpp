@@ -1,0 +1,160 @@
+#include "engine/Schedule.h"
+#include "engine/LocalTime.h"
+#include "engine/PrayerTimes.h"
+#include "records/Log.h"
+#include "records/StateFiles.h"
+#include "support/TestEnv.h"
+
+using namespace tarvanel;
+
+namespace {
+
+class ScheduleTest : public test::ScratchTest {
+protected:
+    void SetUp() override {
+        ScratchTest::SetUp();
+        setLogSink([this](const QString& line) { logs << line; });
+        cfg.locationName = "London";
+        cfg.latitude = 51.5072;
+        cfg.longitude = -0.1276;
+    }
+    QString clock(const std::optional<QDateTime>& t) const {
+        return t ? formatLocal(*t, "HH:mm") : QString("absent");
+    }
+    Config cfg;
+    QStringList logs;
+    // Tuesday 11 March 2025 and Friday 14 March 2025, both at local midnight.
+    const QDateTime tuesday = startOfLocalDay(QDate(2025, 3, 11));
+    const QDateTime friday = startOfLocalDay(QDate(2025, 3, 14));
+};
+
+} // namespace
+
+TEST_F(ScheduleTest, PlainWeekdayLocksAtWaqt) {
+    const EffectiveTimes t = effectiveTimes(tuesday, cfg);
+    EXPECT_FALSE(t.jumuah);
+    EXPECT_EQ(t.final, t.waqt);
+    EXPECT_EQ(t.waqt, PrayerTimes(cfg).times(tuesday));
+}
+
+TEST_F(ScheduleTest, OverridesApplyToWaqtIndependentlyAndInAnyOrder) {
+    cfg.prayerOverrides =
+        QMap<QString, QString>{{"Dhuhr", " +10\t"}, {"Asr", "-5"},  {"Isha", "04:00"},
+                               {"Maghrib", "+0"},   {"Fajr", "-0"}, {"Sunrise", "+2.5"}};
+    const EffectiveTimes t = effectiveTimes(tuesday, cfg);
+    EXPECT_EQ(*t.final.value("Dhuhr"), t.waqt.value("Dhuhr")->addSecs(600));
+    EXPECT_EQ(*t.final.value("Asr"), t.waqt.value("Asr")->addSecs(-300));
+    EXPECT_EQ(*t.final.value("Maghrib"), *t.waqt.value("Maghrib"));
+    EXPECT_EQ(*t.final.value("Fajr"), *t.waqt.value("Fajr"));
+    EXPECT_EQ(*t.final.value("Sunrise"), t.waqt.value("Sunrise")->addSecs(150));
+    // A fixed 04:00 stays on the same calendar day, before Fajr.
+    EXPECT_EQ(*t.final.value("Isha"), tuesday.addSecs(4 * 3600));
+    EXPECT_LT(*t.final.value("Isha"), *t.final.value("Fajr"));
+    EXPECT_TRUE(logs.isEmpty());
+
+    // +90 may carry a prayer past the next one: nothing reorders or clamps.
+    cfg.prayerOverrides = QMap<QString, QString>{{"Fajr", "+600"}};
+    const EffectiveTimes late = effectiveTimes(tuesday, cfg);
+    EXPECT_GT(*late.final.value("Fajr"), *late.final.value("Dhuhr"));
+}
+
+TEST_F(ScheduleTest, InvalidRulesKeepWaqtAndOnlyFixedOnesAreLogged) {
+    cfg.prayerOverrides = QMap<QString, QString>{
+        {"Fajr", "+abc"}, {"Dhuhr", "25:00"},    {"Asr", "7"},         {"Maghrib", "7:5:0"},
+        {"Isha", "+inf"}, {"Tahajjud", "03:00"}, {"Sunrise", "+1e300"}};
+    const EffectiveTimes t = effectiveTimes(tuesday, cfg);
+    EXPECT_EQ(t.final, t.waqt);
+    EXPECT_EQ(logs, (QStringList{
+                        "Tarvanel: ignoring invalid override for Asr: \"7\"",
+                        "Tarvanel: ignoring invalid override for Dhuhr: \"25:00\"",
+                        "Tarvanel: ignoring invalid override for Maghrib: \"7:5:0\"",
+                    }));
+}
+
+TEST_F(ScheduleTest, ParseFixedTimeReadsLooseButValidClockTimes) {
+    const QDateTime day = tuesday.addSecs(15 * 3600);
+    EXPECT_EQ(parseFixedTime("13::30", day), tuesday.addSecs(13 * 3600 + 1800));
+    EXPECT_EQ(parseFixedTime(" 6:05\t", day), tuesday.addSecs(6 * 3600 + 300));
+    EXPECT_EQ(parseFixedTime("+7:+05", day), tuesday.addSecs(7 * 3600 + 300));
+    EXPECT_EQ(parseFixedTime("0:0", day), tuesday);
+    for (const char* bad : {"24:00", "12:60", "-1:00", "12", "1:2:3", "a:b", "12:3x", "", " : ",
+                            "1 2:30", "99999999999:00", "１２:30"})
+        EXPECT_FALSE(parseFixedTime(bad, day).has_value()) << bad;
+}
+
+TEST_F(ScheduleTest, FixedTimesFollowTheWallClockOnClockChangeDays) {
+    // London springs forward at 01:00 on 30 March 2025 and falls back at 02:00 on 26 October.
+    for (const QDate date : {QDate(2025, 3, 30), QDate(2025, 10, 26)}) {
+        SCOPED_TRACE(date.toString(Qt::ISODate).toStdString());
+        const QDateTime day = startOfLocalDay(date);
+        for (const char* text : {"00:30", "03:00", "13:30", "20:30", "23:59"})
+            EXPECT_EQ(clock(parseFixedTime(text, day)), text);
+    }
+    // 01:30 does not exist on the spring day: it reads as the instant an hour and a half after
+    // midnight, 02:30 on the clock.
+    EXPECT_EQ(clock(parseFixedTime("01:30", startOfLocalDay(QDate(2025, 3, 30)))), "02:30");
+    test::setTimeZone("America/New_York");
+    const QDateTime fallBack = startOfLocalDay(QDate(2025, 11, 2));
+    EXPECT_EQ(clock(parseFixedTime("13:30", fallBack)), "13:30");
+    EXPECT_EQ(fallBack.secsTo(*parseFixedTime("13:30", fallBack)), 14 * 3600 + 1800);
+}
+
+TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverride) {
+    cfg.prayerOverrides = QMap<QString, QString>{{"Dhuhr", "12:15"}};
+    const EffectiveTimes t = effectiveTimes(friday, cfg);
+    EXPECT_TRUE(t.jumuah);
+    EXPECT_EQ(clock(t.final.value("Dhuhr")), "13:30");
+    EXPECT_NE(clock(t.waqt.value("Dhuhr")), "13:30");
+
+    cfg.jumuahEnabled = false;
+    const EffectiveTimes off = effectiveTimes(friday, cfg);
+    EXPECT_FALSE(off.jumuah);
+    EXPECT_EQ(clock(off.final.value("Dhuhr")), "12:15");
+
+    cfg.jumuahEnabled.reset(); // absent counts as enabled
+    cfg.jumuahTime = "13:75";
+    const EffectiveTimes unreadable = effectiveTimes(friday, cfg);
+    EXPECT_FALSE(unreadable.jumuah);
+    EXPECT_EQ(clock(unreadable.final.value("Dhuhr")), "12:15");
+
+    cfg.jumuahTime.reset();
+    EXPECT_FALSE(effectiveTimes(friday, cfg).jumuah);
+    EXPECT_TRUE(isFriday(friday));
+    EXPECT_FALSE(isFriday(tuesday));
+}
+
+TEST_F(ScheduleTest, TimetableWinsOverOverridesAndItsJumuahOverTheSetting) {
+    test::writeSupportFile("timetable.json", R"({
+        "2025-03-11": {"Fajr": "05:45", "Asr": "16:40", "Isha": "not a time", "Witr": "23:00"},
+        "2025-03-14": {"Jumu'ah": "13:10", "Maghrib": "18:22"}
+    })");
+    cfg.prayerOverrides = QMap<QString, QString>{{"Fajr", "+20"}, {"Isha", "+5"}};
+    const EffectiveTimes t = effectiveTimes(tuesday, cfg);
+    EXPECT_EQ(clock(t.final.value("Fajr")), "05:45");
+    EXPECT_EQ(clock(t.final.value("Asr")), "16:40");
+    EXPECT_EQ(*t.final.value("Isha"), t.waqt.value("Isha")->addSecs(300));
+    EXPECT_FALSE(t.jumuah);
+
+    const EffectiveTimes f = effectiveTimes(friday, cfg);
+    EXPECT_TRUE(f.jumuah);
+    EXPECT_EQ(clock(f.final.value("Dhuhr")), "13:10");
+    EXPECT_EQ(clock(f.final.value("Maghrib")), "18:22");
+}
+
+TEST_F(ScheduleTest, TimeModeRowsWriteTheirRules) {
+    EXPECT_EQ(label(TimeMode::offset), "After start");
+    EXPECT_EQ(timeModeFromRaw("fixed"), TimeMode::fixed);
+    EXPECT_FALSE(timeModeFromRaw("Fixed"));
+    PrayerTimeRow row{"Asr", TimeMode::offset, 10, {}};
+    EXPECT_EQ(row.id(), "pray-Asr");
+    EXPECT_EQ(row.rule(), QString("+10"));
+    row.minutes = -5;
+    EXPECT_EQ(row.rule(), QString("-5"));
+    row.minutes = 0;
+    EXPECT_FALSE(row.rule());
+    row.mode = TimeMode::fixed;
+    row.time = tuesday.addSecs(7 * 3600 + 5 * 60 + 59);
+    EXPECT_EQ(row.rule(), QString("07:05"));
+    row.mode = TimeMode::waqt;
+    EXPECT_FALSE(row.rule());
+}

@@ -1,0 +1,157 @@
+// Runs the real binary: `tarvanel --times` must print the header and table to the character.
+#include "engine/LocalTime.h"
+#include "engine/Schedule.h"
+#include "records/StateFiles.h"
+#include "support/TestEnv.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+
+using namespace tarvanel;
+
+namespace {
+
+struct Result {
+    int status = -1;
+    QString out, err;
+};
+
+class TimesCommandTest : public test::ScratchTest {
+protected:
+    Result run(const QStringList& args, const char* tz = "Europe/London") {
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("HOME", test::scratchHome());
+        env.insert("TZ", tz);
+        env.insert("LC_ALL", "C");
+        env.remove("TARVANEL_AGENT");
+        p.setProcessEnvironment(env);
+        p.start(TARVANEL_BINARY, args);
+        if (!p.waitForFinished(20000)) {
+            p.kill();
+            return {};
+        }
+        return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()),
+                QString::fromUtf8(p.readAllStandardError())};
+    }
+    void london() {
+        test::writeSupportFile("config.json",
+                               R"({"locationName": "London", "latitude": 51.5072,
+                                   "longitude": -0.1276})");
+    }
+};
+
+const QRegularExpression kRow(R"(^  (.{8}) (.{9}) (.+)$)");
+
+} // namespace
+
+TEST_F(TimesCommandTest, LondonOnAFridayInRamadan) {
+    london();
+    const Result r = run({"--times", "--date", "2025-03-14"});
+    ASSERT_EQ(r.status, 0) << r.err.toStdString();
+    const QStringList lines = r.out.split('\n');
+    ASSERT_EQ(lines.size(), 9) << r.out.toStdString(); // header, title, six rows, final newline
+    EXPECT_EQ(lines[0], QString::fromUtf8("Tarvanel \u2014 London  (Friday 14 March 2025 \u2022 "
+                                          "14 Ramadan 1446 AH \u2022 Ramadan \U0001F319)"));
+    EXPECT_EQ(lines[1], "  Prayer   Waqt      Lock at");
+    EXPECT_EQ(lines[8], "");
+
+    // The rows agree with the schedule, lock = final - 5 min, Dhuhr shown as Jumu'ah at 13:30.
+    Config cfg = loadConfig();
+    const QDateTime day = startOfLocalDay(QDate(2025, 3, 14));
+    const EffectiveTimes t = effectiveTimes(day, cfg);
+    const QStringList names{"Fajr", "Sunrise", "Jumu'ah", "Asr", "Maghrib", "Isha"};
+    for (int i = 0; i < 6; ++i) {
+        const QString name = dayRowNames()[i];
+        SCOPED_TRACE(name.toStdString());
+        const auto m = kRow.match(lines[2 + i]);
+        ASSERT_TRUE(m.hasMatch()) << lines[2 + i].toStdString();
+        EXPECT_EQ(m.captured(1).trimmed(), names[i]);
+        EXPECT_EQ(m.captured(2).trimmed(), formatLocal(*t.waqt.value(name), "h:mm AP"));
+        if (name == "Sunrise")
+            EXPECT_EQ(m.captured(3), QString::fromUtf8("\u2014"));
+        else
+            EXPECT_EQ(m.captured(3), formatLocal(t.final.value(name)->addSecs(-300), "h:mm AP"));
+    }
+    EXPECT_TRUE(lines[4].endsWith(" 1:25 PM")) << lines[4].toStdString();
+}
+
+TEST_F(TimesCommandTest, LeadZeroLocksAtTheLockTime) {
+    test::writeSupportFile("config.json", R"({"locationName": "Makkah", "latitude": 21.4225,
+        "longitude": 39.8262, "lockLeadMinutes": 0, "prayerOverrides": {"Asr": "+10"}})");
+    const Result r = run({"--date", "2024-11-05", "--times"}, "Asia/Riyadh");
+    ASSERT_EQ(r.status, 0);
+    const QStringList lines = r.out.split('\n');
+    ASSERT_GE(lines.size(), 8);
+    EXPECT_TRUE(lines[0].startsWith(
+        QString::fromUtf8("Tarvanel \u2014 Makkah  (Tuesday 5 November 2024 \u2022 ")));
+    EXPECT_FALSE(lines[0].contains("Ramadan"));
+    for (int i : {2, 4, 6, 7}) { // Fajr, Dhuhr, Maghrib, Isha: lock = waqt
+        const auto m = kRow.match(lines[i]);
+        ASSERT_TRUE(m.hasMatch());
+        EXPECT_EQ(m.captured(2).trimmed(), m.captured(3)) << lines[i].toStdString();
+    }
+    const auto asr = kRow.match(lines[5]);
+    const QTime waqt = QTime::fromString(asr.captured(2).trimmed(), "h:mm AP");
+    const QTime lock = QTime::fromString(asr.captured(3), "h:mm AP");
+    EXPECT_EQ(waqt.secsTo(lock), 600);
+}
+
+TEST_F(TimesCommandTest, PolarDayPrintsOnlyTheRowsThatExist) {
+    test::writeSupportFile("config.json",
+                           R"({"locationName": "Tromso", "latitude": 69.65, "longitude": 18.96})");
+    const Result r = run({"--times", "--date", "2025-06-21"}, "Europe/Oslo");
+    ASSERT_EQ(r.status, 0);
+    EXPECT_TRUE(
+        r.out.startsWith(QString::fromUtf8("Tarvanel \u2014 Tromso  (Saturday 21 June 2025")));
+    EXPECT_FALSE(r.out.contains("Sunrise"));
+    EXPECT_FALSE(r.out.contains("Fajr"));
+    EXPECT_TRUE(r.out.contains("  Dhuhr    "));
+}
+
+TEST_F(TimesCommandTest, TimesWinsOverInstallAgentAndBadDatesFallBackToToday) {
+    london();
+    const QString today = formatLocal(QDateTime::currentDateTimeUtc(), "dddd d MMMM yyyy");
+    for (const QStringList& args :
+         {QStringList{"--times", "--install-agent", "--date", "2025-13-40"},
+          QStringList{"--times", "--date"}, QStringList{"--times", "--date", "14/03/2025"},
+          QStringList{"--times", "--date", "0000-01-01"}}) {
+        const Result r = run(args);
+        SCOPED_TRACE(args.join(' ').toStdString());
+        EXPECT_EQ(r.status, 0);
+        // Today's table (the date could roll over between the two readings only at midnight).
+        EXPECT_TRUE(r.out.contains(today)) << r.out.toStdString();
+        EXPECT_FALSE(r.out.contains(QString::fromUtf8("\u2713 Tarvanel running")));
+    }
+}
+
+TEST_F(TimesCommandTest, FarYearsAndNonsenseSettingsStillPrint) {
+    test::writeSupportFile("config.json", R"({"latitude": 1e300, "longitude": -1e308,
+        "fajrAngle": 400, "lockLeadMinutes": 1e300, "asrFactor": -1})");
+    for (const char* date : {"0001-01-01", "9999-12-31", "2025-03-30"}) {
+        const Result r = run({"--times", "--date", date});
+        SCOPED_TRACE(date);
+        EXPECT_EQ(r.status, 0);
+        EXPECT_TRUE(r.out.startsWith(QString::fromUtf8("Tarvanel \u2014   (")));
+        EXPECT_TRUE(r.out.contains("  Prayer   Waqt      Lock at\n"));
+    }
+    const Result year1 = run({"--times", "--date", "0001-01-01"});
+    EXPECT_TRUE(year1.out.contains(" 1 January 0001 ")) << year1.out.toStdString();
+}
+
+TEST_F(TimesCommandTest, InvalidConfigIsReportedAndDefaultsUsed) {
+    test::writeSupportFile("config.json", R"({"latitude": "fifty"})");
+    const Result r = run({"--times", "--date", "2025-03-14"});
+    EXPECT_EQ(r.status, 0);
+    EXPECT_TRUE(r.err.startsWith("Tarvanel: config.json is invalid (")) << r.err.toStdString();
+    EXPECT_TRUE(r.out.startsWith(QString::fromUtf8("Tarvanel \u2014   (Friday 14 March 2025")));
+}
+
+TEST_F(TimesCommandTest, HelpAndVersion) {
+    const Result help = run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.out.contains("--test-lock SECONDS"));
+    const Result version = run({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(version.out.startsWith("tarvanel "));
+}

@@ -5,6 +5,7 @@
 #include "engine/Config.h"
 #include "lock/AppDelegate.h"
 #include "support/FakePlatform.h"
+#include "support/TestEnv.h"
 
 #include <QDate>
 #include <QDateTime>
@@ -12,12 +13,6 @@
 #include <deque>
 #include <functional>
 #include <memory>
-#include <ostream>
-
-// Readable QStrings in failure messages.
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace tarvanel::test {
 

@@ -9,9 +9,8 @@
 #include <QTimer>
 #include <cstdio>
 
-#if __has_include("lock/AppDelegate.h")
+#ifdef TARVANEL_HAVE_CONTROLLER
 #include "lock/AppDelegate.h"
-#define TARVANEL_HAVE_CONTROLLER 1
 #endif
 
 namespace tarvanel {

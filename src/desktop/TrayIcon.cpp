@@ -150,6 +150,8 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent) {
     retry_.setInterval(2000);
     connect(&retry_, &QTimer::timeout, this, &TrayIcon::ensureCreated);
     retry_.start();
+    menu_ = std::make_unique<QMenu>();
+    connect(menu_.get(), &QMenu::aboutToShow, this, &TrayIcon::rebuildMenu);
 }
 
 TrayIcon::~TrayIcon() {
@@ -161,8 +163,6 @@ bool TrayIcon::ensureCreated() {
     // Without a tray host titles are dropped silently until one appears.
     if (!QSystemTrayIcon::isSystemTrayAvailable()) return false;
     retry_.stop();
-    menu_ = std::make_unique<QMenu>();
-    connect(menu_.get(), &QMenu::aboutToShow, this, &TrayIcon::rebuildMenu);
     icon_ = new QSystemTrayIcon(this);
     icon_->setContextMenu(menu_.get());
     // A left click opens the same menu, as a menu-bar item does.

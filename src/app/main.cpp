@@ -1,4 +1,5 @@
 // Process entry: terminal commands run and exit; anything else starts the tray application.
+#include "app/Agent.h"
 #include "app/CommandLine.h"
 #include "desktop/DesktopApp.h"
 #include "engine/Clock.h"
@@ -33,6 +34,12 @@ int main(int argc, char** argv) {
         const Config cfg = loadConfig();
         print(timesText(cfg, timesDay(cl, systemNow())));
         return 0;
+    }
+    if (cl.installAgent) {
+        const bool ok = installAgent();
+        print(ok ? QStringLiteral("✓ Tarvanel running — look for 🕌 in the menu bar\n")
+                 : QStringLiteral("✗ launchctl bootstrap failed\n"));
+        return ok ? 0 : 1;
     }
     return runDesktopApplication(argc, argv, cl);
 }

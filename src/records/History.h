@@ -1,0 +1,61 @@
+#pragma once
+// Kept prayers per day (history.json), the manual marks (marks.json), the streak, the menu's
+// grid cells, the CSV export and the Sunday-evening report.
+#include "engine/Config.h"
+#include "records/Excused.h"
+
+#include <QDateTime>
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace tarvanel {
+
+// Day key → prayer names kept that day, in the order they were recorded.
+using HistoryMap = QMap<QString, QStringList>;
+
+// Missing or unreadable: empty. Entries that are not arrays of strings are skipped.
+HistoryMap loadHistory();
+// Compact, plain write; does not create supportDir; failures are silent.
+void saveHistory(const HistoryMap& history);
+
+namespace Marks {
+// Day key → prayer → "elsewhere" or "qada".
+using Map = QMap<QString, QMap<QString, QString>>;
+Map load();
+void save(const Map& marks);
+} // namespace Marks
+
+// Records `prayers` as kept on `day` (a day key): each lock key enters `completedLocks` (then
+// persisted), each prayer enters the day's list once, and a present `status` is marked.
+void markKept(const QStringList& prayers, const QString& day, const std::optional<QString>& status,
+              QSet<QString>& completedLocks);
+
+// A lock that counted as kept: `key` is "yyyy-MM-dd-Prayer"; `partner` is the combined prayer.
+// Keys that do not split into four pieces are ignored.
+void logKept(const QString& key, const std::optional<QString>& partner,
+             QSet<QString>& completedLocks);
+
+// Consecutive days with a kept prayer up to today (or yesterday while today has none yet);
+// days touched by an excused period neither count nor break the run.
+int streakDays(const QDateTime& now, double maxDays);
+// Same walk over data already in memory.
+int streakDays(const QDateTime& now, double maxDays, const HistoryMap& history,
+               const QList<ExcusedRange>& excused);
+
+// One cell of the seven-day grid: the prayer's initial and "q", "✓", "–" or "·".
+QString gridMark(const QString& prayer, const QString& day, const HistoryMap& history,
+                 const Marks::Map& marks, bool excused);
+
+// "date,prayer,status" rows of every kept prayer and every excused prayer up to `now`.
+QString historyCSV(const Config& cfg, const QDateTime& now);
+
+// The weekly report at 21:00 on Sunday: returns the banner text when it is due now (shown once
+// per Sunday and only within 15 minutes of 21:00). Records the day's "-weekly" key in
+// `firedNudges` as soon as 21:00 has passed.
+std::optional<QString> weeklyReportDue(const Config& cfg, const QDateTime& now,
+                                       const QString& dayKey, QSet<QString>& firedNudges);
+
+} // namespace tarvanel

@@ -1,0 +1,46 @@
+#pragma once
+// Turns a masjid's monthly sheet (pasted text, CSV, recognised lines) into rows of clock times,
+// guesses which column is which prayer, and makes the per-day table the store keeps.
+#include "timetable/Timetable.h"
+
+#include <QDate>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace tarvanel {
+
+struct ParsedTime {
+    int hour = 0;
+    int minute = 0;
+    std::optional<QString> meridiem; // "am" / "pm" as printed, letters only, lower case
+
+    // As printed: "5:12 am", "13:05".
+    QString label() const;
+    // 24-hour "HH:mm" for the named prayer; absent outside 0:00–23:59.
+    std::optional<QString> clock(const QString& prayer) const;
+    bool operator==(const ParsedTime&) const = default;
+};
+
+struct ParsedRow {
+    std::optional<int> day;    // day of the month at the start of the line
+    std::optional<QDate> date; // a full date printed on the line
+    QList<ParsedTime> times;   // every time on the line, left to right: the columns
+    QString raw;
+};
+
+// Prayer name → column position; -1 for a prayer the sheet does not have.
+using ColumnMap = QMap<QString, int>;
+
+namespace TimetableParser {
+
+// One row per line holding at least three times, in line order.
+QList<ParsedRow> parse(const QStringList& lines);
+ColumnMap guessColumns(int columnCount);
+// Day key → prayer → "HH:mm". `columns` holds positions ≥ 0 only.
+DayTable days(const QList<ParsedRow>& rows, int month, int year, const ColumnMap& columns);
+
+} // namespace TimetableParser
+} // namespace tarvanel

@@ -16,7 +16,7 @@ namespace tarvanel {
 // Day key → prayer names kept that day, in the order they were recorded.
 using HistoryMap = QMap<QString, QStringList>;
 
-// Missing or unreadable: empty. Entries that are not arrays of strings are skipped.
+// Missing, unreadable or of the wrong shape anywhere: empty.
 HistoryMap loadHistory();
 // Compact, plain write; does not create supportDir; failures are silent.
 void saveHistory(const HistoryMap& history);

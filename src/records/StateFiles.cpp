@@ -66,6 +66,18 @@ bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
     return f.commit();
 }
 
+bool writeFileAtomically(const QString& path, const QByteArray& bytes,
+                         QFileDevice::Permissions permissions) {
+    QSaveFile f(path);
+    if (!f.open(QIODevice::WriteOnly)) return false;
+    // Applies to the temporary file, so the secret never sits in a file others can read.
+    if (!f.setPermissions(permissions) || f.write(bytes) != bytes.size()) {
+        f.cancelWriting();
+        return false;
+    }
+    return f.commit();
+}
+
 bool writeFilePlain(const QString& path, const QByteArray& bytes) {
     QFile f(path);
     if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;

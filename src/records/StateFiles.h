@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QDate>
 #include <QDateTime>
+#include <QFileDevice>
 #include <QJsonDocument>
 #include <QString>
 #include <optional>
@@ -23,6 +24,9 @@ bool ensureSupportDir();
 // Whole-file helpers. The atomic writer leaves the previous file intact on any failure.
 std::optional<QByteArray> readWholeFile(const QString& path);
 bool writeFileAtomically(const QString& path, const QByteArray& bytes);
+// Same, with the new file holding `permissions` before any byte is written (secrets).
+bool writeFileAtomically(const QString& path, const QByteArray& bytes,
+                         QFileDevice::Permissions permissions);
 bool writeFilePlain(const QString& path, const QByteArray& bytes);
 
 // JSON stores in supportDir: pretty-printed, keys sorted, atomic. A missing, unreadable or

@@ -1,0 +1,223 @@
+#include "records/History.h"
+#include "engine/DayTimes.h"
+#include "engine/LocalTime.h"
+#include "engine/Schedule.h"
+#include "records/LockState.h"
+#include "records/StateFiles.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+
+namespace tarvanel {
+namespace {
+const QString historyFile = QStringLiteral("history.json");
+const QString marksFile = QStringLiteral("marks.json");
+constexpr int maxStreakSteps = 5000;
+} // namespace
+
+HistoryMap loadHistory() {
+    const auto doc = jsonLoad(historyFile);
+    if (!doc || !doc->isObject()) return {};
+    HistoryMap history;
+    const QJsonObject root = doc->object();
+    for (auto it = root.begin(); it != root.end(); ++it) {
+        // A wrong shape anywhere makes the whole file unreadable, as a strict decoder would.
+        if (!it.value().isArray()) return {};
+        QStringList prayers;
+        for (const QJsonValue& v : it.value().toArray()) {
+            if (!v.isString()) return {};
+            prayers << v.toString();
+        }
+        history.insert(it.key(), prayers);
+    }
+    return history;
+}
+
+void saveHistory(const HistoryMap& history) {
+    QJsonObject root;
+    for (auto it = history.begin(); it != history.end(); ++it)
+        root.insert(it.key(), QJsonArray::fromStringList(it.value()));
+    writeFilePlain(supportPath(historyFile), QJsonDocument(root).toJson(QJsonDocument::Compact));
+}
+
+namespace Marks {
+
+Map load() {
+    const auto doc = jsonLoad(marksFile);
+    if (!doc || !doc->isObject()) return {};
+    Map marks;
+    const QJsonObject root = doc->object();
+    for (auto it = root.begin(); it != root.end(); ++it) {
+        if (!it.value().isObject()) return {};
+        const QJsonObject inner = it.value().toObject();
+        QMap<QString, QString> day;
+        for (auto p = inner.begin(); p != inner.end(); ++p) {
+            if (!p.value().isString()) return {};
+            day.insert(p.key(), p.value().toString());
+        }
+        marks.insert(it.key(), day);
+    }
+    return marks;
+}
+
+void save(const Map& marks) {
+    QJsonObject root;
+    for (auto it = marks.begin(); it != marks.end(); ++it) {
+        QJsonObject inner;
+        for (auto p = it.value().begin(); p != it.value().end(); ++p)
+            inner.insert(p.key(), p.value());
+        root.insert(it.key(), inner);
+    }
+    jsonSave(QJsonDocument(root), marksFile);
+}
+
+} // namespace Marks
+
+void markKept(const QStringList& prayers, const QString& day, const std::optional<QString>& status,
+              QSet<QString>& completedLocks) {
+    HistoryMap history = loadHistory();
+    Marks::Map marks = Marks::load();
+    for (const QString& p : prayers) {
+        completedLocks.insert(day + u'-' + p);
+        QStringList& list = history[day];
+        if (!list.contains(p)) list << p;
+        if (status) marks[day][p] = *status;
+    }
+    saveCompletedLocks(completedLocks);
+    saveHistory(history);
+    if (status) Marks::save(marks);
+}
+
+void logKept(const QString& key, const std::optional<QString>& partner,
+             QSet<QString>& completedLocks) {
+    const QStringList pieces = key.split(u'-', Qt::SkipEmptyParts);
+    if (pieces.size() != 4) return;
+    QStringList prayers{pieces[3]};
+    if (partner) prayers << *partner;
+    markKept(prayers, pieces.mid(0, 3).join(u'-'), std::nullopt, completedLocks);
+}
+
+int streakDays(const QDateTime& now, double maxDays) {
+    return streakDays(now, maxDays, loadHistory(), Excused::load());
+}
+
+int streakDays(const QDateTime& now, double maxDays, const HistoryMap& history,
+               const QList<ExcusedRange>& excused) {
+    // Walks local calendar days, so a 23-hour day is neither skipped nor counted twice.
+    QDate day = localDate(now);
+    if (history.value(dayKey(day)).isEmpty()) day = day.addDays(-1);
+    int count = 0;
+    for (int step = 0; step < maxStreakSteps && day.isValid(); ++step, day = day.addDays(-1)) {
+        const auto it = history.constFind(dayKey(day));
+        if (it != history.constEnd() && !it->isEmpty()) {
+            ++count;
+            continue;
+        }
+        if (excused.isEmpty() || !Excused::touchesDay(startOfLocalDay(day), excused, maxDays))
+            break;
+    }
+    return count;
+}
+
+QString gridMark(const QString& prayer, const QString& day, const HistoryMap& history,
+                 const Marks::Map& marks, bool excused) {
+    QString mark;
+    if (marks.value(day).value(prayer) == QLatin1String("qada"))
+        mark = QStringLiteral("q");
+    else if (history.value(day).contains(prayer))
+        mark = QStringLiteral("\u2713");
+    else if (excused)
+        mark = QStringLiteral("\u2013");
+    else
+        mark = QStringLiteral("\u00B7");
+    return prayer.left(1) + mark;
+}
+
+QString historyCSV(const Config& cfg, const QDateTime& now) {
+    const HistoryMap history = loadHistory();
+    const Marks::Map marks = Marks::load();
+    const QList<ExcusedRange> excused = Excused::load();
+    const double maxDays = cfg.excusedDays();
+
+    struct Row {
+        QString day;
+        int order;
+        QString line;
+    };
+    QList<Row> rows;
+    const QStringList& names = prayerNames();
+    auto orderOf = [&](const QString& prayer) {
+        const qsizetype i = names.indexOf(prayer);
+        return i < 0 ? 9 : int(i);
+    };
+
+    for (auto it = history.begin(); it != history.end(); ++it) {
+        const QMap<QString, QString> dayMarks = marks.value(it.key());
+        for (const QString& prayer : it.value()) {
+            const QString status = dayMarks.value(prayer, QStringLiteral("locked"));
+            rows.append({it.key(), orderOf(prayer), it.key() + u',' + prayer + u',' + status});
+        }
+    }
+
+    if (!excused.isEmpty()) {
+        QDateTime earliest = excused.first().start;
+        for (const ExcusedRange& r : excused)
+            earliest = std::min(earliest, r.start);
+        // Nothing was recorded before 1970; a hand-edited start of year 1 must not walk
+        // seven hundred thousand days.
+        earliest = std::max(earliest, QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
+        for (QDate date = localDate(earliest); date.isValid(); date = date.addDays(1)) {
+            const QDateTime dayStart = startOfLocalDay(date);
+            if (!dayStart.isValid() || dayStart > now) break;
+            // Lock times stay within a day of their own day: skip days no period comes near.
+            if (!Excused::touchesDay(dayStart.addSecs(-86400), excused, maxDays) &&
+                !Excused::touchesDay(dayStart, excused, maxDays) &&
+                !Excused::touchesDay(dayStart.addSecs(86400), excused, maxDays))
+                continue;
+            const QString key = dayKey(date);
+            const QStringList kept = history.value(key);
+            const DayTimes times = effectiveTimes(dayStart, cfg).final;
+            for (int i = 0; i < names.size(); ++i) {
+                const auto at = times.value(names[i]);
+                if (!at || *at > now || kept.contains(names[i])) continue;
+                if (Excused::contains(*at, excused, maxDays))
+                    rows.append({key, i, key + u',' + names[i] + QStringLiteral(",excused")});
+            }
+        }
+    }
+
+    std::stable_sort(rows.begin(), rows.end(), [](const Row& a, const Row& b) {
+        if (a.day != b.day) return a.day < b.day;
+        return a.order < b.order;
+    });
+    QString text = QStringLiteral("date,prayer,status\n");
+    for (const Row& r : rows)
+        text += r.line + u'\n';
+    return text;
+}
+
+std::optional<QString> weeklyReportDue(const Config& cfg, const QDateTime& now,
+                                       const QString& dayKeyText, QSet<QString>& firedNudges) {
+    if (!cfg.isOn(cfg.weeklyReport, true)) return std::nullopt;
+    if (localWeekday(now) != 1) return std::nullopt;
+    const auto reportTime = parseFixedTime(QStringLiteral("21:00"), now);
+    if (!reportTime) return std::nullopt;
+    const QString key = dayKeyText + QStringLiteral("-weekly");
+    if (now < *reportTime || firedNudges.contains(key)) return std::nullopt;
+    firedNudges.insert(key);
+    if (reportTime->msecsTo(now) >= 900 * 1000) return std::nullopt;
+
+    const HistoryMap history = loadHistory();
+    qsizetype kept = 0;
+    for (int i = 0; i < 7; ++i)
+        kept += history.value(dayKey(now.addSecs(-86400LL * i))).size();
+    const int streak = streakDays(now, cfg.excusedDays(), history, Excused::load());
+    return QStringLiteral("\U0001F4FF  This week: %1/35 prayers at the Mac \u2022 streak %2 day%3")
+        .arg(kept)
+        .arg(streak)
+        .arg(streak == 1 ? QString() : QStringLiteral("s"));
+}
+
+} // namespace tarvanel

@@ -1,0 +1,173 @@
+#include "timetable/TimetableParser.h"
+#include "engine/DayTimes.h"
+#include "records/StateFiles.h"
+
+#include <QRegularExpression>
+#include <QtGlobal>
+
+namespace tarvanel {
+namespace {
+
+// Default options on purpose: without Unicode properties, \d is 0-9 only.
+QRegularExpression compile(const char* pattern) {
+    QRegularExpression re(QString::fromLatin1(pattern));
+    if (!re.isValid())
+        qFatal("timetable pattern does not compile: %s", qPrintable(re.errorString()));
+    re.optimize();
+    return re;
+}
+
+struct Patterns {
+    QRegularExpression time =
+        compile(R"((?<![\d:.])([01]?\d|2[0-3])[:.]([0-5]\d)(?![\d])\s*([AaPp]\.?[Mm]\.?)?)");
+    QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
+    QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
+    QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
+};
+
+const Patterns& patterns() {
+    static const Patterns p;
+    return p;
+}
+
+// Out-of-range months and days carry into the following month or year, as a lenient
+// calendar does.
+std::optional<QDate> lenientDate(int year, int month, int day) {
+    const QDate first(year, 1, 1);
+    if (!first.isValid()) return std::nullopt;
+    const QDate d = first.addMonths(month - 1).addDays(day - 1);
+    if (!d.isValid()) return std::nullopt;
+    return d;
+}
+
+std::optional<ParsedRow> parseLine(const QString& raw) {
+    const Patterns& p = patterns();
+    ParsedRow row;
+    row.raw = raw;
+    QString line = raw;
+
+    QRegularExpressionMatch dateMatch = p.isoDate.match(line);
+    if (dateMatch.hasMatch()) {
+        row.date = lenientDate(dateMatch.captured(1).toInt(), dateMatch.captured(2).toInt(),
+                               dateMatch.captured(3).toInt());
+    } else {
+        dateMatch = p.slashDate.match(line);
+        if (dateMatch.hasMatch()) {
+            const int month = dateMatch.captured(2).toInt();
+            if (month >= 1 && month <= 12) {
+                int year = dateMatch.captured(3).toInt();
+                if (year < 100) year += 2000;
+                row.date = lenientDate(year, month, dateMatch.captured(1).toInt());
+            }
+        }
+    }
+    // A date's digits and dots must not be read as times (01.03.2025 is no 01:03).
+    if (dateMatch.hasMatch())
+        line = line.left(dateMatch.capturedStart()) + u' ' + line.mid(dateMatch.capturedEnd());
+
+    qsizetype firstTime = -1;
+    auto it = p.time.globalMatch(line);
+    while (it.hasNext()) {
+        const QRegularExpressionMatch m = it.next();
+        if (firstTime < 0) firstTime = m.capturedStart();
+        ParsedTime t;
+        t.hour = m.captured(1).toInt();
+        t.minute = m.captured(2).toInt();
+        if (m.hasCaptured(3)) {
+            QString marker;
+            for (QChar c : m.capturedView(3))
+                if (c.isLetter()) marker += c.toLower();
+            t.meridiem = marker;
+        }
+        row.times << t;
+    }
+    if (row.times.size() < 3) return std::nullopt;
+
+    if (!row.date) {
+        const QRegularExpressionMatch d = p.leadingDay.match(QStringView(line).left(firstTime));
+        if (d.hasMatch()) row.day = d.captured(1).toInt();
+    }
+    return row;
+}
+
+} // namespace
+
+QString ParsedTime::label() const {
+    QString text = QString::asprintf("%d:%02d", hour, minute);
+    if (meridiem) text += u' ' + *meridiem;
+    return text;
+}
+
+std::optional<QString> ParsedTime::clock(const QString& prayer) const {
+    if (hour < 0 || hour > 23 || minute < 0 || minute > 59) return std::nullopt;
+    int h = hour;
+    if (meridiem == QLatin1String("pm")) {
+        if (hour < 12) h = hour + 12;
+    } else if (meridiem == QLatin1String("am")) {
+        if (hour == 12) h = 0;
+    } else if (meridiem) {
+        // Letters other than am/pm say nothing about the half of the day: read as unmarked.
+        return ParsedTime{hour, minute, std::nullopt}.clock(prayer);
+    } else if (hour > 12) {
+        h = hour;
+    } else if (prayer == QLatin1String("Fajr")) {
+        h = hour == 12 ? 0 : hour;
+    } else if (prayer == QLatin1String("Dhuhr") || prayer == QLatin1String("Jumu'ah")) {
+        h = (hour >= 1 && hour <= 4) ? hour + 12 : hour;
+    } else {
+        h = hour == 12 ? 12 : hour + 12;
+    }
+    return QString::asprintf("%02d:%02d", h, minute);
+}
+
+namespace TimetableParser {
+
+QList<ParsedRow> parse(const QStringList& lines) {
+    QList<ParsedRow> rows;
+    for (const QString& line : lines)
+        if (auto row = parseLine(line)) rows << std::move(*row);
+    return rows;
+}
+
+ColumnMap guessColumns(int columnCount) {
+    const QStringList& names = prayerNames();
+    auto map = [&](std::initializer_list<int> positions) {
+        ColumnMap columns;
+        int i = 0;
+        for (int position : positions)
+            columns.insert(names[i++], position);
+        return columns;
+    };
+    if (columnCount >= 11) return map({1, 4, 6, 8, 10});
+    if (columnCount == 10) return map({1, 3, 5, 7, 9});
+    if (columnCount == 6) return map({0, 2, 3, 4, 5});
+    ColumnMap columns;
+    for (int i = 0; i < names.size() && i < columnCount; ++i)
+        columns.insert(names[i], i);
+    return columns;
+}
+
+DayTable days(const QList<ParsedRow>& rows, int month, int year, const ColumnMap& columns) {
+    DayTable table;
+    for (const ParsedRow& row : rows) {
+        std::optional<QDate> date = row.date;
+        if (!date && row.day) {
+            // Only a day that exists in the chosen month counts; no carrying over here.
+            date = lenientDate(year, month, *row.day);
+            if (date && date->month() != month) date.reset();
+        }
+        if (!date) continue;
+        QMap<QString, QString> entries;
+        for (auto it = columns.begin(); it != columns.end(); ++it) {
+            const int position = it.value();
+            if (position < 0 || position >= row.times.size()) continue;
+            if (const auto clock = row.times[position].clock(it.key()))
+                entries.insert(it.key(), *clock);
+        }
+        if (!entries.isEmpty()) table.insert(dayKey(*date), entries);
+    }
+    return table;
+}
+
+} // namespace TimetableParser
+} // namespace tarvanel

@@ -57,7 +57,8 @@ BannerView::BannerView(const BannerContent& content, QWidget* parent)
         source->setText(content.quote->source);
         column->addWidget(source);
     }
-    column->setSizeConstraint(QLayout::SetFixedSize);
+    // Fixed width; the height follows the wrapped texts.
+    setFixedHeight(heightForWidth(cardWidth));
 }
 
 void BannerView::paintEvent(QPaintEvent*) {
@@ -114,8 +115,7 @@ bool BannerPanel::show(const BannerContent& content) {
     layout->setContentsMargins(0, 0, 0, 0);
     auto* view = new BannerView(content, panel);
     layout->addWidget(view);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    panel->adjustSize();
+    panel->setFixedSize(view->size());
 
     const QSize size = panel->size();
     const QRect area = screen->availableGeometry();

@@ -106,7 +106,7 @@ void QtPlatform::post(std::function<void()> work) {
 }
 
 void QtPlatform::singleShot(int milliseconds, std::function<void()> work) {
-    QTimer::singleShot(milliseconds, this, std::move(work));
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, this, std::move(work));
 }
 
 void QtPlatform::exitProcess(int status) {

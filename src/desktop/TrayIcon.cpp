@@ -128,10 +128,13 @@ void fillMenu(QMenu* menu, const MenuModel& model) {
             action = menu->addAction(item.text);
         }
         action->setData(item.tag);
-        action->setEnabled(item.kind == MenuItem::Kind::Command ? item.enabled : false);
+        // A submenu always opens; otherwise only enabled commands can be chosen.
+        action->setEnabled(!item.submenu.isEmpty() ||
+                           (item.kind == MenuItem::Kind::Command && item.enabled));
         if (item.monospaced) {
             QFont mono = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-            mono.setPointSize(12);
+            // 12 design points, one logical pixel each, as everywhere else in the look.
+            mono.setPointSizeF(12 * 72.0 / 96.0);
             mono.setWeight(QFont::Normal);
             action->setFont(mono);
         }

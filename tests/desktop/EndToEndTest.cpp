@@ -13,6 +13,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
@@ -214,4 +215,145 @@ TEST(EndToEndNoDisplay, OneLineAndStatusOne) {
     EXPECT_TRUE(err.startsWith(QStringLiteral("Tarvanel: no display available (")))
         << err.toStdString();
     EXPECT_FALSE(err.contains(QLatin1Char('\n'))) << err.toStdString();
+}
+
+namespace {
+
+Config londonConfig() {
+    Config cfg;
+    cfg.locationName = QStringLiteral("London");
+    cfg.latitude = 51.5074;
+    cfg.longitude = -0.1278;
+    cfg.method = QStringLiteral("MWL");
+    return cfg;
+}
+
+QProcessEnvironment agentEnvironment() {
+    QProcessEnvironment env;
+    env.insert(QStringLiteral("TARVANEL_AGENT"), QStringLiteral("com.velmora.tarvanel"));
+    return env;
+}
+
+// True when the window tree shows a Tarvanel window inside trayer's panel.
+bool trayHoldsTarvanel(const QByteArray& tree) {
+    const QList<QByteArray> lines = tree.split('\n');
+    for (int i = 0; i < lines.size(); ++i) {
+        if (!lines[i].contains("(\"panel\" \"trayer\")")) continue;
+        const qsizetype indent = lines[i].size() - lines[i].trimmed().size();
+        for (int j = i + 1; j < lines.size(); ++j) {
+            const QByteArray& line = lines[j];
+            if (line.trimmed().isEmpty()) continue;
+            if (line.size() - line.trimmed().size() <= indent) break;
+            if (line.contains("(\"tarvanel\" \"Tarvanel\")")) return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+TEST_F(EndToEnd, TrayIconAppearsOnceATrayHostStartsAndOpensTheMenu) {
+    if (QStandardPaths::findExecutable(QStringLiteral("trayer")).isEmpty() ||
+        QStandardPaths::findExecutable(QStringLiteral("xwininfo")).isEmpty())
+        GTEST_SKIP() << "trayer or xwininfo is not installed";
+    saveConfig(londonConfig());
+    Program tarvanel(x, {}, agentEnvironment());
+    QThread::msleep(1500); // up and running with no tray host yet
+    ASSERT_TRUE(tarvanel.running()) << tarvanel.log().toStdString();
+
+    QProcess trayer;
+    trayer.setProcessEnvironment(x.environment(QProcessEnvironment::systemEnvironment()));
+    trayer.start(QStringLiteral("trayer"),
+                 {QStringLiteral("--edge"), QStringLiteral("top"), QStringLiteral("--align"),
+                  QStringLiteral("right"), QStringLiteral("--widthtype"), QStringLiteral("pixel"),
+                  QStringLiteral("--width"), QStringLiteral("200"), QStringLiteral("--height"),
+                  QStringLiteral("32")});
+    ASSERT_TRUE(trayer.waitForStarted(5000));
+    QByteArray tree;
+    const bool embedded = waitFor(
+        [&] {
+            x.run(QStringLiteral("xwininfo"), {QStringLiteral("-root"), QStringLiteral("-tree")},
+                  &tree);
+            return trayHoldsTarvanel(tree);
+        },
+        8000);
+    EXPECT_TRUE(embedded) << tree.toStdString();
+
+    // A click on the icon (the panel's right end) opens the menu built by the core.
+    if (embedded) {
+        x.run(QStringLiteral("xdotool"),
+              {QStringLiteral("mousemove"), QStringLiteral("1268"), QStringLiteral("16"),
+               QStringLiteral("click"), QStringLiteral("1")});
+        const bool menuOpen = waitFor(
+            [&] {
+                x.run(QStringLiteral("xwininfo"),
+                      {QStringLiteral("-root"), QStringLiteral("-tree")}, &tree);
+                static const QRegularExpression popup(
+                    QStringLiteral("\\(\"tarvanel\" \"Tarvanel\"\\)\\s+(\\d+)x(\\d+)"));
+                for (auto it = popup.globalMatch(QString::fromUtf8(tree)); it.hasNext();) {
+                    const auto m = it.next();
+                    if (m.captured(1).toInt() > 150 && m.captured(2).toInt() > 150) return true;
+                }
+                return false;
+            },
+            5000);
+        EXPECT_TRUE(menuOpen) << tree.toStdString();
+    }
+    trayer.kill();
+    trayer.waitForFinished(2000);
+}
+
+TEST_F(EndToEnd, AgentLocksEveryMonitorAtThePrayerAndRecordsIt) {
+    // The library itself rather than the faketime wrapper, so signals reach the program.
+    const QString libfaketime =
+        QStringLiteral("/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1");
+    if (!QFile::exists(libfaketime)) GTEST_SKIP() << "libfaketime is not installed";
+    // Tuesday 3 March 2026 in London (GMT): Dhuhr fixed at 13:00, locked from 13:00 for one
+    // minute, no reminders or other banners.
+    Config cfg = londonConfig();
+    cfg.lockMinutes = 1;
+    cfg.lockLeadMinutes = 0;
+    cfg.nudgeOffsetsMinutes = {};
+    cfg.prayerOverrides =
+        QMap<QString, QString>{{QStringLiteral("Dhuhr"), QStringLiteral("13:00")}};
+    cfg.jumuahEnabled = false;
+    cfg.adhanEnabled = false;
+    cfg.weeklyReport = false;
+    cfg.ramadanMode = false;
+    saveConfig(cfg);
+
+    // Twenty fake seconds before the lock, the clock running ten times as fast.
+    QProcessEnvironment env = agentEnvironment();
+    env.insert(QStringLiteral("LD_PRELOAD"), libfaketime);
+    env.insert(QStringLiteral("FAKETIME"), QStringLiteral("@2026-03-03 12:59:40 x10"));
+    env.insert(QStringLiteral("FAKETIME_NO_CACHE"), QStringLiteral("1"));
+    Program tarvanel(x, {}, env);
+    ASSERT_TRUE(tarvanel.waitForLog(QStringLiteral("Tarvanel: locked for Dhuhr until"), 15000))
+        << tarvanel.log().toStdString();
+    EXPECT_GE(waitUntilBothLocked(4000), 0) << "the lock did not cover both monitors";
+    ASSERT_TRUE(tarvanel.waitForLog(QStringLiteral("Tarvanel: unlocked after Dhuhr"), 15000))
+        << tarvanel.log().toStdString();
+    QThread::msleep(500);
+    const QImage after = x.screenshot();
+    EXPECT_FALSE(lockedLooking(after, leftHalf));
+    EXPECT_FALSE(lockedLooking(after, rightHalf));
+
+    const auto history = jsonLoad(QStringLiteral("history.json"));
+    ASSERT_TRUE(history.has_value());
+    EXPECT_TRUE(history->object()
+                    .value(QStringLiteral("2026-03-03"))
+                    .toArray()
+                    .contains(QStringLiteral("Dhuhr")))
+        << history->toJson().toStdString();
+    const auto state = readWholeFile(supportPath(QStringLiteral("state.json")));
+    ASSERT_TRUE(state.has_value());
+    EXPECT_TRUE(
+        QJsonDocument::fromJson(*state).array().contains(QStringLiteral("2026-03-03-Dhuhr")))
+        << state->toStdString();
+    EXPECT_EQ(tarvanel.log().count(QStringLiteral("Tarvanel: locked for")), 1)
+        << tarvanel.log().toStdString();
+
+    // As the agent, a termination request ends it with status 1 so the service restarts it.
+    tarvanel.terminate();
+    EXPECT_EQ(tarvanel.finish(5000), 1) << tarvanel.log().toStdString();
 }

@@ -77,7 +77,7 @@ TEST(TrayMenu, BuiltFromTheModelWithTagsSubmenusFontsAndShortcut) {
     MenuItem grid = MenuItem::info(QStringLiteral("Mon 3   ✓ ✓ · ✓ ✓"));
     grid.monospaced = true;
     model << grid;
-    MenuItem mark = MenuItem::command(QStringLiteral("Mark as Prayed"), {});
+    MenuItem mark = MenuItem::info(QStringLiteral("Mark as Prayed"));
     mark.submenu << MenuItem::command(
         QStringLiteral("Fajr: Prayed Late (Qada)"),
         [&] {
@@ -101,8 +101,9 @@ TEST(TrayMenu, BuiltFromTheModelWithTagsSubmenusFontsAndShortcut) {
     const QFontInfo gridFont(actions[2]->font());
     EXPECT_TRUE(gridFont.fixedPitch() || gridFont.family().contains(QStringLiteral("Mono")))
         << gridFont.family().toStdString();
-    EXPECT_EQ(actions[2]->font().pointSize(), 12);
+    EXPECT_DOUBLE_EQ(actions[2]->font().pointSizeF(), 9.0); // 12 px at 96 dpi
     ASSERT_NE(actions[3]->menu(), nullptr);
+    EXPECT_TRUE(actions[3]->isEnabled()); // a submenu opens even from an information item
     const QList<QAction*> sub = actions[3]->menu()->actions();
     ASSERT_EQ(sub.size(), 2);
     EXPECT_EQ(sub[0]->data().toInt(), 100);

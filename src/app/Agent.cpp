@@ -27,12 +27,14 @@ std::optional<std::optional<QString>> launchStamp; // outer: taken yet; inner: t
 QString executableOverride;
 QString systemctlOverride;
 
-QString unitName() { return QLatin1String(appLabel) + QStringLiteral(".service"); }
+QString unitName() {
+    return QLatin1String(appLabel) + QStringLiteral(".service");
+}
 
 QString executablePath() {
     if (!executableOverride.isEmpty()) return executableOverride;
-    const QString app = QCoreApplication::instance() ? QCoreApplication::applicationFilePath()
-                                                     : QString();
+    const QString app =
+        QCoreApplication::instance() ? QCoreApplication::applicationFilePath() : QString();
     if (!app.isEmpty()) return app;
     return QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
 }
@@ -49,10 +51,13 @@ int systemctlUser(const QStringList& args) {
 
 } // namespace
 
-bool launchedByAgent() { return qEnvironmentVariable("TARVANEL_AGENT") == QLatin1String(appLabel); }
+bool launchedByAgent() {
+    return qEnvironmentVariable("TARVANEL_AGENT") == QLatin1String(appLabel);
+}
 
 void handOffToAgent() {
-    logLine(QStringLiteral("Tarvanel: not started by the login service; running in the foreground"));
+    logLine(
+        QStringLiteral("Tarvanel: not started by the login service; running in the foreground"));
 }
 
 bool acquireInstanceLock() {
@@ -76,7 +81,9 @@ void releaseInstanceLockForTesting() {
     instanceLockFD = -1;
 }
 
-QString showSettingsMarker() { return supportPath(QStringLiteral(".show-settings")); }
+QString showSettingsMarker() {
+    return supportPath(QStringLiteral(".show-settings"));
+}
 
 std::optional<QString> executableStamp() {
     const QString path = executablePath();
@@ -144,7 +151,9 @@ QString agentUnitText(const QString& executable) {
         .arg(exec, QLatin1String(appLabel), supportPath(QStringLiteral("log.txt")));
 }
 
-void setSystemctlForTesting(const QString& path) { systemctlOverride = path; }
+void setSystemctlForTesting(const QString& path) {
+    systemctlOverride = path;
+}
 
 bool installAgent() {
     const QString unit = agentUnitPath();

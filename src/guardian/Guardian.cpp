@@ -5,6 +5,7 @@
 #include <QList>
 #include <QMessageAuthenticationCode>
 #include <QRandomGenerator>
+#include <QStringDecoder>
 #include <QUrl>
 #include <array>
 #include <qrencode.h>
@@ -51,7 +52,11 @@ void remove() {
 }
 
 std::optional<QByteArray> decodeSecret(const QByteArray& text) {
-    const QByteArray trimmed = text.trimmed();
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString decoded = utf8.decode(text);
+    if (utf8.hasError()) return std::nullopt;
+    // Any white space at the ends, non-breaking and line separators included.
+    const QByteArray trimmed = decoded.trimmed().toUtf8();
     if (trimmed.isEmpty() || trimmed.size() % 4 != 0) return std::nullopt;
     auto result = QByteArray::fromBase64Encoding(trimmed, QByteArray::AbortOnBase64DecodingErrors);
     // Only the canonical text of some bytes counts: no stray bits, no missing padding.

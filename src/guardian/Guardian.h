@@ -30,7 +30,8 @@ void remove();
 // Absent when the file is missing or not strict base64 (surrounding white space allowed).
 std::optional<QByteArray> secret();
 bool isSet();
-// Strict standard base64 (with padding); absent for anything else.
+// Strict standard base64 (with padding) in UTF-8 text, white space at either end allowed;
+// absent for anything else.
 std::optional<QByteArray> decodeSecret(const QByteArray& text);
 
 QString base32(const QByteArray& bytes); // RFC 4648, no padding

@@ -6,8 +6,8 @@
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
-#include "lock/Presence.h"
 #include "guardian/Guardian.h"
+#include "lock/Presence.h"
 #include "records/Excused.h"
 #include "records/History.h"
 #include "records/LockState.h"
@@ -18,13 +18,15 @@
 #include "records/UserDefaults.h"
 
 #include <QFile>
+#include <cmath>
 
 namespace tarvanel {
 
 AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* parent)
     : QObject(parent), clock(systemNow), callCheck(Presence::inCall), platform_(platform),
-      lockState_(new LockScreenState(this)), config_(loadConfig()), defaults_(std::make_unique<UserDefaults>()), travel_(new TravelLocator(this)),
-      completedLocks_(loadCompletedLocks()) {
+      lockState_(new LockScreenState(this)), config_(loadConfig()),
+      defaults_(std::make_unique<UserDefaults>()), travel_(new TravelLocator(this)),
+      configPath_(QFile::encodeName(configURL())), completedLocks_(loadCompletedLocks()) {
     travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
         if (self) self->invalidateSchedule();
     };
@@ -34,7 +36,9 @@ AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* par
 
 AppDelegate::~AppDelegate() = default;
 
-LockScreenState* AppDelegate::lockState() { return lockState_; }
+LockScreenState* AppDelegate::lockState() {
+    return lockState_;
+}
 
 void AppDelegate::launchFinished() {
     if (launched_) return;
@@ -50,12 +54,12 @@ void AppDelegate::launchFinished() {
     }
     // The application menu, the observers and the one-second timer are the desktop's; it
     // forwards their events here.
-    configMTime_ = fileModified(configURL());
+    configStamp_ = FileStamp::of(configPath_);
     setStatusTitle(QStringLiteral("🕌"), TitleColor::Label);
 
     if (testLockSeconds_) {
         exitAfterTest_ = true;
-        const QDateTime now = clock();
+        const QDateTime now = currentTime();
         startLock(QStringLiteral("Test"), QStringLiteral("Test"),
                   now.addMSecs(qint64(*testLockSeconds_ * 1000.0)));
         return;
@@ -79,9 +83,13 @@ void AppDelegate::screensChanged() {
     if (lockEnd_) buildLockWindows();
 }
 
-void AppDelegate::showSettingsRequested() { openSettings(); }
+void AppDelegate::showSettingsRequested() {
+    openSettings();
+}
 
-void AppDelegate::poweringOff() { poweringOff_ = true; }
+void AppDelegate::poweringOff() {
+    poweringOff_ = true;
+}
 
 void AppDelegate::terminateRequested() {
     // Under the agent a plain quit must not stop the program for good: status 1 restarts it.
@@ -89,19 +97,24 @@ void AppDelegate::terminateRequested() {
 }
 
 void AppDelegate::reloadConfigIfChanged() {
-    const std::optional<QDateTime> m = fileModified(configURL());
-    if (m == configMTime_) return;
-    configMTime_ = m;
+    reloadIfChanged(FileStamp::of(configPath_));
+}
+
+// Only the file's stamp is compared, never its content.
+bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
+    if (stamp == configStamp_) return false;
+    configStamp_ = stamp;
     config_ = loadConfig();
     cachedDayKey_.clear();
     logLine(QStringLiteral("Tarvanel: config reloaded"));
+    return true;
 }
 
 void AppDelegate::applyConfig(const Config& cfg) {
     saveConfig(cfg);
     config_ = cfg;
     // Calendar blocking is a separate piece of work; nothing to sync here yet.
-    configMTime_ = fileModified(configURL());
+    configStamp_ = FileStamp::of(configPath_); // our own write is not an outside change
     cachedDayKey_.clear();
     clearTravelLocation();
     tick();
@@ -124,7 +137,10 @@ const QString& AppDelegate::dayKeyOf(const QDateTime& now) {
 
 const DayTimes& AppDelegate::todaysTimes() {
     reloadConfigIfChanged();
-    const QDateTime now = clock();
+    return scheduleFor(currentTime());
+}
+
+const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {
     const QString& today = dayKeyOf(now);
     if (today != cachedDayKey_) {
         const EffectiveTimes eff = effectiveTimes(now, activeConfig());
@@ -133,10 +149,24 @@ const DayTimes& AppDelegate::todaysTimes() {
         cachedJumuah_ = eff.jumuah;
         cachedDayKey_ = today;
         ++scheduleGeneration_;
-        const QString prefix = today;
-        auto keepToday = [&prefix](QSet<QString>& keys) {
+        for (int i = 0; i < int(slots_.size()); ++i) {
+            PrayerSlot& slot = slots_[size_t(i)];
+            slot.name = prayerNames()[i];
+            slot.lockKey = today + QLatin1Char('-') + slot.name;
+            slot.nudgeKeys.clear();
+            for (double offset : config_.nudgeOffsetsMinutes)
+                slot.nudgeKeys << slot.lockKey + QLatin1Char('-') +
+                                      QString::number(qint64(std::trunc(offset)));
+            const std::optional<QDateTime> t = cachedTimes_.value(slot.name);
+            slot.valid = t && t->isValid();
+            slot.at = slot.valid ? t->toMSecsSinceEpoch() : 0;
+        }
+        // Keys of earlier days go. Keys of a later day stay: the clock went back over midnight
+        // (NTP, a hand correction) and those prayers are done all the same.
+        auto keepToday = [&today](QSet<QString>& keys) {
             for (auto it = keys.begin(); it != keys.end();)
-                it = it->startsWith(prefix) ? std::next(it) : keys.erase(it);
+                it = QStringView(*it).left(10) >= QStringView(today) ? std::next(it)
+                                                                     : keys.erase(it);
         };
         keepToday(firedNudges_);
         keepToday(completedLocks_);
@@ -155,7 +185,7 @@ Config AppDelegate::activeConfig() const {
     return cfg;
 }
 
-bool AppDelegate::combiningPrayers(const QDateTime& now) const {
+bool AppDelegate::combiningPrayers(const QDateTime& now) {
     if (!config_.isOn(config_.combineWhenTravelling, false)) return false;
     const auto until = travellingUntil();
     return (until && *until > now) || travelCoords().has_value();
@@ -194,15 +224,21 @@ bool AppDelegate::ramadanToday(const QDateTime& now) {
     return *ramadanCache_;
 }
 
-bool AppDelegate::configExists() const { return QFile::exists(configURL()); }
+bool AppDelegate::configExists() const {
+    return QFile::exists(configURL());
+}
 
-void AppDelegate::saveLocks() { saveCompletedLocks(completedLocks_); }
+void AppDelegate::saveLocks() {
+    saveCompletedLocks(completedLocks_);
+}
 
 void AppDelegate::recordKept(const QString& key, const std::optional<QString>& partner) {
     logKept(key, partner, completedLocks_);
 }
 
-bool AppDelegate::guardianIsSet() const { return Guardian::isSet(); }
+bool AppDelegate::guardianIsSet() const {
+    return Guardian::isSet();
+}
 
 AppDelegate::GuardianAnswer AppDelegate::verifyGuardian(const QString& code, const QDateTime& at) {
     switch (Guardian::verify(code, at)) {
@@ -220,16 +256,41 @@ bool AppDelegate::excusedNow(const QDateTime& now) {
     return Excused::current(config_.excusedDays(), now).has_value();
 }
 
-std::optional<QDateTime> AppDelegate::pausedUntil() const { return defaults_->pausedUntil(); }
-void AppDelegate::clearPause() { defaults_->setPausedUntil(std::nullopt); }
-std::optional<QDateTime> AppDelegate::travellingUntil() const {
-    return defaults_->travellingUntil();
+// Only this process writes the two mode instants (the running copy is the only one), so they
+// are read at the first need and again after each of our own writes, not on every tick.
+void AppDelegate::refreshModes() {
+    if (modesFresh_) return;
+    modesFresh_ = true;
+    pausedCache_ = defaults_->pausedUntil();
+    travellingCache_ = defaults_->travellingUntil();
 }
-void AppDelegate::clearTravellingUntil() { defaults_->setTravellingUntil(std::nullopt); }
 
-std::optional<TravelCoords> AppDelegate::travelCoords() const { return travel_->travelCoords(); }
-void AppDelegate::checkTravelLocation(const QDateTime& now) { travel_->check(config_, now); }
-void AppDelegate::clearTravelLocation() { travel_->clear(); }
+std::optional<QDateTime> AppDelegate::pausedUntil() {
+    refreshModes();
+    return pausedCache_;
+}
+void AppDelegate::clearPause() {
+    defaults_->setPausedUntil(std::nullopt);
+    modesFresh_ = false;
+}
+std::optional<QDateTime> AppDelegate::travellingUntil() {
+    refreshModes();
+    return travellingCache_;
+}
+void AppDelegate::clearTravellingUntil() {
+    defaults_->setTravellingUntil(std::nullopt);
+    modesFresh_ = false;
+}
+
+std::optional<TravelCoords> AppDelegate::travelCoords() const {
+    return travel_->travelCoords();
+}
+void AppDelegate::checkTravelLocation(const QDateTime& now) {
+    travel_->check(config_, now);
+}
+void AppDelegate::clearTravelLocation() {
+    travel_->clear();
+}
 
 void AppDelegate::checkWeeklyReport(const QDateTime& now, const QString& dayKey) {
     if (const std::optional<QString> text = weeklyReportDue(config_, now, dayKey, firedNudges_))

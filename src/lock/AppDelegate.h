@@ -5,6 +5,7 @@
 #include "engine/Clock.h"
 #include "engine/Config.h"
 #include "engine/DayTimes.h"
+#include "lock/FileStamp.h"
 #include "lock/LockScreenState.h"
 #include "menubar/MenuModel.h"
 #include "platform/Platform.h"
@@ -54,7 +55,7 @@ public:
     // Schedule.
     const DayTimes& todaysTimes();
     Config activeConfig() const;
-    bool combiningPrayers(const QDateTime& now) const;
+    bool combiningPrayers(const QDateTime& now);
     std::optional<QString> combinedPartner(const QString& name) const;
     bool isCombinedAway(const QString& name) const;
     QString lockName(const QString& name, bool combining) const;
@@ -109,6 +110,9 @@ public:
     const DayTimes& cachedWaqt() const { return cachedWaqt_; }
     bool hasDeferredLock() const { return deferred_.has_value(); }
     bool hasStrictQuestion() const { return strict_.has_value(); }
+    // The title last handed to the platform, for a tray that appears late.
+    const QString& statusTitle() const { return lastTitle_; }
+    TitleColor statusTitleColor() const { return lastTitleColor_; }
 
 private:
     struct DeferredLock {
@@ -125,11 +129,26 @@ private:
 
     enum class GuardianAnswer { ok, wrong, tooManyTries };
 
+    // `clock`, or the system clock should someone clear it.
+    QDateTime currentTime() const { return clock ? clock() : systemNow(); }
+
+    // One prayer of today's schedule with the keys the tick looks up, made once per schedule.
+    struct PrayerSlot {
+        QString name;
+        QString lockKey;
+        QStringList nudgeKeys; // one per configured offset, in order
+        qint64 at = 0;         // lock time, ms since the epoch
+        bool valid = false;
+    };
+
     const QString& dayKeyOf(const QDateTime& now);
+    bool reloadIfChanged(const FileStamp& stamp);
+    const DayTimes& scheduleFor(const QDateTime& now);
+    void refreshModes();
     bool ramadanToday(const QDateTime& now);
     std::optional<QDateTime> tomorrowsFajr(const QDateTime& now);
     void runLockTick(const DayTimes& times, const QDateTime& now);
-    bool walkPrayers(const DayTimes& times, const QDateTime& now);
+    bool walkPrayers(const QDateTime& now);
     void buildLockWindows();
 
     // What the controller asks of the stores.
@@ -139,9 +158,9 @@ private:
     bool guardianIsSet() const;
     GuardianAnswer verifyGuardian(const QString& code, const QDateTime& at);
     bool excusedNow(const QDateTime& now);
-    std::optional<QDateTime> pausedUntil() const;
+    std::optional<QDateTime> pausedUntil();
     void clearPause();
-    std::optional<QDateTime> travellingUntil() const;
+    std::optional<QDateTime> travellingUntil();
     void clearTravellingUntil();
     std::optional<TravelCoords> travelCoords() const;
     void checkTravelLocation(const QDateTime& now);
@@ -153,11 +172,13 @@ private:
     Config config_;
     std::unique_ptr<UserDefaults> defaults_;
     TravelLocator* travel_ = nullptr; // child object
-    std::optional<QDateTime> configMTime_;
+    QByteArray configPath_;
+    FileStamp configStamp_; // as last seen; a missing file compares equal to a missing file
     QString cachedDayKey_;
     DayTimes cachedTimes_;
     DayTimes cachedWaqt_;
     bool cachedJumuah_ = false;
+    std::array<PrayerSlot, 5> slots_;
     QSet<QString> firedNudges_;
     QSet<QString> completedLocks_;
 
@@ -190,6 +211,19 @@ private:
     };
     std::optional<TomorrowCache> tomorrow_;
     quint64 scheduleGeneration_ = 0;
+    // The user defaults as last read; our own writes mark them stale.
+    bool modesFresh_ = false;
+    std::optional<QDateTime> pausedCache_, travellingCache_;
+    // The countdown title's inputs at the last tick: the text is only rebuilt when they change.
+    struct TitleInputs {
+        int prayer = -1;
+        qint64 minutes = 0;
+        TitleColor color = TitleColor::Label;
+        bool combining = false, iftar = false;
+        quint64 generation = 0;
+        bool operator==(const TitleInputs&) const = default;
+    };
+    std::optional<TitleInputs> titleInputs_;
     QString lastTitle_;
     TitleColor lastTitleColor_ = TitleColor::Label;
     bool titleSet_ = false;

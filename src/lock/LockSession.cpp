@@ -3,18 +3,9 @@
 #include "lock/AppDelegate.h"
 #include "lock/Presence.h"
 #include "records/Log.h"
+#include "records/Modes.h"
 
 namespace tarvanel {
-
-namespace {
-
-// The platform's default textual form of an instant: "2026-03-06 13:10:00 +0000".
-QString instantText(const QDateTime& instant) {
-    return instant.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) +
-           QStringLiteral(" +0000");
-}
-
-} // namespace
 
 void AppDelegate::startLock(const QString&, const QString& displayName, const QDateTime& until) {
     if (lockEnd_) return; // the first lock's end stands
@@ -24,14 +15,15 @@ void AppDelegate::startLock(const QString&, const QString& displayName, const QD
     guardianBuffer_.clear();
     guardianMessage_.clear();
     logLine(QStringLiteral("Tarvanel: locked for ") + displayName + QStringLiteral(" until ") +
-            instantText(until));
+            defaultDescription(until));
     platform_.closeBanner();
     platform_.activateApp();
     buildLockWindows();
 
     const std::optional<QString> adhan =
         config_.isOn(config_.adhanEnabled, true) ? adhanFileURL() : std::nullopt;
-    if (!adhan || !platform_.playSoundFile(*adhan)) platform_.playNamedSound(QStringLiteral("Blow"));
+    if (!adhan || !platform_.playSoundFile(*adhan))
+        platform_.playNamedSound(QStringLiteral("Blow"));
 
     if (config_.isOn(config_.focusShortcuts, false) && completedLocksKeyPending_) {
         // Focus shortcuts are a separate piece of work; remember that this lock asked for one.
@@ -122,7 +114,7 @@ void AppDelegate::guardianKeyInput(const QString& text, bool del) {
     if (guardianBuffer_.size() >= 6) {
         const QString code = guardianBuffer_.left(6);
         guardianBuffer_.clear();
-        switch (verifyGuardian(code, clock())) {
+        switch (verifyGuardian(code, currentTime())) {
         case GuardianAnswer::ok:
             endLock(true);
             return;

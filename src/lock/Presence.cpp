@@ -1,5 +1,6 @@
 #include "lock/Presence.h"
 
+#include "records/Log.h"
 #include "records/StateFiles.h"
 
 #include <QDir>
@@ -24,13 +25,12 @@ namespace {
 std::optional<bool> soundServerRecording() {
     const QString tool = roots().soundServerTool;
     if (tool.isEmpty()) return std::nullopt;
-    const QString program = QFileInfo(tool).isAbsolute()
-                                ? tool
-                                : QStandardPaths::findExecutable(tool);
+    const QString program =
+        QFileInfo(tool).isAbsolute() ? tool : QStandardPaths::findExecutable(tool);
     if (program.isEmpty()) return std::nullopt;
     QProcess p;
-    p.start(program, {QStringLiteral("list"), QStringLiteral("short"),
-                      QStringLiteral("source-outputs")});
+    p.start(program,
+            {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("source-outputs")});
     if (!p.waitForFinished(1000)) {
         p.kill();
         p.waitForFinished(200);
@@ -40,9 +40,22 @@ std::optional<bool> soundServerRecording() {
     return !p.readAllStandardOutput().trimmed().isEmpty();
 }
 
+// Said once per process: the check runs every second while a lock waits.
+void logSkippedOnce(bool& said, const QString& line) {
+    if (said) return;
+    said = true;
+    logLine(line);
+}
+
 // card*/pcm*c/sub*/status reads "state: RUNNING" while a capture substream records.
 bool alsaCaptureRunning() {
     const QDir root(roots().asound);
+    if (!root.exists()) {
+        static bool said = false;
+        logSkippedOnce(said, QStringLiteral("Tarvanel: no sound server and no ") + root.path() +
+                                 QStringLiteral("; a microphone in use is not detected"));
+        return false;
+    }
     for (const QString& card : root.entryList({QStringLiteral("card*")}, QDir::Dirs)) {
         const QDir cardDir(root.filePath(card));
         for (const QString& pcm : cardDir.entryList({QStringLiteral("pcm*c")}, QDir::Dirs)) {
@@ -66,10 +79,18 @@ bool micInUse() {
 
 bool cameraInUse() {
     const QDir proc(roots().proc);
+    if (!proc.isReadable()) {
+        static bool said = false;
+        logSkippedOnce(said,
+                       QStringLiteral("Tarvanel: ") + proc.path() +
+                           QStringLiteral(" cannot be read; a camera in use is not detected"));
+        return false;
+    }
     for (const QString& pid : proc.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         if (pid.isEmpty() || !pid.front().isDigit()) continue;
         const QDir fds(proc.filePath(pid) + QStringLiteral("/fd"));
-        for (const QFileInfo& fd : fds.entryInfoList(QDir::System | QDir::Files | QDir::NoDotAndDotDot)) {
+        for (const QFileInfo& fd :
+             fds.entryInfoList(QDir::System | QDir::Files | QDir::NoDotAndDotDot)) {
             if (!fd.isSymLink()) continue;
             if (fd.symLinkTarget().startsWith(QStringLiteral("/dev/video"))) return true;
         }
@@ -77,7 +98,9 @@ bool cameraInUse() {
     return false;
 }
 
-bool inCall() { return micInUse() || cameraInUse(); }
+bool inCall() {
+    return micInUse() || cameraInUse();
+}
 
 } // namespace Presence
 

@@ -15,8 +15,8 @@ void AppDelegate::showNudge(const QString& prayer, int minutesLeft, double offse
         tail = QStringLiteral(" minutes. Save your work now.");
     else
         tail = QStringLiteral(" min — the screen is about to lock. Go make wudu.");
-    const QString message =
-        QStringLiteral("🕌  ") + prayer + QStringLiteral(" in ") + QString::number(minutesLeft) + tail;
+    const QString message = QStringLiteral("🕌  ") + prayer + QStringLiteral(" in ") +
+                            QString::number(minutesLeft) + tail;
     showBanner(message, pickQuote(prayer), offset <= 2 ? BannerStyle::urgent : BannerStyle::normal);
 }
 
@@ -43,8 +43,9 @@ void AppDelegate::checkFajrEndWarning(const QDateTime& now, const QString& dayKe
         if (at.msecsTo(now) >= 90000) continue;
         const qint64 n = now.msecsTo(*sunrise) / 60000 + 1;
         showBanner(QStringLiteral("⚠️  Fajr ends at sunrise ") +
-                       formatLocal(*sunrise, QStringLiteral("h:mm AP")) + QStringLiteral(" — only ") +
-                       QString::number(n) + QStringLiteral(" min left!"),
+                       formatLocal(*sunrise, QStringLiteral("h:mm AP")) +
+                       QStringLiteral(" — only ") + QString::number(n) +
+                       QStringLiteral(" min left!"),
                    pickQuote(QStringLiteral("Fajr")), BannerStyle::critical);
     }
 }
@@ -54,8 +55,8 @@ void AppDelegate::checkTarawihNudge(const QDateTime& now, const QString& dayKey,
     if (!config_.isOn(config_.ramadanMode, true) || !ramadanToday(now)) return;
     const std::optional<QDateTime> isha = times.value(u"Isha");
     if (!isha || !isha->isValid()) return;
-    const QDateTime at = isha->addMSecs(
-        qint64((-config_.leadMinutes() + config_.lockMinutes) * 60000.0) + 120000);
+    const QDateTime at =
+        isha->addMSecs(qint64((-config_.leadMinutes() + config_.lockMinutes) * 60000.0) + 120000);
     if (now < at) return;
     const QString key = dayKey + QStringLiteral("-Tarawih");
     if (firedNudges_.contains(key)) return;
@@ -87,7 +88,7 @@ void AppDelegate::askStrict() {
     completedLocksKeyPending_ = pending.key;
     combinedPending_ = pending.partner;
     const QString prayer = pending.key.mid(pending.key.lastIndexOf(QLatin1Char('-')) + 1);
-    startLock(prayer, pending.displayName, clock().addSecs(300));
+    startLock(prayer, pending.displayName, currentTime().addSecs(300));
 }
 
 } // namespace tarvanel

@@ -11,30 +11,26 @@ namespace tarvanel {
 
 namespace {
 
-QString lockKeyOf(const QString& dayKey, const QString& name) {
-    return dayKey + QLatin1Char('-') + name;
+qint64 minutesMs(double minutes) {
+    return qint64(std::llround(minutes * 60000.0));
 }
-
-QString nudgeKeyOf(const QString& lockKey, double offset) {
-    return lockKey + QLatin1Char('-') + QString::number(qint64(std::trunc(offset)));
-}
-
-qint64 minutesMs(double minutes) { return qint64(std::llround(minutes * 60000.0)); }
 
 } // namespace
 
 void AppDelegate::tick() {
-    const QDateTime now = clock();
+    const QDateTime now = currentTime();
     if (!now.isValid()) return;
 
-    // 1. Not set up.
-    if (!lockEnd_ && !testLockSeconds_ && !configExists()) {
+    // 1. Not set up. One stat of the settings file serves this check and the reload.
+    const FileStamp configStamp = FileStamp::of(configPath_);
+    if (!lockEnd_ && !testLockSeconds_ && !configStamp.exists) {
         setStatusTitle(QStringLiteral("🕌 Set up"), TitleColor::Orange);
         return;
     }
     // 2–4. Keep the schedule and its inputs current.
     checkTravelLocation(now);
-    const DayTimes& times = todaysTimes();
+    reloadIfChanged(configStamp);
+    const DayTimes& times = scheduleFor(now);
     const QString dayKey = cachedDayKey_;
     // Calendar blocking is a separate piece of work; no daily sync here yet.
 
@@ -66,6 +62,7 @@ void AppDelegate::tick() {
 
     // 10. A lock waiting for a call.
     if (deferred_) {
+        if (now < deferred_->since) deferred_->since = now; // the clock went back: wait afresh
         const qint64 waited = deferred_->since.msecsTo(now);
         if (callCheck && callCheck() && waited < minutesMs(config_.callGrace())) {
             setStatusTitle(QStringLiteral("🕌 ") + deferred_->displayName +
@@ -87,7 +84,7 @@ void AppDelegate::tick() {
         return;
     }
     // 12–13. The five prayers.
-    walkPrayers(times, now);
+    walkPrayers(now);
 
     // 14. The day's one-off banners, only while nothing locks.
     if (!lockEnd_) {
@@ -112,43 +109,46 @@ void AppDelegate::runLockTick(const DayTimes& times, const QDateTime& now) {
         platform_.activateApp();
         platform_.raiseLockWindows(guardianIsSet());
         const qint64 s = now.msecsTo(*lockEnd_) / 1000;
-        lockState_->setCountdown(QString::asprintf("Screen unlocks in %lld:%02lld", s / 60, s % 60));
+        lockState_->setCountdown(
+            QString::asprintf("Screen unlocks in %lld:%02lld", s / 60, s % 60));
     }
     updateStatusTitle(times, now);
 }
 
-bool AppDelegate::walkPrayers(const DayTimes& times, const QDateTime& now) {
+// The slots made with the schedule carry the same instants as `times`.
+bool AppDelegate::walkPrayers(const QDateTime& now) {
     const bool combining = combiningPrayers(now);
     const qint64 nowMs = now.toMSecsSinceEpoch();
     const qint64 leadMs = minutesMs(config_.leadMinutes());
-    const QString& dayKey = cachedDayKey_;
-    for (const QString& name : prayerNames()) {
-        const std::optional<QDateTime> at = times.value(name);
-        if (!at || !at->isValid()) continue;
+    const QList<double>& offsets = config_.nudgeOffsetsMinutes;
+    for (const PrayerSlot& slot : slots_) {
+        if (!slot.valid) continue;
+        const QString& name = slot.name;
         if (combining && isCombinedAway(name)) continue;
-        const QString key = lockKeyOf(dayKey, name);
+        const QString& key = slot.lockKey;
         if (completedLocks_.contains(key)) continue;
-        const qint64 t = at->toMSecsSinceEpoch();
-        const QString display = lockName(name, combining);
+        const qint64 t = slot.at;
 
         if (nowMs < t) {
-            for (double offset : config_.nudgeOffsetsMinutes) {
-                const qint64 due = t - minutesMs(offset);
+            for (qsizetype i = 0; i < offsets.size() && i < slot.nudgeKeys.size(); ++i) {
+                const qint64 due = t - minutesMs(offsets[i]);
                 if (nowMs < due) continue;
-                const QString nkey = nudgeKeyOf(key, offset);
+                const QString& nkey = slot.nudgeKeys[i];
                 if (firedNudges_.contains(nkey)) continue;
                 firedNudges_.insert(nkey);
                 if (nowMs - due < 90000)
-                    showNudge(display, int((t - nowMs) / 60000) + 1, offset);
+                    showNudge(lockName(name, combining), int((t - nowMs) / 60000) + 1, offsets[i]);
             }
         }
 
         const qint64 start = t - leadMs;
         const qint64 windowEnd = start + minutesMs(lockDuration(name));
         if (nowMs < start || nowMs >= windowEnd) continue;
+        const QString display = lockName(name, combining);
         if (config_.callGrace() > 0 && callCheck && callCheck()) {
             deferred_ = DeferredLock{key, name, display, now};
-            showBanner(QStringLiteral("🕌  ") + display + QStringLiteral(" locks when your call ends"),
+            showBanner(QStringLiteral("🕌  ") + display +
+                           QStringLiteral(" locks when your call ends"),
                        std::nullopt, BannerStyle::urgent);
             logLine(QStringLiteral("Tarvanel: ") + display +
                     QStringLiteral(" lock waiting for a call to end"));

@@ -22,7 +22,9 @@ namespace {
 
 const QString timePattern = QStringLiteral("h:mm AP");
 
-QString timeText(const QDateTime& instant) { return formatLocal(instant, timePattern); }
+QString timeText(const QDateTime& instant) {
+    return formatLocal(instant, timePattern);
+}
 
 // Which start-of-time ends a prayer's window; Isha has none.
 std::optional<QString> windowEnd(const QString& prayer) {
@@ -58,7 +60,7 @@ MenuModel AppDelegate::buildMenu() {
         return menu;
     }
 
-    const QDateTime now = clock();
+    const QDateTime now = currentTime();
     const Config display = activeConfig();
     const DayTimes times = todaysTimes();
     const double maxDays = config_.excusedDays();
@@ -103,8 +105,8 @@ MenuModel AppDelegate::buildMenu() {
     for (const QString& name : dayRowNames()) {
         const auto t = times.value(name);
         if (!t) continue;
-        QString text = name == QLatin1String("Dhuhr") && cachedJumuah_ ? QStringLiteral("Jumu'ah")
-                                                                         : name;
+        QString text =
+            name == QLatin1String("Dhuhr") && cachedJumuah_ ? QStringLiteral("Jumu'ah") : name;
         if (combining && name == QLatin1String("Asr") && !cachedJumuah_)
             text += QStringLiteral(" (with Dhuhr)");
         if (combining && name == QLatin1String("Isha")) text += QStringLiteral(" (with Maghrib)");
@@ -131,7 +133,8 @@ MenuModel AppDelegate::buildMenu() {
     const Marks::Map marks = Marks::load();
     const int streak = streakDays(now, maxDays, history, excusedRanges);
     menu << MenuItem::info(QStringLiteral("🔥 Streak: ") + QString::number(streak) +
-                           QStringLiteral(" day") + (streak == 1 ? QString() : QStringLiteral("s")));
+                           QStringLiteral(" day") +
+                           (streak == 1 ? QString() : QStringLiteral("s")));
     for (int k = 6; k >= 0; --k) {
         const QDateTime day = now.addSecs(-qint64(k) * 86400);
         const QString key = dayKey(day);
@@ -142,7 +145,8 @@ MenuModel AppDelegate::buildMenu() {
             const bool cellExcused = t && Excused::contains(*t, excusedRanges, maxDays);
             cells << gridMark(prayer, key, history, marks, cellExcused);
         }
-        const QString label = formatLocal(day, QStringLiteral("ddd d")).leftJustified(7, u' ', true);
+        const QString label =
+            formatLocal(day, QStringLiteral("ddd d")).leftJustified(7, u' ', true);
         menu << gridRow(label + QLatin1Char(' ') + cells.join(QLatin1Char(' ')));
     }
     menu << MenuItem::separator();
@@ -173,7 +177,8 @@ MenuModel AppDelegate::buildMenu() {
             },
             tag);
     }
-    if (mark.submenu.isEmpty()) mark.submenu << MenuItem::info(QStringLiteral("Nothing to mark yet"));
+    if (mark.submenu.isEmpty())
+        mark.submenu << MenuItem::info(QStringLiteral("Nothing to mark yet"));
     menu << mark;
 
     menu << (excused ? command(QStringLiteral("No Longer Excused"), &AppDelegate::endExcused)
@@ -208,8 +213,8 @@ void AppDelegate::markPrayed(int tag) {
     if (tag < 0 || i >= prayerNames().size()) return;
     const QString prayer = prayerNames()[i];
     const bool elsewhere = tag < 100;
-    markKept({prayer}, dayKey(clock()), elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"),
-             completedLocks_);
+    markKept({prayer}, dayKey(currentTime()),
+             elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"), completedLocks_);
     if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
     logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
             (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
@@ -217,8 +222,8 @@ void AppDelegate::markPrayed(int tag) {
 }
 
 void AppDelegate::previewLock() {
-    // The preview always runs ten real seconds, whatever clock the scheduler reads.
-    startLock(QStringLiteral("Preview"), QStringLiteral("Preview"), systemNow().addSecs(10));
+    // The controller's clock, like every other instant, so the tick that ends it agrees.
+    startLock(QStringLiteral("Preview"), QStringLiteral("Preview"), currentTime().addSecs(10));
 }
 
 void AppDelegate::openSettings() {
@@ -228,9 +233,10 @@ void AppDelegate::openSettings() {
 
 void AppDelegate::exportHistory() {
     platform_.activateApp();
-    const std::optional<QString> path = platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
+    const std::optional<QString> path =
+        platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
     if (!path) return;
-    writeFileAtomically(*path, historyCSV(config_, clock()).toUtf8());
+    writeFileAtomically(*path, historyCSV(config_, currentTime()).toUtf8());
 }
 
 void AppDelegate::uninstall() {
@@ -238,37 +244,44 @@ void AppDelegate::uninstall() {
     const std::optional<bool> deleteData =
         confirmUninstall(platform_, QStringLiteral("Your prayer times stop locking the screen."));
     if (!deleteData) return;
-    if (*deleteData) defaults_->removeAll();
+    if (*deleteData) {
+        defaults_->removeAll();
+        modesFresh_ = false;
+    }
     uninstallApp(platform_, *deleteData);
 }
 
 void AppDelegate::startExcused() {
-    if (!askStartExcused(platform_, config_, clock())) return;
+    if (!askStartExcused(platform_, config_, currentTime())) return;
     deferred_.reset();
     tick();
 }
 
 void AppDelegate::endExcused() {
-    tarvanel::endExcused(clock());
+    tarvanel::endExcused(currentTime());
     tick();
 }
 
 void AppDelegate::startTravelling() {
-    if (askTravel(platform_, *defaults_, config_, clock())) tick();
+    modesFresh_ = false;
+    if (askTravel(platform_, *defaults_, config_, currentTime())) tick();
 }
 
 void AppDelegate::stopTravelling() {
     tarvanel::stopTravelling(*defaults_);
+    modesFresh_ = false;
     tick();
 }
 
 void AppDelegate::pauseLocks(int days) {
     if (lockEnd_) return;
-    if (askPause(platform_, *defaults_, days, clock())) tick();
+    modesFresh_ = false;
+    if (askPause(platform_, *defaults_, days, currentTime())) tick();
 }
 
 void AppDelegate::resumeLocks() {
     resume(*defaults_);
+    modesFresh_ = false;
     tick();
 }
 

@@ -17,6 +17,7 @@ QString countdownText(qint64 s) {
 } // namespace
 
 void AppDelegate::setStatusTitle(const QString& title, TitleColor color) {
+    titleInputs_.reset();
     if (titleSet_ && title == lastTitle_ && color == lastTitleColor_) return;
     titleSet_ = true;
     lastTitle_ = title;
@@ -31,7 +32,8 @@ void AppDelegate::updateStatusTitle(const DayTimes& times, const QDateTime& now)
     }
     const bool combining = combiningPrayers(now);
     const qint64 nowMs = now.toMSecsSinceEpoch();
-    for (const QString& name : prayerNames()) {
+    for (int i = 0; i < prayerNames().size(); ++i) {
+        const QString& name = prayerNames()[i];
         if (combining && isCombinedAway(name)) continue;
         const std::optional<QDateTime> at = times.value(name);
         if (!at || !at->isValid()) continue;
@@ -42,20 +44,22 @@ void AppDelegate::updateStatusTitle(const DayTimes& times, const QDateTime& now)
         const TitleColor color = m <= 5    ? TitleColor::Red
                                  : m <= 20 ? TitleColor::Orange
                                            : TitleColor::Label;
-        QString emblem = QStringLiteral("🕌");
-        QString label = lockName(name, combining);
-        if (name == QLatin1String("Maghrib") && ramadanToday(now) &&
-            config_.isOn(config_.ramadanMode, true)) {
-            emblem = QStringLiteral("🌙");
-            label = QStringLiteral("Iftar");
-        }
-        setStatusTitle(emblem + QLatin1Char(' ') + label + QStringLiteral(" in ") +
-                           countdownText((t - nowMs) / 1000),
-                       color);
+        const bool iftar = name == QLatin1String("Maghrib") && ramadanToday(now) &&
+                           config_.isOn(config_.ramadanMode, true);
+        const qint64 s = (t - nowMs) / 1000;
+        // The text changes once a minute; most ticks only confirm it.
+        const TitleInputs inputs{i, s / 60, color, combining, iftar, scheduleGeneration_};
+        if (titleInputs_ && *titleInputs_ == inputs) return;
+        const QString emblem = iftar ? QStringLiteral("🌙") : QStringLiteral("🕌");
+        const QString label = iftar ? QStringLiteral("Iftar") : lockName(name, combining);
+        setStatusTitle(
+            emblem + QLatin1Char(' ') + label + QStringLiteral(" in ") + countdownText(s), color);
+        titleInputs_ = inputs;
         return;
     }
     if (const std::optional<QDateTime> fajr = tomorrowsFajr(now))
-        setStatusTitle(QStringLiteral("🕌 Fajr at ") + formatLocal(*fajr, QStringLiteral("h:mm AP")),
+        setStatusTitle(QStringLiteral("🕌 Fajr at ") +
+                           formatLocal(*fajr, QStringLiteral("h:mm AP")),
                        TitleColor::Label);
 }
 

@@ -162,29 +162,60 @@ QString historyCSV(const Config& cfg, const QDateTime& now) {
     }
 
     if (!excused.isEmpty()) {
+        // The union of the periods as sorted, disjoint spans: membership is a binary search and
+        // the walk can jump over the long stretches that no period comes near.
+        struct Span {
+            QDateTime start, end;
+        };
+        QList<Span> spans;
         QDateTime earliest = excused.first().start;
-        for (const ExcusedRange& r : excused)
+        for (const ExcusedRange& r : excused) {
             earliest = std::min(earliest, r.start);
+            const QDateTime end = r.effectiveEnd(maxDays);
+            if (r.start < end) spans.append({r.start, end});
+        }
+        std::sort(spans.begin(), spans.end(),
+                  [](const Span& a, const Span& b) { return a.start < b.start; });
+        QList<Span> merged;
+        for (const Span& span : spans) {
+            if (!merged.isEmpty() && span.start <= merged.last().end)
+                merged.last().end = std::max(merged.last().end, span.end);
+            else
+                merged.append(span);
+        }
+        auto inside = [&](const QDateTime& t) {
+            auto it =
+                std::upper_bound(merged.cbegin(), merged.cend(), t,
+                                 [](const QDateTime& v, const Span& s) { return v < s.start; });
+            return it != merged.cbegin() && t < std::prev(it)->end;
+        };
+
         // Nothing was recorded before 1970; a hand-edited start of year 1 must not walk
         // seven hundred thousand days.
         earliest = std::max(earliest, QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
-        for (QDate date = localDate(earliest); date.isValid(); date = date.addDays(1)) {
+        qsizetype next = 0; // first span that may still reach the day being looked at
+        QDate date = localDate(earliest);
+        while (date.isValid() && next < merged.size()) {
             const QDateTime dayStart = startOfLocalDay(date);
             if (!dayStart.isValid() || dayStart > now) break;
-            // Lock times stay within a day of their own day: skip days no period comes near.
-            if (!Excused::touchesDay(dayStart.addSecs(-86400), excused, maxDays) &&
-                !Excused::touchesDay(dayStart, excused, maxDays) &&
-                !Excused::touchesDay(dayStart.addSecs(86400), excused, maxDays))
+            // A day's lock times lie within a day of the day itself.
+            while (next < merged.size() && merged[next].end <= dayStart.addSecs(-86400))
+                ++next;
+            if (next == merged.size()) break;
+            if (merged[next].start >= dayStart.addSecs(2 * 86400)) {
+                date = std::max(date.addDays(1), localDate(merged[next].start).addDays(-1));
                 continue;
+            }
             const QString key = dayKey(date);
             const QStringList kept = history.value(key);
             const DayTimes times = effectiveTimes(dayStart, cfg).final;
             for (int i = 0; i < names.size(); ++i) {
                 const auto at = times.value(names[i]);
                 if (!at || *at > now || kept.contains(names[i])) continue;
-                if (Excused::contains(*at, excused, maxDays))
+                if (inside(*at))
                     rows.append({key, i, key + u',' + names[i] + QStringLiteral(",excused")});
             }
+            date = date.addDays(1);
         }
     }
 

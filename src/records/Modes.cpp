@@ -19,7 +19,10 @@ QString defaultDescription(const QDateTime& instant) {
 }
 
 bool askPause(Platform& platform, UserDefaults& defaults, int days, const QDateTime& now) {
-    const QDateTime until = startOfLocalDay(now).addSecs(qint64(days) * daySeconds);
+    // Local midnight `days` days on; counted in calendar days so that a week across a clock
+    // change still ends at midnight rather than at 23:00 or 01:00.
+    const QDateTime until = startOfLocalDay(localDate(now).addDays(days));
+    if (!until.isValid()) return false;
     AlertRequest request;
     request.message = QStringLiteral("Pause Tarvanel?");
     request.info = QStringLiteral("No reminders and no locks until ") +

@@ -56,9 +56,12 @@ std::optional<QByteArray> readWholeFile(const QString& path) {
     return bytes;
 }
 
+// Unbuffered on purpose: a buffered QSaveFile flushes a short write (file-size limit, full
+// disk) without noticing and commits a truncated file. Unbuffered, write() reports the short
+// count and the temporary file is discarded.
 bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
     QSaveFile f(path);
-    if (!f.open(QIODevice::WriteOnly)) return false;
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
     if (f.write(bytes) != bytes.size()) {
         f.cancelWriting();
         return false;
@@ -69,7 +72,7 @@ bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
 bool writeFileAtomically(const QString& path, const QByteArray& bytes,
                          QFileDevice::Permissions permissions) {
     QSaveFile f(path);
-    if (!f.open(QIODevice::WriteOnly)) return false;
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
     // Applies to the temporary file, so the secret never sits in a file others can read.
     if (!f.setPermissions(permissions) || f.write(bytes) != bytes.size()) {
         f.cancelWriting();
@@ -80,7 +83,7 @@ bool writeFileAtomically(const QString& path, const QByteArray& bytes,
 
 bool writeFilePlain(const QString& path, const QByteArray& bytes) {
     QFile f(path);
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) return false;
     return f.write(bytes) == bytes.size();
 }
 

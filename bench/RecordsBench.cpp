@@ -1,0 +1,103 @@
+// Speed of the records, guardian and timetable paths that run on the main thread.
+#include "engine/Config.h"
+#include "engine/LocalTime.h"
+#include "guardian/Guardian.h"
+#include "records/Excused.h"
+#include "records/History.h"
+#include "records/StateFiles.h"
+#include "timetable/TimetableParser.h"
+
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+using namespace tarvanel;
+
+namespace {
+
+// Every benchmark works in its own throw-away home in London time.
+struct ScratchHome {
+    QTemporaryDir dir;
+    ScratchHome() {
+        qputenv("TZ", "Europe/London");
+        resetLocalTimeZone();
+        setHomeDirForTesting(dir.path());
+        ensureSupportDir();
+    }
+};
+
+const QDateTime now = QDateTime(QDate(2025, 3, 1), QTime(12, 0), Qt::UTC);
+
+// Five years of history with all five prayers every day, and an excused week each month.
+void writeFiveYears(bool excused) {
+    HistoryMap history;
+    QList<ExcusedRange> ranges;
+    const QDate last = localDate(now);
+    for (QDate d = last.addYears(-5); d <= last; d = d.addDays(1)) {
+        if (d.day() < 8 && excused) continue; // the excused days keep nothing
+        history[dayKey(d)] = {"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"};
+        if (d.day() == 28 && excused)
+            ranges.append({startOfLocalDay(d.addDays(4)), startOfLocalDay(d.addDays(11))});
+    }
+    saveHistory(history);
+    Excused::save(ranges);
+}
+
+QStringList fortyLineSheet() {
+    QStringList lines{"March 2025 — Masjid timetable",
+                      "Date Day Fajr Begins Jamaat Sunrise Zuhr Jamaat Asr Jamaat Maghrib "
+                      "Isha Jamaat"};
+    for (int d = 1; d <= 31; ++d)
+        lines << QStringLiteral("%1 Sat 5:%2 5:45 6:%3 12:15 1:15 3:%2 4:30 6:%3 7:%2 8:00")
+                     .arg(d)
+                     .arg(10 + d % 40, 2, 10, QLatin1Char('0'))
+                     .arg(20 + d % 30, 2, 10, QLatin1Char('0'));
+    while (lines.size() < 40)
+        lines << QStringLiteral("Jumu'ah 1:30 — all welcome");
+    return lines;
+}
+
+void BM_ParseFortyLineSheet(benchmark::State& state) {
+    const QStringList lines = fortyLineSheet();
+    TimetableParser::parse(lines); // compile the patterns outside the timing
+    for (auto _ : state)
+        benchmark::DoNotOptimize(TimetableParser::parse(lines));
+}
+BENCHMARK(BM_ParseFortyLineSheet)->Unit(benchmark::kMicrosecond);
+
+void BM_GuardianVerify(benchmark::State& state) {
+    ScratchHome home;
+    const QByteArray secret = Guardian::newSecret();
+    Guardian::save(secret);
+    const QString input = Guardian::code(secret, now);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(Guardian::verify(input, now));
+    }
+}
+BENCHMARK(BM_GuardianVerify)->Unit(benchmark::kMicrosecond);
+
+void BM_StreakDaysFiveYears(benchmark::State& state) {
+    ScratchHome home;
+    writeFiveYears(false);
+    int streak = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(streak = streakDays(now, 15));
+    state.counters["streak"] = streak;
+}
+BENCHMARK(BM_StreakDaysFiveYears)->Unit(benchmark::kMillisecond);
+
+void BM_HistoryCsvFiveYearsWithExcusedPeriods(benchmark::State& state) {
+    ScratchHome home;
+    writeFiveYears(true);
+    Config cfg;
+    cfg.latitude = 51.5074;
+    cfg.longitude = -0.1278;
+    qsizetype size = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(size = historyCSV(cfg, now).size());
+    state.counters["chars"] = double(size);
+}
+BENCHMARK(BM_HistoryCsvFiveYearsWithExcusedPeriods)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,81 @@
+#pragma once
+// Drives a real AppDelegate over FakePlatform with a clock that moves one second per tick, so
+// whole days run in a moment and every failure names the simulated second.
+#include "app/CommandLine.h"
+#include "engine/Config.h"
+#include "lock/AppDelegate.h"
+#include "support/FakePlatform.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QStringList>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <ostream>
+
+// Readable QStrings in failure messages.
+inline void PrintTo(const QString& text, std::ostream* os) {
+    *os << '"' << text.toStdString() << '"';
+}
+
+namespace tarvanel::test {
+
+// A local wall-clock moment in the process's zone ("13:00" or "12:39:59.5").
+QDateTime localAt(const QDate& date, const QString& time);
+// "2026-01-14 12:55:00.000" local: how traces and event records name an instant.
+QString localText(const QDateTime& instant);
+
+// Settings with fixed lock times, so a day's schedule is known to the second.
+Config fixedTimesConfig(const QString& fajr = QStringLiteral("06:30"),
+                        const QString& dhuhr = QStringLiteral("13:00"),
+                        const QString& asr = QStringLiteral("15:00"),
+                        const QString& maghrib = QStringLiteral("16:30"),
+                        const QString& isha = QStringLiteral("18:30"));
+
+class DaySimulator {
+public:
+    struct Event {
+        QDateTime at;
+        QString what; // "banner: …", "lock: …", "unlock", "exit: n", "alert: …"
+    };
+
+    // Writes cfg as config.json unless absent; the controller is created at `start`.
+    DaySimulator(const std::optional<Config>& cfg, const QDateTime& start,
+                 const CommandLine& cl = {});
+    ~DaySimulator();
+
+    FakePlatform platform;
+    std::unique_ptr<AppDelegate> app;
+    QDateTime now;
+    QStringList logs;
+    QList<Event> events;
+    bool inCall = false;
+    int callChecks = 0;
+    std::deque<std::optional<bool>> didPrayAnswers; // empty: the question goes to the alert
+
+    // The launch callback at the current instant.
+    void launch();
+    // One tick `seconds` from now; the posted work of that tick runs after it.
+    void step(double seconds = 1);
+    // Ticks once a second until `end` (inclusive). `check` runs after every tick under a
+    // trace naming the instant.
+    void runUntil(const QDateTime& end, const std::function<void()>& check = {});
+    // The computer sleeps: the clock moves without ticks.
+    void sleepUntil(const QDateTime& wake) { now = wake; }
+    // Ends this controller and starts a new one at the current instant (a restart).
+    void restart(const CommandLine& cl = {});
+
+    // Events whose text starts with `prefix`.
+    QList<Event> eventsStarting(const QString& prefix) const;
+    QStringList logsContaining(const QString& part) const;
+
+private:
+    void makeApp(const CommandLine& cl);
+    void record();
+
+    qsizetype seenBanners_ = 0, seenShows_ = 0, seenCloses_ = 0, seenAlerts_ = 0;
+    bool seenExit_ = false;
+};
+
+} // namespace tarvanel::test

@@ -1,0 +1,282 @@
+// The lock session: one lock at a time, clock jumps, the guardian entry, screens, test modes.
+#include "DaySimulator.h"
+
+#include "app/Agent.h"
+#include "guardian/Guardian.h"
+#include "records/History.h"
+#include "records/StateFiles.h"
+#include "support/TestEnv.h"
+
+#include <QFile>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+using namespace tarvanel;
+using namespace tarvanel::test;
+
+namespace {
+
+const QDate kDay(2026, 1, 14);
+
+class LockSessionTest : public ScratchTest {
+protected:
+    static QDateTime at(const QString& time) { return localAt(kDay, time); }
+};
+
+TEST_F(LockSessionTest, ASecondStartDuringALockIsIgnored) {
+    DaySimulator sim(fixedTimesConfig(), at("12:55"));
+    sim.launch();
+    ASSERT_EQ(sim.app->lockEnd(), at("13:10"));
+    sim.app->previewLock();
+    sim.app->startLock("Asr", "Asr", at("18:00"));
+    EXPECT_EQ(sim.app->lockEnd(), at("13:10"));
+    EXPECT_EQ(sim.app->lockPrayer(), "Dhuhr");
+    EXPECT_EQ(sim.platform.lockShows.size(), 1);
+    sim.runUntil(at("13:11"));
+    EXPECT_EQ(sim.eventsStarting("unlock").size(), 1);
+    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
+}
+
+TEST_F(LockSessionTest, ClockGoingBackKeepsTheTimeLeft) {
+    DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
+    sim.launch();
+    sim.runUntil(at("13:00"));
+    sim.sleepUntil(at("12:50")); // NTP pulls the clock back ten minutes
+    sim.step();                  // the ten minutes that were left at the last tick are still left
+    EXPECT_EQ(sim.app->lockState()->countdown(), "Screen unlocks in 10:00");
+    sim.runUntil(at("13:01"));
+    EXPECT_EQ(localText(sim.eventsStarting("unlock").value(0).at).mid(11, 8), "13:00:01");
+    EXPECT_EQ(sim.eventsStarting("lock:").size(), 1); // Dhuhr's window is open again, but done
+    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
+}
+
+TEST_F(LockSessionTest, ClockJumpingDaysAheadEndsTheLockAndStartsAFreshDay) {
+    DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
+    sim.launch();
+    sim.runUntil(at("13:00"));
+    sim.sleepUntil(localAt(kDay.addDays(3), "12:00"));
+    sim.step();
+    EXPECT_FALSE(sim.app->isLocked());
+    EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-17");
+    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 59m");
+    sim.runUntil(localAt(kDay.addDays(3), "13:00"));
+    EXPECT_EQ(sim.eventsStarting("lock:").size(), 2);
+}
+
+TEST_F(LockSessionTest, GuardianEntryLineByLine) {
+    const QByteArray secret = Guardian::newSecret();
+    Guardian::save(secret);
+    Guardian::resetFailuresForTesting();
+    DaySimulator sim(fixedTimesConfig(), at("12:55"));
+    sim.launch();
+    LockScreenState* state = sim.app->lockState();
+    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    EXPECT_EQ(sim.platform.raises, 0);
+    sim.step();
+    EXPECT_EQ(sim.platform.raises, 1);
+
+    sim.app->lockKey(LockKey::Backspace, {});
+    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    sim.app->lockKey(LockKey::Other, "1a2");
+    EXPECT_EQ(state->guardian(), "● ● ○ ○ ○ ○");
+    sim.app->lockKey(LockKey::Backspace, {});
+    EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
+    sim.app->lockKey(LockKey::Escape, {});
+    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+
+    // A wrong code (one that cannot be the current one), then a digit clears the message.
+    const QString good = Guardian::code(secret, sim.now);
+    QString wrong = good;
+    wrong[0] = QChar('0' + (good[0].digitValue() + 5) % 10);
+    sim.app->lockKey(LockKey::Other, wrong);
+    EXPECT_EQ(state->guardian(), "That code didn't work");
+    sim.app->lockKey(LockKey::Other, "7");
+    EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
+
+    // Screens change: the windows are rebuilt and the typed digit survives.
+    sim.platform.screens = 2;
+    sim.app->screensChanged();
+    ASSERT_EQ(sim.platform.lockShows.size(), 2);
+    EXPECT_EQ(sim.platform.lockShows.last().size(), 2);
+    EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
+
+    sim.app->lockKey(LockKey::Escape, {});
+    sim.app->lockKey(LockKey::Other, Guardian::code(secret, sim.now) + "99");
+    EXPECT_FALSE(sim.app->isLocked());
+    EXPECT_FALSE(sim.platform.lockWindowsUp);
+    EXPECT_TRUE(state->guardian().isEmpty());
+    EXPECT_TRUE(sim.logs.contains("Tarvanel: Dhuhr lock ended early with the guardian code"));
+    EXPECT_TRUE(sim.app->completedLocks().contains("2026-01-14-Dhuhr"));
+    EXPECT_TRUE(loadHistory().isEmpty());
+    sim.runUntil(at("13:10"));
+    EXPECT_EQ(sim.platform.lockShows.size(), 2); // the start and the rebuild, nothing since
+}
+
+TEST_F(LockSessionTest, WithoutAGuardianDigitsDoNothing) {
+    DaySimulator sim(fixedTimesConfig(), at("12:55"));
+    sim.launch();
+    LockScreenState* state = sim.app->lockState();
+    EXPECT_TRUE(state->guardian().isEmpty());
+    sim.app->lockKey(LockKey::Escape, {});
+    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    sim.app->lockKey(LockKey::Other, "123456");
+    EXPECT_TRUE(sim.app->isLocked());
+    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+}
+
+TEST_F(LockSessionTest, PreviewLocksTenSecondsAndRecordsNothing) {
+    Config cfg = fixedTimesConfig();
+    cfg.strictMode = true;
+    DaySimulator sim(cfg, at("12:00"));
+    sim.launch();
+    const MenuModel menu = sim.app->buildMenu();
+    menu[menu.size() - 2].action(); // "Preview Lock (10 s)"
+    EXPECT_EQ(sim.platform.lockShows.value(0).value(0).prayer, "Preview");
+    sim.runUntil(at("12:00:09"));
+    EXPECT_TRUE(sim.app->isLocked());
+    sim.step();
+    EXPECT_FALSE(sim.app->isLocked());
+    EXPECT_TRUE(sim.platform.alerts.isEmpty());
+    EXPECT_FALSE(sim.app->hasStrictQuestion());
+    EXPECT_TRUE(loadHistory().isEmpty());
+    EXPECT_TRUE(sim.app->completedLocks().isEmpty());
+}
+
+TEST_F(LockSessionTest, EachScreenGetsAWindowAndTheAdhanPrefersMp3) {
+    writeSupportFile("adhan.wav", "RIFF");
+    writeSupportFile("adhan.mp3", "ID3");
+    DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
+    sim.platform.screens = 3;
+    sim.launch();
+    sim.step();
+    ASSERT_EQ(sim.platform.lockShows.size(), 1);
+    EXPECT_EQ(sim.platform.lockShows[0].size(), 3);
+    for (const LockWindowContent& w : sim.platform.lockShows[0])
+        EXPECT_EQ(w.prayer, "Dhuhr");
+    EXPECT_EQ(sim.platform.sounds.last(), "file:" + supportPath("adhan.mp3"));
+    EXPECT_EQ(sim.platform.activations, 1);
+}
+
+TEST_F(LockSessionTest, UnplayableOrDisabledAdhanFallsBackToBlow) {
+    writeSupportFile("adhan.m4a", "junk");
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    sim.platform.soundFilesPlay = false;
+    sim.launch();
+    sim.app->previewLock();
+    EXPECT_EQ(sim.platform.sounds, QStringList{"Blow"});
+    sim.app->endLock(false);
+
+    Config off = fixedTimesConfig();
+    off.adhanEnabled = false;
+    sim.app->applyConfig(off);
+    sim.platform.soundFilesPlay = true;
+    sim.app->previewLock();
+    EXPECT_EQ(sim.platform.sounds, QStringList({"Blow", "Glass", "Blow"}));
+}
+
+TEST_F(LockSessionTest, TestLockRunsAndExits) {
+    CommandLine cl;
+    cl.testLockSeconds = 3;
+    DaySimulator sim(std::nullopt, at("12:00"), cl);
+    sim.launch();
+    EXPECT_EQ(sim.app->lockPrayer(), "Test");
+    EXPECT_TRUE(sim.logsContaining("not started by the login service").isEmpty());
+    sim.step();
+    EXPECT_EQ(sim.platform.title, "🕌 Test");
+    EXPECT_FALSE(sim.platform.exitStatus.has_value());
+    sim.step(2);
+    EXPECT_EQ(sim.platform.exitStatus, 0);
+    EXPECT_EQ(sim.platform.settingsOpened, 0);
+    EXPECT_TRUE(sim.logs.contains("Tarvanel: unlocked after Test"));
+}
+
+TEST_F(LockSessionTest, TestNudgeShowsOneReminderAndExitsAfterSeventeenSeconds) {
+    CommandLine cl;
+    cl.testNudge = true;
+    DaySimulator sim(std::nullopt, at("12:00"), cl);
+    sim.launch();
+    ASSERT_EQ(sim.platform.banners.size(), 1);
+    EXPECT_EQ(sim.platform.banners[0].message, "🕌  Asr in 10 minutes. Start finishing up.");
+    EXPECT_EQ(sim.platform.banners[0].seconds, 16);
+    ASSERT_EQ(sim.platform.timers.size(), 1);
+    EXPECT_EQ(sim.platform.timers[0].first, 17000);
+    EXPECT_FALSE(sim.platform.exitStatus.has_value());
+    sim.platform.timers[0].second();
+    EXPECT_EQ(sim.platform.exitStatus, 0);
+    EXPECT_EQ(sim.platform.settingsOpened, 0);
+}
+
+TEST_F(LockSessionTest, ShowSettingsMarkerOpensTheWindowOnceAfterTheFirstTick) {
+    writeSupportFile(".show-settings", "");
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    sim.launch();
+    EXPECT_EQ(sim.platform.settingsOpened, 1);
+    EXPECT_FALSE(sim.platform.settingsFirstRun);
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m"); // the tick ran first
+    EXPECT_FALSE(QFile::exists(supportPath(".show-settings")));
+    sim.restart();
+    EXPECT_EQ(sim.platform.settingsOpened, 1);
+}
+
+TEST_F(LockSessionTest, ASecondCopyExitsQuietly) {
+    ensureSupportDir();
+    const int fd = ::open(QFile::encodeName(supportPath(".instance.lock")).constData(),
+                          O_RDWR | O_CREAT, 0644);
+    ASSERT_GE(fd, 0);
+    ASSERT_EQ(::flock(fd, LOCK_EX | LOCK_NB), 0);
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    sim.launch();
+    EXPECT_EQ(sim.platform.exitStatus, 0);
+    EXPECT_TRUE(sim.logs.contains("Tarvanel already running; exiting."));
+    EXPECT_TRUE(sim.platform.titles.isEmpty());
+    ::close(fd);
+}
+
+TEST_F(LockSessionTest, TerminationUnderTheAgentAsksForARestart) {
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    sim.launch();
+    sim.app->terminateRequested();
+    EXPECT_EQ(sim.platform.exitStatus, 0); // started from a terminal
+
+    qputenv("TARVANEL_AGENT", "com.velmora.tarvanel");
+    sim.app->terminateRequested();
+    EXPECT_EQ(sim.platform.exitStatus, 1);
+    sim.app->poweringOff();
+    sim.app->terminateRequested();
+    EXPECT_EQ(sim.platform.exitStatus, 0);
+    qunsetenv("TARVANEL_AGENT");
+}
+
+TEST_F(LockSessionTest, ReplacedProgramRestartsUnlessSettingsAreOpen) {
+    const QString exe = scratchHome() + "/tarvanel-exe";
+    QFile f(exe);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("v1");
+    f.close();
+    setExecutablePathForTesting(exe);
+    qputenv("TARVANEL_AGENT", "com.velmora.tarvanel");
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    sim.launch();
+    sim.step();
+    EXPECT_FALSE(sim.platform.exitStatus.has_value());
+
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly)); // rewritten in place: a new modification time
+    f.write("v2");
+    f.flush();
+    ASSERT_TRUE(f.setFileTime(QDateTime::currentDateTimeUtc().addSecs(60),
+                              QFileDevice::FileModificationTime));
+    f.close();
+    sim.platform.settingsOpen = true;
+    sim.step();
+    EXPECT_FALSE(sim.platform.exitStatus.has_value());
+    sim.platform.settingsOpen = false;
+    sim.step();
+    EXPECT_EQ(sim.platform.exitStatus, 1);
+    EXPECT_TRUE(sim.logs.contains("Tarvanel: new version installed, restarting"));
+    qunsetenv("TARVANEL_AGENT");
+    setExecutablePathForTesting({});
+}
+
+} // namespace

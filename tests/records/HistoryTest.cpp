@@ -1,0 +1,261 @@
+#include "records/History.h"
+#include "engine/Schedule.h"
+#include "records/Excused.h"
+#include "records/LockState.h"
+#include "records/StateFiles.h"
+#include "support/TestEnv.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace tarvanel;
+
+namespace {
+class HistoryTest : public test::ScratchTest {
+protected:
+    // saveHistory leaves creating the folder to the other stores, as in real use.
+    void SetUp() override {
+        ScratchTest::SetUp();
+        ensureSupportDir();
+    }
+    QSet<QString> locks;
+};
+
+QDateTime utc(int y, int m, int d, int h = 12, int min = 0, int s = 0) {
+    return QDateTime(QDate(y, m, d), QTime(h, min, s), Qt::UTC);
+}
+
+Config london() {
+    Config c;
+    c.locationName = QStringLiteral("London");
+    c.latitude = 51.5074;
+    c.longitude = -0.1278;
+    return c;
+}
+
+QByteArray fileBytes(const QString& name) {
+    return readWholeFile(supportPath(name)).value_or(QByteArray());
+}
+} // namespace
+
+TEST_F(HistoryTest, MarkingTwiceKeepsOneEntryAndTheLatestMark) {
+    markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
+    markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
+    EXPECT_EQ(loadHistory(), HistoryMap({{"2025-03-01", {"Fajr"}}}));
+    EXPECT_EQ(Marks::load()["2025-03-01"]["Fajr"], QStringLiteral("qada"));
+    EXPECT_EQ(locks, QSet<QString>({"2025-03-01-Fajr"}));
+    EXPECT_EQ(loadCompletedLocks(), locks);
+
+    // History is compact; marks are pretty-printed with sorted keys.
+    EXPECT_EQ(fileBytes("history.json"), QByteArray(R"({"2025-03-01":["Fajr"]})"));
+    EXPECT_EQ(fileBytes("marks.json"),
+              QByteArray("{\n    \"2025-03-01\": {\n        \"Fajr\": \"qada\"\n    }\n}\n"));
+    EXPECT_EQ(fileBytes("state.json"), QByteArray(R"(["2025-03-01-Fajr"])"));
+}
+
+TEST_F(HistoryTest, KeptOrderIsRecordOrderAndUnmarkedKeepingWritesNoMarks) {
+    markKept({"Isha", "Fajr"}, "2025-03-01", std::nullopt, locks);
+    markKept({"Dhuhr", "Isha"}, "2025-03-01", std::nullopt, locks);
+    EXPECT_EQ(loadHistory()["2025-03-01"], QStringList({"Isha", "Fajr", "Dhuhr"}));
+    EXPECT_FALSE(QFile::exists(supportPath("marks.json")));
+    EXPECT_EQ(locks.size(), 3);
+}
+
+TEST_F(HistoryTest, LogKeptSplitsTheLockKeyAndAddsThePartner) {
+    logKept("2025-03-01-Dhuhr", QStringLiteral("Asr"), locks);
+    EXPECT_EQ(loadHistory()["2025-03-01"], QStringList({"Dhuhr", "Asr"}));
+    EXPECT_TRUE(locks.contains("2025-03-01-Asr"));
+    EXPECT_FALSE(QFile::exists(supportPath("marks.json")));
+
+    // Empty pieces are dropped before counting; anything but four pieces is ignored.
+    logKept("2025--03-02-Fajr", std::nullopt, locks);
+    EXPECT_EQ(loadHistory()["2025-03-02"], QStringList({"Fajr"}));
+    for (const char* bad : {"2025-03-03", "2025-03-03-Fajr-Extra", "", "----"})
+        logKept(QString::fromLatin1(bad), QStringLiteral("Asr"), locks);
+    EXPECT_EQ(loadHistory().keys(), QStringList({"2025-03-01", "2025-03-02"}));
+}
+
+TEST_F(HistoryTest, StreakCountsBackFromTodayOrYesterdayAndStopsAtAGap) {
+    const QDateTime now = utc(2025, 3, 10, 9);
+    EXPECT_EQ(streakDays(now, 15), 0);
+    markKept({"Fajr"}, "2025-03-09", std::nullopt, locks);
+    markKept({"Isha"}, "2025-03-08", std::nullopt, locks);
+    markKept({"Isha"}, "2025-03-06", std::nullopt, locks); // after a gap: not counted
+    EXPECT_EQ(streakDays(now, 15), 2);
+    markKept({"Fajr"}, "2025-03-10", std::nullopt, locks);
+    EXPECT_EQ(streakDays(now, 15), 3);
+    // An empty list is no kept day.
+    saveHistory({{"2025-03-10", {}}, {"2025-03-09", {"Fajr"}}});
+    EXPECT_EQ(streakDays(now, 15), 1);
+}
+
+TEST_F(HistoryTest, ExcusedDaysNeitherBreakNorCountTowardsTheStreak) {
+    saveHistory({{"2025-03-01", {"Fajr"}}, {"2025-03-02", {"Fajr"}}, {"2025-03-07", {"Asr"}}});
+    const QDateTime now = utc(2025, 3, 7, 20);
+    EXPECT_EQ(streakDays(now, 15), 1);
+    // Excused from the evening of 2 March until the early hours of 6 March.
+    Excused::save({{utc(2025, 3, 2, 18), utc(2025, 3, 6, 0, 0, 1)}});
+    EXPECT_EQ(streakDays(now, 15), 3);
+    // An open period reaches start + maxDays: 1.5 days from 2 March 18:00 ends before 5 March.
+    Excused::save({{utc(2025, 3, 2, 18), std::nullopt}});
+    EXPECT_EQ(streakDays(now, 1.5), 1);
+    EXPECT_EQ(streakDays(now, 4), 3);
+}
+
+TEST_F(HistoryTest, StreakWalksLocalDaysAcrossDaylightSavingChanges) {
+    // 30 March 2025 has 23 hours in London; every day from 25 March to 2 April is kept.
+    HistoryMap h;
+    for (QDate d(2025, 3, 25); d <= QDate(2025, 4, 2); d = d.addDays(1))
+        h[dayKey(d)] = {"Fajr"};
+    saveHistory(h);
+    EXPECT_EQ(streakDays(QDateTime(QDate(2025, 4, 2), QTime(5, 0), Qt::UTC), 15), 9);
+    EXPECT_EQ(streakDays(QDateTime(QDate(2025, 3, 30), QTime(23, 30), Qt::UTC), 15), 7);
+}
+
+TEST_F(HistoryTest, GridCellsShowQadaThenKeptThenExcused) {
+    const HistoryMap history{{"2025-03-01", {"Fajr", "Dhuhr", "Asr"}}};
+    const Marks::Map marks{{"2025-03-01", {{"Fajr", "qada"}, {"Dhuhr", "elsewhere"}}}};
+    EXPECT_EQ(gridMark("Fajr", "2025-03-01", history, marks, false), QStringLiteral("Fq"));
+    EXPECT_EQ(gridMark("Dhuhr", "2025-03-01", history, marks, true), QStringLiteral("D\u2713"));
+    EXPECT_EQ(gridMark("Asr", "2025-03-01", history, marks, false), QStringLiteral("A\u2713"));
+    EXPECT_EQ(gridMark("Maghrib", "2025-03-01", history, marks, true), QStringLiteral("M\u2013"));
+    EXPECT_EQ(gridMark("Isha", "2025-03-01", history, marks, false), QStringLiteral("I\u00B7"));
+    EXPECT_EQ(gridMark("Isha", "2025-03-02", {}, {}, false), QStringLiteral("I\u00B7"));
+}
+
+TEST_F(HistoryTest, CsvListsKeptAndExcusedPrayersInDayAndPrayerOrder) {
+    EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), QStringLiteral("date,prayer,status\n"));
+
+    markKept({"Dhuhr"}, "2025-03-01", std::nullopt, locks);
+    markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
+    // Asr of 2 March falls inside a short excused period; Dhuhr and Maghrib do not.
+    const QDateTime asr = *effectiveTimes(utc(2025, 3, 2), london()).final.value(u"Asr");
+    Excused::save({{asr.addSecs(-60), asr.addSecs(60)}});
+    EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), QStringLiteral("date,prayer,status\n"
+                                                                    "2025-03-01,Fajr,qada\n"
+                                                                    "2025-03-01,Dhuhr,locked\n"
+                                                                    "2025-03-02,Asr,excused\n"));
+
+    // Marking the excused Asr as prayed elsewhere replaces the excused row.
+    markKept({"Asr"}, "2025-03-02", QStringLiteral("elsewhere"), locks);
+    EXPECT_TRUE(historyCSV(london(), utc(2025, 3, 5)).endsWith("2025-03-02,Asr,elsewhere\n"));
+}
+
+TEST_F(HistoryTest, CsvExcusedRowsStopAtNowAndUnknownPrayersSortLast) {
+    saveHistory({{"2025-03-03", {"Jumu'ah", "Isha", "Fajr"}}});
+    // Excused for the whole of 4 March and beyond (open, 15 days); "now" is 4 March at noon.
+    Excused::save({{utc(2025, 3, 4, 0), std::nullopt}});
+    const QString csv = historyCSV(london(), utc(2025, 3, 4, 12, 30));
+    EXPECT_EQ(csv, QStringLiteral("date,prayer,status\n"
+                                  "2025-03-03,Fajr,locked\n"
+                                  "2025-03-03,Isha,locked\n"
+                                  "2025-03-03,Jumu'ah,locked\n"
+                                  "2025-03-04,Fajr,excused\n"
+                                  "2025-03-04,Dhuhr,excused\n"));
+}
+
+TEST_F(HistoryTest, CsvFindsPeriodsYearsApartOverlappingOrBackwards) {
+    Excused::save({
+        {utc(2025, 3, 4, 8), utc(2025, 3, 4, 23, 59, 59)}, // overlaps the next one
+        {utc(2024, 1, 10, 0), utc(2024, 1, 11, 0)},        // a whole winter day, a year earlier
+        {utc(2024, 6, 1, 12), utc(2024, 6, 1, 6)},         // ends before it starts: empty
+        {utc(2025, 3, 4, 0), utc(2025, 3, 4, 10)},
+    });
+    QString expected = QStringLiteral("date,prayer,status\n");
+    for (const char* day : {"2024-01-10", "2025-03-04"})
+        for (const char* prayer : {"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"})
+            expected += QStringLiteral("%1,%2,excused\n").arg(day, prayer);
+    EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), expected);
+}
+
+TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfSundayNine) {
+    // 2 March 2025 is a Sunday; London is on GMT.
+    saveHistory({{"2025-02-23", {"Fajr"}},
+                 {"2025-02-25", {"Fajr", "Dhuhr"}},
+                 {"2025-03-02", {"Fajr"}},
+                 {"2025-03-01", {"Asr"}}});
+    Marks::save({{"2025-03-01", {{"Asr", "qada"}}}});
+    QSet<QString> fired;
+    const Config cfg = london();
+    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 20, 59, 59), "2025-03-02", fired));
+    EXPECT_TRUE(fired.isEmpty());
+    const auto text = weeklyReportDue(cfg, utc(2025, 3, 2, 21, 5), "2025-03-02", fired);
+    ASSERT_TRUE(text.has_value());
+    // 23 February is a week back and not counted.
+    EXPECT_EQ(*text, QStringLiteral("\U0001F4FF  This week: 4/35 prayers at the Mac \u2022 "
+                                    "streak 2 days"));
+    EXPECT_TRUE(fired.contains("2025-03-02-weekly"));
+    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 6), "2025-03-02", fired));
+
+    // First tick 15 minutes late: the key is recorded, nothing is shown.
+    QSet<QString> late;
+    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 15), "2025-03-02", late));
+    EXPECT_TRUE(late.contains("2025-03-02-weekly"));
+
+    QSet<QString> other;
+    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 3, 21, 5), "2025-03-03", other)); // Monday
+    Config off = cfg;
+    off.weeklyReport = false;
+    EXPECT_FALSE(weeklyReportDue(off, utc(2025, 3, 2, 21, 5), "2025-03-02", other));
+    EXPECT_TRUE(other.isEmpty());
+    off.weeklyReport = std::nullopt; // absent counts as on
+    EXPECT_TRUE(weeklyReportDue(off, utc(2025, 3, 2, 21, 5), "2025-03-02", other));
+}
+
+TEST_F(HistoryTest, WeeklyReportSaysDayForAStreakOfOne) {
+    saveHistory({{"2025-03-02", {"Fajr"}}});
+    QSet<QString> fired;
+    const auto text = weeklyReportDue(london(), utc(2025, 3, 2, 21), "2025-03-02", fired);
+    ASSERT_TRUE(text.has_value());
+    EXPECT_TRUE(text->endsWith(QStringLiteral("streak 1 day"))) << text->toStdString();
+}
+
+TEST_F(HistoryTest, WeeklyReportFollowsTheLocalSunday) {
+    test::setTimeZone("America/New_York");
+    QSet<QString> fired;
+    // 21:05 in New York on Sunday 2 March is 02:05 UTC on Monday.
+    EXPECT_TRUE(weeklyReportDue(london(), utc(2025, 3, 3, 2, 5), "2025-03-02", fired));
+}
+
+TEST_F(HistoryTest, DamagedFilesReadEmptyAndAreReplacedByTheNextSave) {
+    const QList<QByteArray> bad{"",
+                                "{",
+                                "[]",
+                                "null",
+                                R"({"2025-03-01": "Fajr"})",
+                                R"({"2025-03-01": ["Fajr", 3]})",
+                                R"({"2025-03-01": {"Fajr": "qada"}})",
+                                "\x00\x01\x02"};
+    for (const QByteArray& bytes : bad) {
+        SCOPED_TRACE(bytes.toStdString());
+        test::writeSupportFile("history.json", bytes);
+        test::writeSupportFile("marks.json", bytes);
+        test::writeSupportFile("state.json", bytes);
+        EXPECT_TRUE(loadHistory().isEmpty());
+        EXPECT_TRUE(loadCompletedLocks().isEmpty());
+        if (!bytes.contains("qada")) {
+            EXPECT_TRUE(Marks::load().isEmpty());
+        }
+        EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), QStringLiteral("date,prayer,status\n"));
+    }
+    test::writeSupportFile("marks.json", R"({"2025-03-01": {"Fajr": 1}})");
+    EXPECT_TRUE(Marks::load().isEmpty());
+    test::writeSupportFile("state.json", R"(["2025-03-01-Fajr", null])");
+    EXPECT_TRUE(loadCompletedLocks().isEmpty());
+
+    QSet<QString> fresh;
+    markKept({"Fajr"}, "2025-03-01", QStringLiteral("elsewhere"), fresh);
+    EXPECT_EQ(loadHistory(), HistoryMap({{"2025-03-01", {"Fajr"}}}));
+    EXPECT_EQ(Marks::load()["2025-03-01"]["Fajr"], QStringLiteral("elsewhere"));
+    EXPECT_EQ(loadCompletedLocks(), QSet<QString>({"2025-03-01-Fajr"}));
+}
+
+TEST_F(HistoryTest, HistorySaveDoesNotCreateTheFolderButLockStateDoes) {
+    ASSERT_TRUE(QDir(supportDir()).removeRecursively());
+    saveHistory({{"2025-03-01", {"Fajr"}}});
+    EXPECT_FALSE(QFile::exists(supportPath("history.json")));
+    saveCompletedLocks({"2025-03-01-Fajr"});
+    EXPECT_EQ(loadCompletedLocks(), QSet<QString>({"2025-03-01-Fajr"}));
+    saveHistory({{"2025-03-01", {"Fajr"}}});
+    EXPECT_EQ(loadHistory().size(), 1);
+}

@@ -1,0 +1,126 @@
+#include "records/StateFiles.h"
+#include "support/TestEnv.h"
+#include "timetable/Timetable.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+using namespace tarvanel;
+
+namespace {
+class TimetableStoreTest : public test::ScratchTest {
+protected:
+    void SetUp() override {
+        ScratchTest::SetUp();
+        Timetable::resetCacheForTesting();
+    }
+};
+
+QMap<QString, QString> fivePrayers(const QString& fajr) {
+    return {{"Fajr", fajr},
+            {"Dhuhr", "13:15"},
+            {"Asr", "16:40"},
+            {"Maghrib", "18:22"},
+            {"Isha", "20:50"}};
+}
+
+DayTable month(int m, int daysInMonth, const QString& fajr) {
+    DayTable t;
+    for (int d = 1; d <= daysInMonth; ++d)
+        t.insert(dayKey(QDate(2025, m, d)), fivePrayers(fajr));
+    return t;
+}
+
+QDateTime noon(int y, int m, int d) {
+    return QDateTime(QDate(y, m, d), QTime(12, 0), Qt::UTC);
+}
+} // namespace
+
+TEST_F(TimetableStoreTest, NothingStoredReadsEmpty) {
+    EXPECT_TRUE(Timetable::all().isEmpty());
+    EXPECT_TRUE(Timetable::day(noon(2025, 3, 1)).isEmpty());
+    EXPECT_FALSE(Timetable::summary().has_value());
+    Timetable::clear(); // a missing file is fine
+}
+
+TEST_F(TimetableStoreTest, MergingMonthsBuildsUpAndReplacesDaysWhole) {
+    Timetable::merge(month(3, 31, "05:45"));
+    Timetable::merge(month(4, 30, "05:00"));
+    EXPECT_EQ(Timetable::all().size(), 61);
+    EXPECT_EQ(Timetable::day(noon(2025, 3, 1))["Fajr"], QStringLiteral("05:45"));
+    EXPECT_EQ(Timetable::day(noon(2025, 4, 30))["Fajr"], QStringLiteral("05:00"));
+
+    // Re-importing part of March replaces those days whole and keeps the rest.
+    DayTable partial;
+    partial.insert("2025-03-02", {{"Fajr", "05:30"}, {"Isha", "21:00"}});
+    Timetable::merge(partial);
+    EXPECT_EQ(Timetable::day(noon(2025, 3, 2)),
+              (QMap<QString, QString>{{"Fajr", "05:30"}, {"Isha", "21:00"}}));
+    EXPECT_EQ(Timetable::day(noon(2025, 3, 3)), fivePrayers("05:45"));
+    EXPECT_EQ(Timetable::summary(), QStringLiteral("61 days, 1 Mar 2025 \u2013 30 Apr 2025"));
+
+    // Pretty-printed with keys in order, so days come in date order.
+    const QByteArray bytes = *readWholeFile(Timetable::url());
+    EXPECT_TRUE(bytes.contains("\n    \"2025-03-01\": {\n        \"Asr\": \"16:40\""));
+    EXPECT_LT(bytes.indexOf("2025-03-31"), bytes.indexOf("2025-04-01"));
+}
+
+TEST_F(TimetableStoreTest, DayIsLookedUpByTheLocalCalendarDay) {
+    test::setTimeZone("Asia/Tokyo");
+    Timetable::merge(month(3, 2, "05:45"));
+    // 20:00 UTC on 1 March is already 2 March in Tokyo.
+    EXPECT_EQ(Timetable::day(QDateTime(QDate(2025, 3, 1), QTime(20, 0), Qt::UTC)),
+              Timetable::all().value("2025-03-02"));
+    EXPECT_TRUE(Timetable::day(QDateTime(QDate(2025, 3, 2), QTime(20, 0), Qt::UTC)).isEmpty());
+}
+
+TEST_F(TimetableStoreTest, SummaryOfOneDayNamesItTwice) {
+    Timetable::merge({{"2025-03-01", fivePrayers("05:45")}});
+    EXPECT_EQ(Timetable::summary(), QStringLiteral("1 day, 1 Mar 2025 \u2013 1 Mar 2025"));
+    // A hand-edited key that is no date has no summary.
+    test::writeSupportFile("timetable.json", R"({"2025-03-01": {}, "someday": {}})");
+    EXPECT_EQ(Timetable::all().size(), 2);
+    EXPECT_FALSE(Timetable::summary().has_value());
+}
+
+TEST_F(TimetableStoreTest, ClearIsSeenAtOnceDespiteTheCache) {
+    Timetable::merge(month(3, 31, "05:45"));
+    ASSERT_FALSE(Timetable::all().isEmpty());
+    Timetable::clear();
+    EXPECT_FALSE(QFile::exists(Timetable::url()));
+    EXPECT_TRUE(Timetable::day(noon(2025, 3, 1)).isEmpty());
+    EXPECT_FALSE(Timetable::summary().has_value());
+}
+
+TEST_F(TimetableStoreTest, HandEditsAreSeenAndBadFilesReadEmptyUntilReplaced) {
+    Timetable::merge(month(3, 31, "05:45"));
+    ASSERT_EQ(Timetable::all().size(), 31);
+    // A different size is noticed even within the same time-stamp tick.
+    test::writeSupportFile("timetable.json", R"({"2025-05-05": {"Fajr": "04:00"}})");
+    EXPECT_EQ(Timetable::all().keys(), QStringList({"2025-05-05"}));
+
+    for (const QByteArray& bad :
+         {QByteArray("{not json"), QByteArray("[]"), QByteArray(R"({"2025-03-01": ["05:45"]})"),
+          QByteArray(R"({"2025-03-01": {"Fajr": 545}})"), QByteArray(""),
+          QByteArray(R"({"2025-03-01": {"Fajr": "05:45"})"), QByteArray("\xff\xfe{}")}) {
+        SCOPED_TRACE(bad.toStdString());
+        test::writeSupportFile("timetable.json", bad);
+        Timetable::resetCacheForTesting();
+        EXPECT_TRUE(Timetable::all().isEmpty());
+        EXPECT_FALSE(Timetable::summary().has_value());
+    }
+    // The next merge replaces the bad file with just the new days.
+    Timetable::merge({{"2025-03-01", {{"Fajr", "05:45"}}}});
+    Timetable::resetCacheForTesting();
+    EXPECT_EQ(Timetable::all().keys(), QStringList({"2025-03-01"}));
+}
+
+TEST_F(TimetableStoreTest, ChangedNoteReachesObservers) {
+    int seen = 0;
+    const auto connection =
+        QObject::connect(&timetableChangedNote(), &TimetableChangedNote::posted, [&] { ++seen; });
+    TimetableChangedNote::post();
+    QObject::disconnect(connection);
+    EXPECT_EQ(seen, 1);
+    EXPECT_STREQ(Timetable::changedNote, "TarvanelTimetableChanged");
+}

@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <gtest/gtest.h>
+#include <xcb/xcb.h>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
@@ -356,4 +357,49 @@ TEST_F(EndToEnd, AgentLocksEveryMonitorAtThePrayerAndRecordsIt) {
     // As the agent, a termination request ends it with status 1 so the service restarts it.
     tarvanel.terminate();
     EXPECT_EQ(tarvanel.finish(5000), 1) << tarvanel.log().toStdString();
+}
+
+TEST_F(EndToEnd, AGrabHeldElsewhereIsRetriedUntilTheLockHasTheKeyboard) {
+    // Another client holds the keyboard when the lock starts.
+    int screenNumber = 0;
+    xcb_connection_t* other = xcb_connect(x.display().toLocal8Bit().constData(), &screenNumber);
+    ASSERT_EQ(xcb_connection_has_error(other), 0);
+    const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(other)).data;
+    xcb_grab_keyboard_reply_t* grab =
+        xcb_grab_keyboard_reply(other,
+                                xcb_grab_keyboard(other, 0, screen->root, XCB_CURRENT_TIME,
+                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                                nullptr);
+    ASSERT_NE(grab, nullptr);
+    EXPECT_EQ(grab->status, XCB_GRAB_STATUS_SUCCESS);
+    free(grab);
+
+    const QByteArray secret = QByteArray::fromHex("3132333435363738393031323334353637383930");
+    Guardian::save(secret);
+    Program tarvanel(x, {QStringLiteral("--test-lock"), QStringLiteral("60")});
+    EXPECT_TRUE(tarvanel.waitForLog(QStringLiteral("grab refused"), 5000))
+        << tarvanel.log().toStdString();
+    ASSERT_GE(waitUntilBothLocked(5000), 0);
+
+    // Released: within the next second the lock takes the keyboard and the code gets through.
+    xcb_ungrab_keyboard(other, XCB_CURRENT_TIME);
+    xcb_flush(other);
+    xcb_disconnect(other);
+    QThread::msleep(1500);
+    ASSERT_TRUE(tarvanel.running());
+    xcb_connection_t* probe = xcb_connect(x.display().toLocal8Bit().constData(), &screenNumber);
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(probe)).data->root;
+    xcb_grab_keyboard_reply_t* again =
+        xcb_grab_keyboard_reply(probe,
+                                xcb_grab_keyboard(probe, 0, root, XCB_CURRENT_TIME,
+                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                                nullptr);
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(again->status, XCB_GRAB_STATUS_ALREADY_GRABBED); // the lock holds it now
+    free(again);
+    xcb_disconnect(probe);
+    const QString code = Guardian::code(secret, QDateTime::currentDateTimeUtc());
+    ASSERT_EQ(x.run(QStringLiteral("xdotool"), {QStringLiteral("type"), code}), 0);
+    EXPECT_EQ(tarvanel.finish(5000), 0) << tarvanel.log().toStdString();
+    EXPECT_LT(tarvanel.elapsed(), 20000);
 }

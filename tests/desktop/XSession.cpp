@@ -75,8 +75,8 @@ int XSession::run(const QString& program, const QStringList& args, QByteArray* o
 QImage XSession::screenshot() const {
     QByteArray png;
     run(QStringLiteral("sh"),
-        {QStringLiteral("-c"), QStringLiteral("xwd -root -silent | convert xwd:- png:-")}, &png);
-    return QImage::fromData(png, "PNG");
+        {QStringLiteral("-c"), QStringLiteral("xwd -root -silent | convert xwd:- ppm:-")}, &png);
+    return QImage::fromData(png, "PPM");
 }
 
 Coverage coverage(const QImage& image, const QRect& region) {

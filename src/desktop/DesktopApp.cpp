@@ -1,12 +1,83 @@
 #include "desktop/DesktopApp.h"
 
+#include "desktop/DisplayCheck.h"
+#include "desktop/QtPlatform.h"
+#include "desktop/SystemEvents.h"
+
+#include <QApplication>
+#include <QProcessEnvironment>
+#include <QTimer>
 #include <cstdio>
+
+#ifdef TARVANEL_HAVE_CONTROLLER
+#include "lock/AppDelegate.h"
+#endif
 
 namespace tarvanel {
 
-int runDesktopApplication(int&, char**, const CommandLine&) {
-    std::fputs("Tarvanel: the tray application is not available in this build\n", stderr);
+namespace {
+
+void printLine(const QString& text) {
+    const QByteArray bytes = (text + QLatin1Char('\n')).toUtf8();
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
+    std::fflush(stderr);
+}
+
+} // namespace
+
+int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
+    // Qt's ffmpeg media backend crashes on some machines; GStreamer plays every adhan format.
+    qputenv("QT_MEDIA_BACKEND", "gstreamer");
+
+    if (const auto problem = displayProblem(QProcessEnvironment::systemEnvironment())) {
+        printLine(QStringLiteral("Tarvanel: no display available (") + *problem +
+                  QStringLiteral(")"));
+        return 1;
+    }
+
+#ifdef TARVANEL_HAVE_CONTROLLER
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tarvanel"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Tarvanel"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QtPlatform platform;
+    AppDelegate delegate(platform, cl);
+    platform.setEvents(&delegate);
+    platform.tray().setMenuProvider([&delegate] { return delegate.buildMenu(); });
+
+    SystemEvents system;
+    system.watchSignals();
+    QObject::connect(&system, &SystemEvents::terminateRequested, &app,
+                     [&delegate](int) { delegate.terminateRequested(); });
+    QObject::connect(&system, &SystemEvents::poweringOff, &app,
+                     [&delegate] { delegate.poweringOff(); });
+    QObject::connect(&system, &SystemEvents::showSettingsRequested, &app,
+                     [&delegate] { delegate.showSettingsRequested(); });
+
+    QTimer tick;
+    tick.setInterval(1000);
+    QObject::connect(&tick, &QTimer::timeout, &app, [&delegate] { delegate.tick(); });
+
+    QTimer::singleShot(0, &app, [&] {
+        const bool testRun = cl.testLockSeconds.has_value() || cl.testNudge;
+        if (!testRun) {
+            system.watchPowerOff();
+            system.watchShowSettings();
+            platform.tray().ensureCreated();
+        }
+        delegate.launchFinished();
+        tick.start();
+    });
+    return app.exec();
+#else
+    (void)argc;
+    (void)argv;
+    (void)cl;
+    printLine(QStringLiteral("Tarvanel: this build has no lock controller; only the terminal "
+                             "commands work"));
     return 1;
+#endif
 }
 
 } // namespace tarvanel

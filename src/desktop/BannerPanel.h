@@ -1,0 +1,52 @@
+#pragma once
+// The reminder banner: a card near the top of the main screen that never takes focus and lets
+// clicks through. A newer banner replaces the open one; each closes itself after its time.
+#include "platform/Platform.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+
+namespace tarvanel {
+
+class BannerView : public QWidget {
+    Q_OBJECT
+public:
+    static constexpr int cardWidth = 640;
+
+    BannerView(const BannerContent& content, QWidget* parent = nullptr);
+    QLabel* messageLabel() const { return message_; }
+    QLabel* quoteLabel() const { return quote_; }
+    BannerStyle style() const { return style_; }
+    // Border width and colour for a style: none for normal, 2 px orange or red otherwise.
+    static double borderWidth(BannerStyle style);
+    static QColor borderColour(BannerStyle style);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    BannerStyle style_;
+    QLabel* message_ = nullptr;
+    QLabel* quote_ = nullptr;
+};
+
+class BannerPanel : public QObject {
+    Q_OBJECT
+public:
+    explicit BannerPanel(QObject* parent = nullptr);
+    ~BannerPanel() override;
+
+    // False when there is no screen to show it on.
+    bool show(const BannerContent& content);
+    void close();
+    QWidget* window() const { return window_; }
+
+private:
+    QPointer<QWidget> window_;
+    QTimer closeTimer_;
+};
+
+} // namespace tarvanel

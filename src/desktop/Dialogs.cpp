@@ -1,0 +1,126 @@
+#include "desktop/Dialogs.h"
+
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tarvanel {
+
+namespace {
+void bringToFront(QWidget* w) {
+    w->setWindowFlag(Qt::WindowStaysOnTopHint);
+    w->raise();
+    w->activateWindow();
+}
+} // namespace
+
+std::unique_ptr<QMessageBox> buildAlert(const AlertRequest& request) {
+    auto box = std::make_unique<QMessageBox>();
+    box->setWindowTitle(QStringLiteral("Tarvanel"));
+    box->setIcon(request.firstIsDestructive ? QMessageBox::Warning : QMessageBox::Information);
+    box->setText(request.message);
+    box->setInformativeText(request.info);
+    box->setTextFormat(Qt::PlainText);
+    // One role for all keeps the caller's order; other roles are reordered by the style.
+    QList<QPushButton*> buttons;
+    for (const QString& label : request.buttons)
+        buttons << box->addButton(label, QMessageBox::ActionRole);
+    if (buttons.isEmpty()) buttons << box->addButton(QStringLiteral("OK"), QMessageBox::ActionRole);
+    box->setDefaultButton(buttons.first());
+    box->setEscapeButton(buttons.last());
+    if (!request.checkBox.isEmpty()) box->setCheckBox(new QCheckBox(request.checkBox));
+    return box;
+}
+
+AlertAnswer alertAnswer(const QMessageBox& box) {
+    AlertAnswer answer;
+    // With one role for all, buttons() lists them in the order they were added.
+    const QList<QAbstractButton*> ordered = box.buttons();
+    const int index = ordered.indexOf(box.clickedButton());
+    answer.response = 1000 + (index < 0 ? int(ordered.size()) - 1 : index);
+    answer.checkBoxOn = box.checkBox() && box.checkBox()->isChecked();
+    return answer;
+}
+
+AlertAnswer runAlert(const AlertRequest& request) {
+    auto box = buildAlert(request);
+    bringToFront(box.get());
+    box->exec();
+    return alertAnswer(*box);
+}
+
+DateQuestion::DateQuestion(const AlertRequest& request, const QDate& minimum,
+                           const QDate& initial) {
+    setWindowTitle(QStringLiteral("Tarvanel"));
+    auto* column = new QVBoxLayout(this);
+    auto* message = new QLabel(request.message, this);
+    QFont bold = message->font();
+    bold.setBold(true);
+    message->setFont(bold);
+    message->setWordWrap(true);
+    column->addWidget(message);
+    if (!request.info.isEmpty()) {
+        auto* info = new QLabel(request.info, this);
+        info->setWordWrap(true);
+        column->addWidget(info);
+    }
+    edit_ = new QDateEdit(this);
+    edit_->setCalendarPopup(true);
+    edit_->setMinimumDate(minimum);
+    edit_->setDate(std::max(initial, minimum));
+    column->addWidget(edit_);
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    const QStringList labels =
+        request.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : request.buttons;
+    for (int i = 0; i < labels.size(); ++i) {
+        auto* button = new QPushButton(labels.at(i), this);
+        if (i == 0) {
+            button->setDefault(true);
+            connect(button, &QPushButton::clicked, this, &QDialog::accept);
+        } else {
+            connect(button, &QPushButton::clicked, this, &QDialog::reject);
+        }
+        row->addWidget(button);
+        buttons_ << button;
+    }
+    column->addLayout(row);
+}
+
+std::optional<QDate> runDateQuestion(const AlertRequest& request, const QDate& minimum,
+                                     const QDate& initial) {
+    DateQuestion dialog(request, minimum, initial);
+    bringToFront(&dialog);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.dateEdit()->date();
+}
+
+std::optional<QString> runSavePanel(const QString& proposedName) {
+    const QString path = QFileDialog::getSaveFileName(
+        nullptr, QStringLiteral("Export History"), QDir::home().filePath(proposedName),
+        QStringLiteral("Comma-separated values (*.csv)"));
+    if (path.isEmpty()) return std::nullopt;
+    return path;
+}
+
+QString SettingsNote::text(const QString& configPath) {
+    return QStringLiteral("The settings window is not available yet; edit ") + configPath +
+           QStringLiteral(" instead.");
+}
+
+SettingsNote::SettingsNote(bool firstRun, const QString& configPath) {
+    setWindowTitle(firstRun ? QStringLiteral("Welcome to Tarvanel")
+                            : QStringLiteral("Tarvanel Settings"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* column = new QVBoxLayout(this);
+    auto* label = new QLabel(text(configPath), this);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    column->addWidget(label);
+}
+
+} // namespace tarvanel

@@ -1,0 +1,44 @@
+#pragma once
+// Modal questions: alerts with buttons in the given order, the date question, the save panel,
+// and the small note shown in place of the settings window.
+#include "platform/Platform.h"
+
+#include <QDialog>
+#include <QMessageBox>
+#include <memory>
+
+class QDateEdit;
+
+namespace tarvanel {
+
+// The alert for a request: buttons left to right in the request's order, the first the default.
+std::unique_ptr<QMessageBox> buildAlert(const AlertRequest& request);
+// 1000 + the index of the clicked button; cancelling (Escape, closing) answers the last button.
+AlertAnswer alertAnswer(const QMessageBox& box);
+AlertAnswer runAlert(const AlertRequest& request);
+
+class DateQuestion : public QDialog {
+    Q_OBJECT
+public:
+    DateQuestion(const AlertRequest& request, const QDate& minimum, const QDate& initial);
+    QDateEdit* dateEdit() const { return edit_; }
+    QList<QPushButton*> buttons() const { return buttons_; }
+
+private:
+    QDateEdit* edit_;
+    QList<QPushButton*> buttons_;
+};
+std::optional<QDate> runDateQuestion(const AlertRequest& request, const QDate& minimum,
+                                     const QDate& initial);
+
+std::optional<QString> runSavePanel(const QString& proposedName);
+
+// Stands in for the settings window: one line naming the settings file.
+class SettingsNote : public QWidget {
+    Q_OBJECT
+public:
+    SettingsNote(bool firstRun, const QString& configPath);
+    static QString text(const QString& configPath);
+};
+
+} // namespace tarvanel

@@ -1,0 +1,110 @@
+#include "desktop/LockWindow.h"
+
+#include "desktop/LockKeys.h"
+#include "desktop/LockView.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace tarvanel {
+
+namespace {
+#ifdef TARVANEL_LOCK_DEBUG
+constexpr bool lockDebug = true;
+#else
+constexpr bool lockDebug = false;
+#endif
+} // namespace
+
+LockWindow::LockWindow(QScreen* screen, const LockWindowContent& content, LockScreenState* state,
+                       KeyHandler onKey)
+    : QWidget(nullptr), screen_(screen), onKey_(std::move(onKey)) {
+    Qt::WindowFlags flags = Qt::Window | Qt::WindowStaysOnTopHint;
+    if (!lockDebug) flags |= Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint;
+    setWindowFlags(flags);
+    setWindowTitle(QStringLiteral("Tarvanel"));
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setFocusPolicy(Qt::StrongFocus);
+    if (!lockDebug) setCursor(Qt::BlankCursor);
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, Qt::black);
+    setPalette(palette);
+    setAutoFillBackground(true);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    view_ = new LockView(content.prayer, content.quote, state, this);
+    if (!lockDebug) view_->setCursor(Qt::BlankCursor);
+    layout->addWidget(view_);
+    connect(view_, &LockView::firstPaint, this, [this] {
+        painted_ = true;
+        emit firstPaint();
+    });
+}
+
+void LockWindow::coverScreen() {
+    if (!screen_) return;
+    const QRect area = screen_->geometry();
+    if (windowHandle()) windowHandle()->setScreen(screen_);
+    setGeometry(lockDebug ? area.adjusted(area.width() / 8, area.height() / 8, -area.width() / 8,
+                                          -area.height() / 8)
+                          : area);
+}
+
+void LockWindow::present() {
+    create();
+    coverScreen();
+    show();
+    raise();
+    activateWindow();
+    setFocus(Qt::OtherFocusReason);
+}
+
+bool LockWindow::grabInput() {
+    if (lockDebug) return true;
+    QWindow* handle = windowHandle();
+    if (!handle || !isVisible()) return false;
+    if (!keyboardGrabbed_) keyboardGrabbed_ = handle->setKeyboardGrabEnabled(true);
+    if (!pointerGrabbed_) pointerGrabbed_ = handle->setMouseGrabEnabled(true);
+    return hasGrabs();
+}
+
+void LockWindow::releaseInput() {
+    if (QWindow* handle = windowHandle()) {
+        if (keyboardGrabbed_) handle->setKeyboardGrabEnabled(false);
+        if (pointerGrabbed_) handle->setMouseGrabEnabled(false);
+    }
+    keyboardGrabbed_ = pointerGrabbed_ = false;
+}
+
+void LockWindow::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+    if (const auto forwarded = translateLockKey(event->key(), event->modifiers(), event->text()))
+        if (onKey_) onKey_(forwarded->key, forwarded->text);
+}
+
+void LockWindow::keyReleaseEvent(QKeyEvent* event) {
+    event->accept();
+}
+
+bool LockWindow::event(QEvent* event) {
+    // Shortcuts would otherwise be offered to the application before the window sees the key.
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void LockWindow::closeEvent(QCloseEvent* event) {
+    if (lockDebug) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+}
+
+} // namespace tarvanel

@@ -1,0 +1,55 @@
+#pragma once
+// One full-screen lock window on one screen. It takes every key press and forwards only what
+// the guardian entry uses; nothing else reaches the desktop while it holds the grabs.
+#include "platform/Platform.h"
+
+#include <QWidget>
+#include <functional>
+
+class QScreen;
+
+namespace tarvanel {
+
+class LockScreenState;
+class LockView;
+
+class LockWindow : public QWidget {
+    Q_OBJECT
+public:
+    using KeyHandler = std::function<void(LockKey, const QString&)>;
+
+    LockWindow(QScreen* screen, const LockWindowContent& content, LockScreenState* state,
+               KeyHandler onKey);
+
+    // Covers the screen and, unless built for development, takes keyboard and pointer.
+    void present();
+    // Keyboard and pointer grabs; false while another client holds one (retried later).
+    bool grabInput();
+    bool hasGrabs() const { return keyboardGrabbed_ && pointerGrabbed_; }
+    void releaseInput();
+    void coverScreen();
+
+    QScreen* lockedScreen() const { return screen_; }
+    LockView* view() const { return view_; }
+    // Set once the window has been painted on its screen.
+    bool painted() const { return painted_; }
+
+signals:
+    void firstPaint();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QScreen* screen_;
+    LockView* view_;
+    KeyHandler onKey_;
+    bool keyboardGrabbed_ = false;
+    bool pointerGrabbed_ = false;
+    bool painted_ = false;
+};
+
+} // namespace tarvanel

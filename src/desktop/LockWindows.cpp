@@ -1,0 +1,133 @@
+#include "desktop/LockWindows.h"
+
+#include "records/Log.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace tarvanel {
+
+namespace {
+#ifdef TARVANEL_LOCK_DEBUG
+constexpr bool lockDebug = true;
+#else
+constexpr bool lockDebug = false;
+#endif
+// A new output reports its final geometry shortly after it appears.
+constexpr int settleMs = 500;
+} // namespace
+
+LockWindows::LockWindows(QObject* parent) : QObject(parent) {
+    grabRetry_.setInterval(1000);
+    connect(&grabRetry_, &QTimer::timeout, this, &LockWindows::retryGrabs);
+    settle_.setSingleShot(true);
+    settle_.setInterval(settleMs);
+    connect(&settle_, &QTimer::timeout, this, &LockWindows::screensChanged);
+
+    auto* app = qGuiApp;
+    for (QScreen* screen : QGuiApplication::screens())
+        watchScreen(screen);
+    connect(app, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
+        watchScreen(screen);
+        settle_.start();
+    });
+    connect(app, &QGuiApplication::screenRemoved, this, [this](QScreen* screen) {
+        // Drop windows on the screen that is going away before Qt moves them elsewhere.
+        for (LockWindow* w : windows_)
+            if (w->lockedScreen() == screen) w->hide();
+        settle_.stop();
+        emit screensChanged();
+    });
+}
+
+LockWindows::~LockWindows() {
+    close();
+}
+
+void LockWindows::watchScreen(QScreen* screen) {
+    connect(screen, &QScreen::geometryChanged, this, [this] { settle_.start(); });
+}
+
+void LockWindows::show(const QList<LockWindowContent>& perScreen, LockScreenState* state) {
+    shownAt_.start();
+    coveredReported_ = false;
+    const QList<LockWindow*> old = windows_;
+    windows_.clear();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (int i = 0; i < screens.size(); ++i) {
+        const LockWindowContent content =
+            perScreen.isEmpty() ? LockWindowContent{} : perScreen.at(i % perScreen.size());
+        auto* window = new LockWindow(screens.at(i), content, state, onKey_);
+        connect(window, &LockWindow::firstPaint, this, &LockWindows::onWindowPainted);
+        window->present();
+        windows_ << window;
+    }
+    // The new windows are up before the old ones go, so nothing shows through in between.
+    for (LockWindow* w : old) {
+        w->releaseInput();
+        w->hide();
+        w->deleteLater();
+    }
+    if (!lockDebug && !cursorHidden_) {
+        QGuiApplication::setOverrideCursor(Qt::BlankCursor);
+        cursorHidden_ = true;
+    }
+    retryGrabs();
+}
+
+void LockWindows::raise(bool focusFirst) {
+    for (LockWindow* w : windows_) {
+        if (!w->isVisible()) continue;
+        w->coverScreen();
+        w->raise();
+    }
+    if (focusFirst && !windows_.isEmpty()) {
+        windows_.first()->activateWindow();
+        windows_.first()->setFocus(Qt::OtherFocusReason);
+    }
+    if (!grabbed()) retryGrabs();
+}
+
+bool LockWindows::grabbed() const {
+    return !windows_.isEmpty() && windows_.first()->hasGrabs();
+}
+
+void LockWindows::retryGrabs() {
+    if (windows_.isEmpty() || lockDebug) {
+        grabRetry_.stop();
+        return;
+    }
+    // One window holds both grabs; keys and clicks on the other screens come to it too.
+    if (windows_.first()->grabInput()) {
+        grabRetry_.stop();
+    } else if (!grabRetry_.isActive()) {
+        logLine(
+            QStringLiteral("Tarvanel: keyboard or pointer grab refused; retrying every second"));
+        grabRetry_.start();
+    }
+}
+
+void LockWindows::onWindowPainted() {
+    if (coveredReported_) return;
+    for (LockWindow* w : windows_)
+        if (!w->painted()) return;
+    coveredReported_ = true;
+    emit covered(shownAt_.elapsed());
+}
+
+void LockWindows::close() {
+    grabRetry_.stop();
+    settle_.stop();
+    for (LockWindow* w : windows_) {
+        w->releaseInput();
+        w->hide();
+        w->deleteLater();
+    }
+    windows_.clear();
+    if (cursorHidden_) {
+        QGuiApplication::restoreOverrideCursor();
+        cursorHidden_ = false;
+    }
+}
+
+} // namespace tarvanel

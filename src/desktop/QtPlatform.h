@@ -1,0 +1,57 @@
+#pragma once
+// The platform seam on a Qt desktop: lock windows, the banner, the tray, sounds and dialogs.
+#include "desktop/BannerPanel.h"
+#include "desktop/LockWindows.h"
+#include "desktop/Sounds.h"
+#include "desktop/TrayIcon.h"
+#include "platform/Platform.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace tarvanel {
+
+class QtPlatform : public QObject, public Platform {
+    Q_OBJECT
+public:
+    explicit QtPlatform(QObject* parent = nullptr);
+    ~QtPlatform() override;
+
+    // Where lock keys and screen changes go (the core's event receiver).
+    void setEvents(PlatformEvents* events);
+    TrayIcon& tray() { return tray_; }
+    LockWindows& lockWindows() { return lock_; }
+    BannerPanel& banner() { return banner_; }
+
+    int screenCount() const override;
+    void showLockWindows(const QList<LockWindowContent>& perScreen,
+                         LockScreenState* state) override;
+    void raiseLockWindows(bool focusFirst) override;
+    void closeLockWindows() override;
+    void activateApp() override;
+    bool showBanner(const BannerContent& banner) override;
+    void closeBanner() override;
+    void setStatusTitle(const QString& title, TitleColor color) override;
+    void playNamedSound(const QString& name) override;
+    bool playSoundFile(const QString& path) override;
+    AlertAnswer showAlert(const AlertRequest& request) override;
+    std::optional<QDate> askDate(const AlertRequest& request, const QDate& minimum,
+                                 const QDate& initial) override;
+    std::optional<QString> askSavePath(const QString& proposedName) override;
+    void openUrl(const QString& url) override;
+    void openSettingsWindow(bool firstRun) override;
+    bool settingsWindowOpen() const override;
+    void post(std::function<void()> work) override;
+    void singleShot(int milliseconds, std::function<void()> work) override;
+    void exitProcess(int status) override;
+
+private:
+    PlatformEvents* events_ = nullptr;
+    LockWindows lock_;
+    BannerPanel banner_;
+    TrayIcon tray_;
+    Sounds sounds_;
+    QPointer<QWidget> settingsNote_;
+};
+
+} // namespace tarvanel

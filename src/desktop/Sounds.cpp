@@ -1,0 +1,91 @@
+#include "desktop/Sounds.h"
+
+#include "records/Log.h"
+
+#include <QAudioDevice>
+#include <QAudioOutput>
+#include <QFileInfo>
+#include <QMediaDevices>
+#include <QMediaPlayer>
+#include <QMimeDatabase>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace tarvanel {
+
+std::optional<QString> soundThemeEvent(const QString& name) {
+    if (name == QLatin1String("Blow")) return QStringLiteral("alarm-clock-elapsed");
+    if (name == QLatin1String("Glass")) return QStringLiteral("complete");
+    if (name == QLatin1String("Sosumi")) return QStringLiteral("dialog-warning");
+    return std::nullopt;
+}
+
+std::optional<QString> soundThemeFile(const QString& event, const QStringList& dataDirs) {
+    for (const QString& dir : dataDirs)
+        for (const char* ext : {".oga", ".ogg", ".wav"}) {
+            const QString path =
+                dir + QStringLiteral("/sounds/freedesktop/stereo/") + event + QLatin1String(ext);
+            if (QFileInfo(path).isFile()) return path;
+        }
+    return std::nullopt;
+}
+
+bool looksLikeAudio(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isReadable()) return false;
+    // By content, so a renamed text file is not taken for a sound.
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent);
+    return type.name().startsWith(QLatin1String("audio/")) ||
+           type.inherits(QStringLiteral("audio/mpeg")) ||
+           type.inherits(QStringLiteral("audio/mp4"));
+}
+
+Sounds::Sounds(QObject* parent) : QObject(parent) {}
+Sounds::~Sounds() = default;
+
+bool Sounds::haveDevice() {
+    if (!QMediaDevices::defaultAudioOutput().isNull()) return true;
+    if (!noDeviceLogged_) {
+        logLine(QStringLiteral("Tarvanel: no sound device; sounds are skipped"));
+        noDeviceLogged_ = true;
+    }
+    return false;
+}
+
+bool Sounds::start(QMediaPlayer*& player, QAudioOutput*& output, const QString& path) {
+    if (!haveDevice()) return true; // a file that is fine stays the chosen sound, unheard
+    if (!player) {
+        player = new QMediaPlayer(this);
+        output = new QAudioOutput(this);
+        player->setAudioOutput(output);
+        connect(player, &QMediaPlayer::errorOccurred, this,
+                [player](QMediaPlayer::Error, const QString& message) {
+                    logLine(QStringLiteral("Tarvanel: cannot play ") +
+                            player->source().toLocalFile() + QStringLiteral(": ") + message);
+                });
+    }
+    player->stop();
+    player->setSource(QUrl::fromLocalFile(path));
+    player->play();
+    return true;
+}
+
+void Sounds::playNamed(const QString& name) {
+    const auto event = soundThemeEvent(name);
+    if (!event) return;
+    const auto file = soundThemeFile(
+        *event, QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation));
+    if (!file) {
+        logLine(QStringLiteral("Tarvanel: sound ") + *event +
+                QStringLiteral(" is not installed (sound-theme-freedesktop)"));
+        return;
+    }
+    start(chime_, chimeOut_, *file);
+}
+
+bool Sounds::playFile(const QString& path) {
+    if (!looksLikeAudio(path)) return false;
+    return start(adhan_, adhanOut_, path);
+}
+
+} // namespace tarvanel

@@ -30,29 +30,25 @@ protected:
 
 } // namespace
 
-TEST_F(ScheduleTest, PlainWeekdayLocksAtWaqt) {
-    const EffectiveTimes t = effectiveTimes(tuesday, cfg);
-    EXPECT_FALSE(t.jumuah);
-    EXPECT_EQ(t.final, t.waqt);
-    EXPECT_EQ(t.waqt, PrayerTimes(cfg).times(tuesday));
-}
-
 TEST_F(ScheduleTest, OverridesApplyToWaqtIndependentlyAndInAnyOrder) {
+    const EffectiveTimes plain = effectiveTimes(tuesday, cfg);
+    EXPECT_FALSE(plain.jumuah);
+    EXPECT_EQ(plain.final, plain.waqt);
+    EXPECT_EQ(plain.waqt, PrayerTimes(cfg).times(tuesday));
+
     cfg.prayerOverrides =
         QMap<QString, QString>{{"Dhuhr", " +10\t"}, {"Asr", "-5"},  {"Isha", "04:00"},
                                {"Maghrib", "+0"},   {"Fajr", "-0"}, {"Sunrise", "+2.5"}};
     const EffectiveTimes t = effectiveTimes(tuesday, cfg);
-    EXPECT_EQ(*t.final.value("Dhuhr"), t.waqt.value("Dhuhr")->addSecs(600));
-    EXPECT_EQ(*t.final.value("Asr"), t.waqt.value("Asr")->addSecs(-300));
-    EXPECT_EQ(*t.final.value("Maghrib"), *t.waqt.value("Maghrib"));
-    EXPECT_EQ(*t.final.value("Fajr"), *t.waqt.value("Fajr"));
-    EXPECT_EQ(*t.final.value("Sunrise"), t.waqt.value("Sunrise")->addSecs(150));
+    const QList<std::pair<const char*, int>> shifts{
+        {"Dhuhr", 600}, {"Asr", -300}, {"Maghrib", 0}, {"Fajr", 0}, {"Sunrise", 150}};
+    for (const auto& [name, seconds] : shifts)
+        EXPECT_EQ(*t.final.value(name), t.waqt.value(name)->addSecs(seconds)) << name;
     // A fixed 04:00 stays on the same calendar day, before Fajr.
     EXPECT_EQ(*t.final.value("Isha"), tuesday.addSecs(4 * 3600));
-    EXPECT_LT(*t.final.value("Isha"), *t.final.value("Fajr"));
     EXPECT_TRUE(logs.isEmpty());
 
-    // +90 may carry a prayer past the next one: nothing reorders or clamps.
+    // A large offset may carry a prayer past the next one: nothing reorders or clamps.
     cfg.prayerOverrides = QMap<QString, QString>{{"Fajr", "+600"}};
     const EffectiveTimes late = effectiveTimes(tuesday, cfg);
     EXPECT_GT(*late.final.value("Fajr"), *late.final.value("Dhuhr"));
@@ -142,14 +138,10 @@ TEST_F(ScheduleTest, TimetableWinsOverOverridesAndItsJumuahOverTheSetting) {
 }
 
 TEST_F(ScheduleTest, TimeModeRowsWriteTheirRules) {
-    EXPECT_EQ(label(TimeMode::offset), "After start");
     EXPECT_EQ(timeModeFromRaw("fixed"), TimeMode::fixed);
     EXPECT_FALSE(timeModeFromRaw("Fixed"));
     PrayerTimeRow row{"Asr", TimeMode::offset, 10, {}};
-    EXPECT_EQ(row.id(), "pray-Asr");
     EXPECT_EQ(row.rule(), QString("+10"));
-    row.minutes = -5;
-    EXPECT_EQ(row.rule(), QString("-5"));
     row.minutes = 0;
     EXPECT_FALSE(row.rule());
     row.mode = TimeMode::fixed;

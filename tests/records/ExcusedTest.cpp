@@ -28,6 +28,7 @@ QByteArray excusedBytes() {
 } // namespace
 
 TEST_F(ExcusedTest, FileHoldsUtcSecondsAndOmitsAnOpenEnd) {
+    EXPECT_TRUE(Excused::load().isEmpty());
     const QDateTime start = utc(2025, 3, 1, 18, 2, 11).addMSecs(750);
     Excused::save({{utc(2025, 2, 1), utc(2025, 2, 3, 6)}, {start, std::nullopt}});
     EXPECT_EQ(excusedBytes(), QByteArray("[\n"
@@ -39,20 +40,15 @@ TEST_F(ExcusedTest, FileHoldsUtcSecondsAndOmitsAnOpenEnd) {
                                          "        \"start\": \"2025-03-01T18:02:11Z\"\n"
                                          "    }\n"
                                          "]\n"));
-    const QList<ExcusedRange> back = Excused::load();
-    ASSERT_EQ(back.size(), 2);
-    EXPECT_EQ(back[1].start, utc(2025, 3, 1, 18, 2, 11)); // the fraction is gone
-    EXPECT_FALSE(back[1].end.has_value());
-    EXPECT_EQ(back[0].end, utc(2025, 2, 3, 6));
+    // The fraction is gone.
+    EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 2, 1), utc(2025, 2, 3, 6)},
+                                                    {utc(2025, 3, 1, 18, 2, 11), std::nullopt}}));
 }
 
 TEST_F(ExcusedTest, OffsetsAndNullEndsAreReadOtherFormsSpoilTheFile) {
     test::writeSupportFile("excused.json",
                            R"([{"start": "2025-03-01T20:00:00+02:00", "end": null}])");
-    const QList<ExcusedRange> ranges = Excused::load();
-    ASSERT_EQ(ranges.size(), 1);
-    EXPECT_EQ(ranges[0].start, utc(2025, 3, 1, 18));
-    EXPECT_FALSE(ranges[0].end.has_value());
+    EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 3, 1, 18), std::nullopt}}));
 
     for (const char* bad :
          {R"({"start": "2025-03-01T18:00:00Z"})", R"([{"start": "2025-03-01T18:00:00"}])",
@@ -71,74 +67,64 @@ TEST_F(ExcusedTest, OffsetsAndNullEndsAreReadOtherFormsSpoilTheFile) {
 }
 
 TEST_F(ExcusedTest, BeginKeepsOneOpenPeriodAndFinishClosesIt) {
+    // Finishing with no open period writes nothing.
+    Excused::finish(utc(2025, 3, 4));
+    EXPECT_FALSE(QFile::exists(supportPath("excused.json")));
+
     Excused::begin(utc(2025, 3, 1, 18));
     Excused::begin(utc(2025, 3, 2, 18));
     ASSERT_EQ(Excused::load().size(), 1);
     Excused::finish(utc(2025, 3, 4, 9));
+    const QByteArray closed = excusedBytes();
+    Excused::finish(utc(2025, 3, 5));
+    EXPECT_EQ(excusedBytes(), closed);
     Excused::begin(utc(2025, 3, 10));
     EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 3, 1, 18), utc(2025, 3, 4, 9)},
                                                     {utc(2025, 3, 10), std::nullopt}}));
 }
 
-TEST_F(ExcusedTest, FinishWithoutAnOpenPeriodWritesNothing) {
-    Excused::finish(utc(2025, 3, 4));
-    EXPECT_FALSE(QFile::exists(supportPath("excused.json")));
-    const QByteArray handWritten =
-        R"([{"end":"2025-03-02T00:00:00Z","start":"2025-03-01T00:00:00Z"}])";
-    test::writeSupportFile("excused.json", handWritten);
-    Excused::finish(utc(2025, 3, 4));
-    EXPECT_EQ(excusedBytes(), handWritten);
-}
-
-TEST_F(ExcusedTest, AnOpenPeriodClosesItselfAtItsLimit) {
+TEST_F(ExcusedTest, AnOpenPeriodClosesItselfAtTheCurrentLimit) {
     Excused::begin(utc(2025, 3, 1, 18));
-    const auto during = Excused::current(15, utc(2025, 3, 16, 17, 59, 59));
+    const auto during = Excused::current(15, utc(2025, 3, 8, 18));
     ASSERT_TRUE(during.has_value());
     EXPECT_EQ(during->start, utc(2025, 3, 1, 18));
     EXPECT_FALSE(Excused::load()[0].end.has_value());
-
-    EXPECT_FALSE(Excused::current(15, utc(2025, 3, 20)).has_value());
-    // Closed at the limit, not at the moment of the call.
-    EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 16, 18));
-    EXPECT_FALSE(Excused::current(15, utc(2025, 3, 10)).has_value()); // closed ranges never count
+    // The limit is read at each call: 7.5 days end on 9 March at 06:00.
+    EXPECT_TRUE(Excused::current(7.5, utc(2025, 3, 9, 5, 59, 59)).has_value());
+    EXPECT_FALSE(Excused::current(7.5, utc(2025, 3, 9, 6)).has_value());
+    // Closed at the limit, not at the moment of the call; closed ranges never count.
+    EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 9, 6));
+    EXPECT_FALSE(Excused::current(15, utc(2025, 3, 5)).has_value());
 }
 
-TEST_F(ExcusedTest, TheLimitFollowsTheCurrentSetting) {
-    Excused::begin(utc(2025, 3, 1, 0));
-    EXPECT_TRUE(Excused::current(15, utc(2025, 3, 8, 12)).has_value());
-    EXPECT_TRUE(Excused::current(7.5, utc(2025, 3, 8, 11, 59, 59)).has_value());
-    EXPECT_FALSE(Excused::current(7.5, utc(2025, 3, 8, 12)).has_value());
-    EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 8, 12));
-}
-
-TEST_F(ExcusedTest, ContainsIsStartInclusiveEndExclusive) {
+TEST_F(ExcusedTest, ContainsAndTouchesDayEdges) {
     const QList<ExcusedRange> ranges{{utc(2025, 3, 1, 18), utc(2025, 3, 2, 6)},
                                      {utc(2025, 3, 10), std::nullopt}};
-    EXPECT_TRUE(Excused::contains(utc(2025, 3, 1, 18), ranges, 15));
-    EXPECT_FALSE(Excused::contains(utc(2025, 3, 1, 17, 59, 59), ranges, 15));
-    EXPECT_FALSE(Excused::contains(utc(2025, 3, 2, 6), ranges, 15));
-    // The open range runs to start + maxDays even before it is closed.
-    EXPECT_TRUE(Excused::contains(utc(2025, 3, 11, 23, 59, 59), ranges, 2));
-    EXPECT_FALSE(Excused::contains(utc(2025, 3, 12), ranges, 2));
+    // Start inclusive, end exclusive; the open range runs to start + maxDays before it is closed.
+    const QList<std::tuple<QDateTime, double, bool>> contains{
+        {utc(2025, 3, 1, 18), 15, true}, {utc(2025, 3, 1, 17, 59, 59), 15, false},
+        {utc(2025, 3, 2, 6), 15, false}, {utc(2025, 3, 11, 23, 59, 59), 2, true},
+        {utc(2025, 3, 12), 2, false},    {utc(2999, 1, 1), 1e300, true},
+        {utc(2025, 3, 10), -1, false},   {utc(2025, 3, 10), std::nan(""), false},
+    };
+    for (const auto& [at, maxDays, expected] : contains)
+        EXPECT_EQ(Excused::contains(at, ranges, maxDays), expected) << at.toString().toStdString();
     EXPECT_FALSE(Excused::contains(utc(2025, 3, 12), {}, 2));
-}
+    EXPECT_TRUE(ranges[1].effectiveEnd(std::numeric_limits<double>::infinity()).isValid());
 
-TEST_F(ExcusedTest, TouchesDayCountsAGrazeButNotAnEdge) {
+    // A graze of a second counts; touching the day's edge does not.
     const QDateTime day = utc(2025, 3, 5);
-    EXPECT_TRUE(Excused::touchesDay(day, {{utc(2025, 3, 4, 12), utc(2025, 3, 5, 0, 0, 1)}}, 15));
-    EXPECT_FALSE(Excused::touchesDay(day, {{utc(2025, 3, 4, 12), utc(2025, 3, 5)}}, 15));
-    EXPECT_TRUE(Excused::touchesDay(day, {{utc(2025, 3, 5, 23, 59, 59), utc(2025, 3, 7)}}, 15));
-    EXPECT_FALSE(Excused::touchesDay(day, {{utc(2025, 3, 6), utc(2025, 3, 7)}}, 15));
-    EXPECT_TRUE(Excused::touchesDay(day, {{utc(2025, 3, 1), std::nullopt}}, 4.5));
-    EXPECT_FALSE(Excused::touchesDay(day, {{utc(2025, 3, 1), std::nullopt}}, 4));
-}
-
-TEST_F(ExcusedTest, AbsurdLimitsDoNotOverflow) {
-    const QList<ExcusedRange> open{{utc(2025, 3, 1), std::nullopt}};
-    EXPECT_TRUE(Excused::contains(utc(2999, 1, 1), open, 1e300));
-    EXPECT_FALSE(Excused::contains(utc(2025, 3, 1), open, -1));
-    EXPECT_FALSE(Excused::contains(utc(2025, 3, 1), open, std::nan("")));
-    EXPECT_TRUE(open[0].effectiveEnd(std::numeric_limits<double>::infinity()).isValid());
+    const QList<std::tuple<ExcusedRange, double, bool>> touches{
+        {{utc(2025, 3, 4, 12), utc(2025, 3, 5, 0, 0, 1)}, 15, true},
+        {{utc(2025, 3, 4, 12), utc(2025, 3, 5)}, 15, false},
+        {{utc(2025, 3, 5, 23, 59, 59), utc(2025, 3, 7)}, 15, true},
+        {{utc(2025, 3, 6), utc(2025, 3, 7)}, 15, false},
+        {{utc(2025, 3, 1), std::nullopt}, 4.5, true},
+        {{utc(2025, 3, 1), std::nullopt}, 4, false},
+    };
+    for (const auto& [range, maxDays, expected] : touches)
+        EXPECT_EQ(Excused::touchesDay(day, {range}, maxDays), expected)
+            << range.start.toString().toStdString() << " " << maxDays;
 }
 
 TEST_F(ExcusedTest, StartAsksWithTheWholeNumberOfDaysAndLogs) {
@@ -147,10 +133,10 @@ TEST_F(ExcusedTest, StartAsksWithTheWholeNumberOfDaysAndLogs) {
     cfg.excusedMaxDays = 7.5;
     EXPECT_FALSE(askStartExcused(platform, cfg, utc(2025, 3, 1, 18)));
     ASSERT_EQ(platform.alerts.size(), 1);
-    EXPECT_EQ(platform.alerts[0].message, QStringLiteral("Turn off reminders and locks?"));
+    EXPECT_EQ(platform.alerts[0].message, "Turn off reminders and locks?");
     EXPECT_EQ(platform.alerts[0].info,
-              QStringLiteral("They come back when you choose No Longer Excused, or after 7 days. "
-                             "Your streak is kept."));
+              "They come back when you choose No Longer Excused, or after 7 days. "
+              "Your streak is kept.");
     EXPECT_EQ(platform.alerts[0].buttons, QStringList({"Turn Off", "Cancel"}));
     EXPECT_TRUE(Excused::load().isEmpty());
     EXPECT_TRUE(logs.isEmpty());
@@ -158,11 +144,11 @@ TEST_F(ExcusedTest, StartAsksWithTheWholeNumberOfDaysAndLogs) {
     platform.answerAlert(1000);
     cfg.excusedMaxDays = std::nullopt;
     EXPECT_TRUE(askStartExcused(platform, cfg, utc(2025, 3, 1, 18)));
-    EXPECT_TRUE(platform.alerts[1].info.contains(QStringLiteral("after 15 days.")));
+    EXPECT_TRUE(platform.alerts[1].info.contains("after 15 days."));
     EXPECT_EQ(logs, QStringList({"Tarvanel: excused"}));
     EXPECT_TRUE(Excused::current(15, utc(2025, 3, 2)).has_value());
 
     endExcused(utc(2025, 3, 3, 7));
-    EXPECT_EQ(logs.last(), QStringLiteral("Tarvanel: no longer excused"));
+    EXPECT_EQ(logs.last(), "Tarvanel: no longer excused");
     EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 3, 7));
 }

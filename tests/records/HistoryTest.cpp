@@ -38,35 +38,24 @@ QByteArray fileBytes(const QString& name) {
 }
 } // namespace
 
-TEST_F(HistoryTest, MarkingTwiceKeepsOneEntryAndTheLatestMark) {
+TEST_F(HistoryTest, MarkingAndLoggingKeepOneEntryInRecordOrder) {
     markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
     markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
-    EXPECT_EQ(loadHistory(), HistoryMap({{"2025-03-01", {"Fajr"}}}));
-    EXPECT_EQ(Marks::load()["2025-03-01"]["Fajr"], QStringLiteral("qada"));
-    EXPECT_EQ(locks, QSet<QString>({"2025-03-01-Fajr"}));
+    // History and lock state are compact; marks are pretty-printed with sorted keys.
+    EXPECT_EQ(fileBytes("history.json"), QByteArray(R"({"2025-03-01":["Fajr"]})"));
+    EXPECT_EQ(fileBytes("state.json"), QByteArray(R"(["2025-03-01-Fajr"])"));
+    const QByteArray marks = "{\n    \"2025-03-01\": {\n        \"Fajr\": \"qada\"\n    }\n}\n";
+    EXPECT_EQ(fileBytes("marks.json"), marks);
+    markKept({"Isha", "Fajr"}, "2025-03-01", std::nullopt, locks);
+    EXPECT_EQ(fileBytes("marks.json"), marks); // unmarked keeping writes no marks
+    EXPECT_EQ(loadCompletedLocks(), QSet<QString>({"2025-03-01-Isha", "2025-03-01-Fajr"}));
     EXPECT_EQ(loadCompletedLocks(), locks);
 
-    // History is compact; marks are pretty-printed with sorted keys.
-    EXPECT_EQ(fileBytes("history.json"), QByteArray(R"({"2025-03-01":["Fajr"]})"));
-    EXPECT_EQ(fileBytes("marks.json"),
-              QByteArray("{\n    \"2025-03-01\": {\n        \"Fajr\": \"qada\"\n    }\n}\n"));
-    EXPECT_EQ(fileBytes("state.json"), QByteArray(R"(["2025-03-01-Fajr"])"));
-}
-
-TEST_F(HistoryTest, KeptOrderIsRecordOrderAndUnmarkedKeepingWritesNoMarks) {
-    markKept({"Isha", "Fajr"}, "2025-03-01", std::nullopt, locks);
-    markKept({"Dhuhr", "Isha"}, "2025-03-01", std::nullopt, locks);
-    EXPECT_EQ(loadHistory()["2025-03-01"], QStringList({"Isha", "Fajr", "Dhuhr"}));
-    EXPECT_FALSE(QFile::exists(supportPath("marks.json")));
-    EXPECT_EQ(locks.size(), 3);
-}
-
-TEST_F(HistoryTest, LogKeptSplitsTheLockKeyAndAddsThePartner) {
+    // logKept splits the lock key and adds the partner.
     logKept("2025-03-01-Dhuhr", QStringLiteral("Asr"), locks);
-    EXPECT_EQ(loadHistory()["2025-03-01"], QStringList({"Dhuhr", "Asr"}));
+    logKept("2025-03-01-Dhuhr", std::nullopt, locks);
+    EXPECT_EQ(loadHistory()["2025-03-01"], QStringList({"Fajr", "Isha", "Dhuhr", "Asr"}));
     EXPECT_TRUE(locks.contains("2025-03-01-Asr"));
-    EXPECT_FALSE(QFile::exists(supportPath("marks.json")));
-
     // Empty pieces are dropped before counting; anything but four pieces is ignored.
     logKept("2025--03-02-Fajr", std::nullopt, locks);
     EXPECT_EQ(loadHistory()["2025-03-02"], QStringList({"Fajr"}));
@@ -75,31 +64,26 @@ TEST_F(HistoryTest, LogKeptSplitsTheLockKeyAndAddsThePartner) {
     EXPECT_EQ(loadHistory().keys(), QStringList({"2025-03-01", "2025-03-02"}));
 }
 
-TEST_F(HistoryTest, StreakCountsBackFromTodayOrYesterdayAndStopsAtAGap) {
+TEST_F(HistoryTest, StreakCountsBackFromTodayOrYesterdayStopsAtAGapAndSkipsExcusedDays) {
     const QDateTime now = utc(2025, 3, 10, 9);
     EXPECT_EQ(streakDays(now, 15), 0);
-    markKept({"Fajr"}, "2025-03-09", std::nullopt, locks);
-    markKept({"Isha"}, "2025-03-08", std::nullopt, locks);
-    markKept({"Isha"}, "2025-03-06", std::nullopt, locks); // after a gap: not counted
+    saveHistory({{"2025-03-09", {"Fajr"}}, {"2025-03-08", {"Isha"}}, {"2025-03-06", {"Isha"}}});
     EXPECT_EQ(streakDays(now, 15), 2);
+    saveHistory({{"2025-03-10", {}}, {"2025-03-09", {"Fajr"}}}); // an empty list is no kept day
+    EXPECT_EQ(streakDays(now, 15), 1);
     markKept({"Fajr"}, "2025-03-10", std::nullopt, locks);
-    EXPECT_EQ(streakDays(now, 15), 3);
-    // An empty list is no kept day.
-    saveHistory({{"2025-03-10", {}}, {"2025-03-09", {"Fajr"}}});
-    EXPECT_EQ(streakDays(now, 15), 1);
-}
+    EXPECT_EQ(streakDays(now, 15), 2);
 
-TEST_F(HistoryTest, ExcusedDaysNeitherBreakNorCountTowardsTheStreak) {
+    // Excused days neither break nor count: excused from 2 March evening to early 6 March.
     saveHistory({{"2025-03-01", {"Fajr"}}, {"2025-03-02", {"Fajr"}}, {"2025-03-07", {"Asr"}}});
-    const QDateTime now = utc(2025, 3, 7, 20);
-    EXPECT_EQ(streakDays(now, 15), 1);
-    // Excused from the evening of 2 March until the early hours of 6 March.
+    const QDateTime friday = utc(2025, 3, 7, 20);
+    EXPECT_EQ(streakDays(friday, 15), 1);
     Excused::save({{utc(2025, 3, 2, 18), utc(2025, 3, 6, 0, 0, 1)}});
-    EXPECT_EQ(streakDays(now, 15), 3);
+    EXPECT_EQ(streakDays(friday, 15), 3);
     // An open period reaches start + maxDays: 1.5 days from 2 March 18:00 ends before 5 March.
     Excused::save({{utc(2025, 3, 2, 18), std::nullopt}});
-    EXPECT_EQ(streakDays(now, 1.5), 1);
-    EXPECT_EQ(streakDays(now, 4), 3);
+    EXPECT_EQ(streakDays(friday, 1.5), 1);
+    EXPECT_EQ(streakDays(friday, 4), 3);
 }
 
 TEST_F(HistoryTest, StreakWalksLocalDaysAcrossDaylightSavingChanges) {
@@ -108,8 +92,8 @@ TEST_F(HistoryTest, StreakWalksLocalDaysAcrossDaylightSavingChanges) {
     for (QDate d(2025, 3, 25); d <= QDate(2025, 4, 2); d = d.addDays(1))
         h[dayKey(d)] = {"Fajr"};
     saveHistory(h);
-    EXPECT_EQ(streakDays(QDateTime(QDate(2025, 4, 2), QTime(5, 0), Qt::UTC), 15), 9);
-    EXPECT_EQ(streakDays(QDateTime(QDate(2025, 3, 30), QTime(23, 30), Qt::UTC), 15), 7);
+    EXPECT_EQ(streakDays(utc(2025, 4, 2, 5), 15), 9);
+    EXPECT_EQ(streakDays(utc(2025, 3, 30, 23, 30), 15), 7);
 }
 
 TEST_F(HistoryTest, GridCellsShowQadaThenKeptThenExcused) {
@@ -145,16 +129,16 @@ TEST_F(HistoryTest, CsvExcusedRowsStopAtNowAndUnknownPrayersSortLast) {
     saveHistory({{"2025-03-03", {"Jumu'ah", "Isha", "Fajr"}}});
     // Excused for the whole of 4 March and beyond (open, 15 days); "now" is 4 March at noon.
     Excused::save({{utc(2025, 3, 4, 0), std::nullopt}});
-    const QString csv = historyCSV(london(), utc(2025, 3, 4, 12, 30));
-    EXPECT_EQ(csv, QStringLiteral("date,prayer,status\n"
-                                  "2025-03-03,Fajr,locked\n"
-                                  "2025-03-03,Isha,locked\n"
-                                  "2025-03-03,Jumu'ah,locked\n"
-                                  "2025-03-04,Fajr,excused\n"
-                                  "2025-03-04,Dhuhr,excused\n"));
-}
+    EXPECT_EQ(historyCSV(london(), utc(2025, 3, 4, 12, 30)),
+              QStringLiteral("date,prayer,status\n"
+                             "2025-03-03,Fajr,locked\n"
+                             "2025-03-03,Isha,locked\n"
+                             "2025-03-03,Jumu'ah,locked\n"
+                             "2025-03-04,Fajr,excused\n"
+                             "2025-03-04,Dhuhr,excused\n"));
 
-TEST_F(HistoryTest, CsvFindsPeriodsYearsApartOverlappingOrBackwards) {
+    // Periods years apart, overlapping or backwards.
+    saveHistory({});
     Excused::save({
         {utc(2025, 3, 4, 8), utc(2025, 3, 4, 23, 59, 59)}, // overlaps the next one
         {utc(2024, 1, 10, 0), utc(2024, 1, 11, 0)},        // a whole winter day, a year earlier
@@ -168,7 +152,7 @@ TEST_F(HistoryTest, CsvFindsPeriodsYearsApartOverlappingOrBackwards) {
     EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), expected);
 }
 
-TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfSundayNine) {
+TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfTheLocalSundayNine) {
     // 2 March 2025 is a Sunday; London is on GMT.
     saveHistory({{"2025-02-23", {"Fajr"}},
                  {"2025-02-25", {"Fajr", "Dhuhr"}},
@@ -179,11 +163,10 @@ TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfSundayNine) {
     const Config cfg = london();
     EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 20, 59, 59), "2025-03-02", fired));
     EXPECT_TRUE(fired.isEmpty());
-    const auto text = weeklyReportDue(cfg, utc(2025, 3, 2, 21, 5), "2025-03-02", fired);
-    ASSERT_TRUE(text.has_value());
     // 23 February is a week back and not counted.
-    EXPECT_EQ(*text, QStringLiteral("\U0001F4FF  This week: 4/35 prayers at the Mac \u2022 "
-                                    "streak 2 days"));
+    EXPECT_EQ(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 5), "2025-03-02", fired),
+              QStringLiteral("\U0001F4FF  This week: 4/35 prayers at the Mac \u2022 "
+                             "streak 2 days"));
     EXPECT_TRUE(fired.contains("2025-03-02-weekly"));
     EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 6), "2025-03-02", fired));
 
@@ -198,35 +181,21 @@ TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfSundayNine) {
     off.weeklyReport = false;
     EXPECT_FALSE(weeklyReportDue(off, utc(2025, 3, 2, 21, 5), "2025-03-02", other));
     EXPECT_TRUE(other.isEmpty());
-    off.weeklyReport = std::nullopt; // absent counts as on
-    EXPECT_TRUE(weeklyReportDue(off, utc(2025, 3, 2, 21, 5), "2025-03-02", other));
-}
 
-TEST_F(HistoryTest, WeeklyReportSaysDayForAStreakOfOne) {
+    // Absent counts as on; a streak of one is a "day"; 21:05 in New York is 02:05 UTC Monday.
+    off.weeklyReport = std::nullopt;
     saveHistory({{"2025-03-02", {"Fajr"}}});
-    QSet<QString> fired;
-    const auto text = weeklyReportDue(london(), utc(2025, 3, 2, 21), "2025-03-02", fired);
-    ASSERT_TRUE(text.has_value());
-    EXPECT_TRUE(text->endsWith(QStringLiteral("streak 1 day"))) << text->toStdString();
-}
-
-TEST_F(HistoryTest, WeeklyReportFollowsTheLocalSunday) {
     test::setTimeZone("America/New_York");
-    QSet<QString> fired;
-    // 21:05 in New York on Sunday 2 March is 02:05 UTC on Monday.
-    EXPECT_TRUE(weeklyReportDue(london(), utc(2025, 3, 3, 2, 5), "2025-03-02", fired));
+    const auto text = weeklyReportDue(off, utc(2025, 3, 3, 2, 5), "2025-03-02", other);
+    ASSERT_TRUE(text.has_value());
+    EXPECT_TRUE(text->endsWith("streak 1 day")) << text->toStdString();
 }
 
 TEST_F(HistoryTest, DamagedFilesReadEmptyAndAreReplacedByTheNextSave) {
-    const QList<QByteArray> bad{"",
-                                "{",
-                                "[]",
-                                "null",
-                                R"({"2025-03-01": "Fajr"})",
-                                R"({"2025-03-01": ["Fajr", 3]})",
-                                R"({"2025-03-01": {"Fajr": "qada"}})",
-                                "\x00\x01\x02"};
-    for (const QByteArray& bytes : bad) {
+    for (const QByteArray& bytes :
+         {QByteArray(""), QByteArray("{"), QByteArray("[]"), QByteArray("null"),
+          QByteArray(R"({"2025-03-01": "Fajr"})"), QByteArray(R"({"2025-03-01": ["Fajr", 3]})"),
+          QByteArray(R"({"2025-03-01": {"Fajr": "qada"}})"), QByteArray("\x00\x01\x02")}) {
         SCOPED_TRACE(bytes.toStdString());
         test::writeSupportFile("history.json", bytes);
         test::writeSupportFile("marks.json", bytes);

@@ -27,15 +27,13 @@ struct Case {
     bool roundUp;
 };
 
-const Case kCases[] = {
-    {"Ankara-Turkey", 18, 17, {}, {}, -7, 5, 4, 7, false},
-    {"Doha-Qatar", 18, {}, 90, {}, 0, 0, 0, 0, false},
-    {"Dubai-Gulf", 18.2, 18.2, {}, {}, -3, 3, 3, 3, false},
-    {"Kuwait-City-Kuwait", 18, 17.5, {}, {}, 0, 0, 0, 0, false},
-    {"Makkah-UmmAlQura", 18.5, {}, 90, {}, 0, 0, 0, 0, false},
-    {"Singapore-Singapore", 20, 18, {}, {}, 0, 1, 0, 0, true},
-    {"Tehran-Tehran", 17.7, 14, {}, 4.5, 0, 0, 0, 0, false},
-};
+const Case kCases[] = {{"Ankara-Turkey", 18, 17, {}, {}, -7, 5, 4, 7, false},
+                       {"Doha-Qatar", 18, {}, 90, {}, 0, 0, 0, 0, false},
+                       {"Dubai-Gulf", 18.2, 18.2, {}, {}, -3, 3, 3, 3, false},
+                       {"Kuwait-City-Kuwait", 18, 17.5, {}, {}, 0, 0, 0, 0, false},
+                       {"Makkah-UmmAlQura", 18.5, {}, 90, {}, 0, 0, 0, 0, false},
+                       {"Singapore-Singapore", 20, 18, {}, {}, 0, 1, 0, 0, true},
+                       {"Tehran-Tehran", 17.7, 14, {}, 4.5, 0, 0, 0, 0, false}};
 
 QString referenceDir() {
     return QStringLiteral(TARVANEL_SOURCE_DIR "/../shared/reference/adhan-times");
@@ -72,8 +70,7 @@ TEST_P(ReferenceTimesTest, AgreesWithOfficialTimetable) {
         {"dhuhr", "Dhuhr", c.dhuhrAdj - 2.0},
         {"asr", "Asr", double(c.asrAdj)},
         {"maghrib", "Maghrib", c.maghribAngle ? double(c.maghribAdj) : c.maghribAdj - 2.0},
-        {"isha", "Isha", 0},
-    };
+        {"isha", "Isha", 0}};
 
     int rows = 0;
     for (const QJsonValue& v : root["times"].toArray()) {

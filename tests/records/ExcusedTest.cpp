@@ -31,15 +31,10 @@ TEST_F(ExcusedTest, FileHoldsUtcSecondsAndOmitsAnOpenEnd) {
     EXPECT_TRUE(Excused::load().isEmpty());
     const QDateTime start = utc(2025, 3, 1, 18, 2, 11).addMSecs(750);
     Excused::save({{utc(2025, 2, 1), utc(2025, 2, 3, 6)}, {start, std::nullopt}});
-    EXPECT_EQ(excusedBytes(), QByteArray("[\n"
-                                         "    {\n"
-                                         "        \"end\": \"2025-02-03T06:00:00Z\",\n"
-                                         "        \"start\": \"2025-02-01T00:00:00Z\"\n"
-                                         "    },\n"
-                                         "    {\n"
-                                         "        \"start\": \"2025-03-01T18:02:11Z\"\n"
-                                         "    }\n"
-                                         "]\n"));
+    EXPECT_EQ(excusedBytes(),
+              QByteArray("[\n    {\n        \"end\": \"2025-02-03T06:00:00Z\",\n"
+                         "        \"start\": \"2025-02-01T00:00:00Z\"\n    },\n"
+                         "    {\n        \"start\": \"2025-03-01T18:02:11Z\"\n    }\n]\n"));
     // The fraction is gone.
     EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 2, 1), utc(2025, 2, 3, 6)},
                                                     {utc(2025, 3, 1, 18, 2, 11), std::nullopt}}));
@@ -98,15 +93,14 @@ TEST_F(ExcusedTest, AnOpenPeriodClosesItselfAtTheCurrentLimit) {
 }
 
 TEST_F(ExcusedTest, ContainsAndTouchesDayEdges) {
-    const QList<ExcusedRange> ranges{{utc(2025, 3, 1, 18), utc(2025, 3, 2, 6)},
-                                     {utc(2025, 3, 10), std::nullopt}};
+    const QList<ExcusedRange> ranges = {{utc(2025, 3, 1, 18), utc(2025, 3, 2, 6)},
+                                        {utc(2025, 3, 10), std::nullopt}};
     // Start inclusive, end exclusive; the open range runs to start + maxDays before it is closed.
-    const QList<std::tuple<QDateTime, double, bool>> contains{
+    const QList<std::tuple<QDateTime, double, bool>> contains = {
         {utc(2025, 3, 1, 18), 15, true}, {utc(2025, 3, 1, 17, 59, 59), 15, false},
         {utc(2025, 3, 2, 6), 15, false}, {utc(2025, 3, 11, 23, 59, 59), 2, true},
         {utc(2025, 3, 12), 2, false},    {utc(2999, 1, 1), 1e300, true},
-        {utc(2025, 3, 10), -1, false},   {utc(2025, 3, 10), std::nan(""), false},
-    };
+        {utc(2025, 3, 10), -1, false},   {utc(2025, 3, 10), std::nan(""), false}};
     for (const auto& [at, maxDays, expected] : contains)
         EXPECT_EQ(Excused::contains(at, ranges, maxDays), expected) << at.toString().toStdString();
     EXPECT_FALSE(Excused::contains(utc(2025, 3, 12), {}, 2));
@@ -114,14 +108,13 @@ TEST_F(ExcusedTest, ContainsAndTouchesDayEdges) {
 
     // A graze of a second counts; touching the day's edge does not.
     const QDateTime day = utc(2025, 3, 5);
-    const QList<std::tuple<ExcusedRange, double, bool>> touches{
+    const QList<std::tuple<ExcusedRange, double, bool>> touches = {
         {{utc(2025, 3, 4, 12), utc(2025, 3, 5, 0, 0, 1)}, 15, true},
         {{utc(2025, 3, 4, 12), utc(2025, 3, 5)}, 15, false},
         {{utc(2025, 3, 5, 23, 59, 59), utc(2025, 3, 7)}, 15, true},
         {{utc(2025, 3, 6), utc(2025, 3, 7)}, 15, false},
         {{utc(2025, 3, 1), std::nullopt}, 4.5, true},
-        {{utc(2025, 3, 1), std::nullopt}, 4, false},
-    };
+        {{utc(2025, 3, 1), std::nullopt}, 4, false}};
     for (const auto& [range, maxDays, expected] : touches)
         EXPECT_EQ(Excused::touchesDay(day, {range}, maxDays), expected)
             << range.start.toString().toStdString() << " " << maxDays;

@@ -139,12 +139,10 @@ TEST_F(HistoryTest, CsvExcusedRowsStopAtNowAndUnknownPrayersSortLast) {
 
     // Periods years apart, overlapping or backwards.
     saveHistory({});
-    Excused::save({
-        {utc(2025, 3, 4, 8), utc(2025, 3, 4, 23, 59, 59)}, // overlaps the next one
-        {utc(2024, 1, 10, 0), utc(2024, 1, 11, 0)},        // a whole winter day, a year earlier
-        {utc(2024, 6, 1, 12), utc(2024, 6, 1, 6)},         // ends before it starts: empty
-        {utc(2025, 3, 4, 0), utc(2025, 3, 4, 10)},
-    });
+    Excused::save({{utc(2025, 3, 4, 8), utc(2025, 3, 4, 23, 59, 59)}, // overlaps the next one
+                   {utc(2024, 1, 10, 0), utc(2024, 1, 11, 0)}, // a whole winter day, a year earlier
+                   {utc(2024, 6, 1, 12), utc(2024, 6, 1, 6)},  // ends before it starts: empty
+                   {utc(2025, 3, 4, 0), utc(2025, 3, 4, 10)}});
     QString expected = QStringLiteral("date,prayer,status\n");
     for (const char* day : {"2024-01-10", "2025-03-04"})
         for (const char* prayer : {"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"})

@@ -108,8 +108,7 @@ TEST_F(TravelLocatorTest, FarRepliesAreAnnouncedSameCityIsSilentAndHomeEndsIt) {
         {R"({"city":"Westminster","latitude":51.4975,"longitude":-0.1357})", std::nullopt, 3,
          "Tarvanel: travel mode \u2192 home"},
         {R"({"city":"Westminster","latitude":51.4975,"longitude":-0.1357})", std::nullopt, 3,
-         nullptr},
-    };
+         nullptr}};
     QStringList expectedLogs;
     int hours = 0;
     for (const auto& step : steps) {
@@ -129,7 +128,7 @@ TEST_F(TravelLocatorTest, FarRepliesAreAnnouncedSameCityIsSilentAndHomeEndsIt) {
 
 TEST_F(TravelLocatorTest, BadRepliesAndNoServerChangeNothingAndWaitSixHours) {
     // Not JSON, the wrong shape, a wrong type, a missing field, an error status.
-    const QList<std::pair<int, QByteArray>> replies{
+    const QList<std::pair<int, QByteArray>> replies = {
         {200, "not json"},
         {200, "[48.8, 2.3]"},
         {200, R"({"latitude": "48.8", "longitude": 2.35})"},

@@ -26,25 +26,17 @@ TEST(TimetableParserTest, DayNumberWeekdayAndTwelveHourTimesMakeADay) {
     EXPECT_FALSE(row.date.has_value());
     EXPECT_EQ(labels(row), QStringList({"5:12", "1:15", "4:40", "7:22", "8:50"}));
     EXPECT_EQ(row.raw, "1 Sat 5:12 1:15 4:40 7:22 8:50");
-    const QMap<QString, QString> expected{{"Fajr", "05:12"},
-                                          {"Dhuhr", "13:15"},
-                                          {"Asr", "16:40"},
-                                          {"Maghrib", "19:22"},
-                                          {"Isha", "20:50"}};
-    EXPECT_EQ(TimetableParser::days({row}, 3, 2025, fiveColumns),
-              DayTable({{"2025-03-01", expected}}));
+    const DayTable table = TimetableParser::days({row}, 3, 2025, fiveColumns);
+    EXPECT_EQ(table.keys(), QStringList{"2025-03-01"});
+    EXPECT_EQ(table.first().values(), QStringList({"16:40", "13:15", "05:12", "20:50", "19:22"}));
 
     // The day number stands as a word before the first time, up to 31.
-    const QList<std::pair<const char*, std::optional<int>>> days{
-        {"Sat 1 5:12 1:15 4:40", 1},
-        {"Wed, 12 5:12 6:45 1:15", 12},
-        {"  31 | 5:12 6:45 1:15", 31},
-        {"1st Mar 5:12 6:45 1:15", {}},
-        {"Mon1 5:12 6:45 1:15", {}},
-        {"5:12 6:45 1:15 12", {}},
-        {"Wednesday, the 1 5:12 6:45 1:15", {}},
-        {"32 5:12 6:45 1:15", {}},
-    };
+    // clang-format off
+    const QList<std::pair<const char*, std::optional<int>>> days = {
+        {"Sat 1 5:12 1:15 4:40", 1}, {"Wed, 12 5:12 6:45 1:15", 12}, {"  31 | 5:12 6:45 1:15", 31},
+        {"1st Mar 5:12 6:45 1:15", {}}, {"Mon1 5:12 6:45 1:15", {}}, {"5:12 6:45 1:15 12", {}},
+        {"Wednesday, the 1 5:12 6:45 1:15", {}}, {"32 5:12 6:45 1:15", {}}};
+    // clang-format on
     for (const auto& [line, day] : days)
         EXPECT_EQ(only(line).day, day) << line;
 }
@@ -98,48 +90,41 @@ TEST(TimetableParserTest, MarkersDecideTheHalfOfTheDayElseThePrayerDoes) {
         const char* prayer;
         std::optional<QString> clock;
     } unmarked[] = {
-        {5, 12, "Fajr", "05:12"},      {12, 5, "Fajr", "00:05"},      {13, 0, "Fajr", "13:00"},
-        {3, 0, "fajr", "15:00"},       {1, 15, "Dhuhr", "13:15"},     {5, 0, "Dhuhr", "05:00"},
-        {11, 50, "Dhuhr", "11:50"},    {12, 45, "Dhuhr", "12:45"},    {4, 59, "Jumu'ah", "16:59"},
-        {12, 10, "Asr", "12:10"},      {0, 10, "Maghrib", "12:10"},   {18, 5, "Maghrib", "18:05"},
-        {7, 30, "Isha", "19:30"},      {24, 0, "Isha", std::nullopt}, {5, 60, "Isha", std::nullopt},
-        {-1, 0, "Isha", std::nullopt},
-    };
+        {5, 12, "Fajr", "05:12"},     {12, 5, "Fajr", "00:05"},      {13, 0, "Fajr", "13:00"},
+        {3, 0, "fajr", "15:00"},      {1, 15, "Dhuhr", "13:15"},     {5, 0, "Dhuhr", "05:00"},
+        {11, 50, "Dhuhr", "11:50"},   {12, 45, "Dhuhr", "12:45"},    {4, 59, "Jumu'ah", "16:59"},
+        {12, 10, "Asr", "12:10"},     {0, 10, "Maghrib", "12:10"},   {18, 5, "Maghrib", "18:05"},
+        {7, 30, "Isha", "19:30"},     {24, 0, "Isha", std::nullopt}, {5, 60, "Isha", std::nullopt},
+        {-1, 0, "Isha", std::nullopt}};
     for (const auto& c : unmarked)
         EXPECT_EQ((ParsedTime{c.hour, c.minute, std::nullopt}.clock(c.prayer)), c.clock)
             << c.prayer << " " << c.hour << ":" << c.minute;
 }
 
 TEST(TimetableParserTest, ColumnGuessDependsOnTheCountAlone) {
-    using M = ColumnMap;
-    const M twelve{{"Fajr", 1}, {"Dhuhr", 4}, {"Asr", 6}, {"Maghrib", 8}, {"Isha", 10}};
-    const M firstFive{{"Fajr", 0}, {"Dhuhr", 1}, {"Asr", 2}, {"Maghrib", 3}, {"Isha", 4}};
-    const QList<std::pair<int, M>> cases{
-        {12, twelve},
-        {11, twelve},
-        {10, {{"Fajr", 1}, {"Dhuhr", 3}, {"Asr", 5}, {"Maghrib", 7}, {"Isha", 9}}},
-        {6, {{"Fajr", 0}, {"Dhuhr", 2}, {"Asr", 3}, {"Maghrib", 4}, {"Isha", 5}}},
-        {9, firstFive},
-        {8, firstFive},
-        {7, firstFive},
-        {5, firstFive},
-        {3, {{"Fajr", 0}, {"Dhuhr", 1}, {"Asr", 2}}},
-        {0, {}},
-        {-4, {}},
-    };
-    for (const auto& [count, expected] : cases)
+    // Column count → positions of Fajr, Dhuhr, Asr, Maghrib, Isha.
+    // clang-format off
+    const QList<std::pair<int, QList<int>>> cases = {
+        {12, {1, 4, 6, 8, 10}}, {11, {1, 4, 6, 8, 10}}, {10, {1, 3, 5, 7, 9}}, {9, {0, 1, 2, 3, 4}},
+        {8, {0, 1, 2, 3, 4}}, {7, {0, 1, 2, 3, 4}}, {6, {0, 2, 3, 4, 5}}, {5, {0, 1, 2, 3, 4}},
+        {3, {0, 1, 2}}, {0, {}}, {-4, {}}};
+    // clang-format on
+    const QStringList names{"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"};
+    for (const auto& [count, positions] : cases) {
+        ColumnMap expected;
+        for (int i = 0; i < positions.size(); ++i)
+            expected[names[i]] = positions[i];
         EXPECT_EQ(TimetableParser::guessColumns(count), expected) << count;
+    }
 }
 
 TEST(TimetableParserTest, DaysTakeTheLaterRowWholeAndSkipWhatDoesNotFit) {
-    const QList<ParsedRow> rows = TimetableParser::parse({
-        "2025-03-01 5:10 1:10 4:10 7:10 8:10",
-        "2025-03-01 5:20 1:20 4:20",
-        "2 5:30 1:30 4:30 7:30 8:30",
-        "2025-04-03 5:40 1:40 4:40 7:40 8:40", // outside March: still taken
-        "31 5:12 1:15 4:40",                   // no 31 April
-        "0 5:12 1:15 4:40",
-    });
+    const QList<ParsedRow> rows =
+        TimetableParser::parse({"2025-03-01 5:10 1:10 4:10 7:10 8:10", "2025-03-01 5:20 1:20 4:20",
+                                "2 5:30 1:30 4:30 7:30 8:30",
+                                "2025-04-03 5:40 1:40 4:40 7:40 8:40", // outside March: still taken
+                                "31 5:12 1:15 4:40",                   // no 31 April
+                                "0 5:12 1:15 4:40"});
     ASSERT_EQ(rows.size(), 6);
     EXPECT_EQ(rows[5].day, 0);
     ColumnMap columns = fiveColumns;

@@ -16,11 +16,9 @@ protected:
 };
 
 QMap<QString, QString> fivePrayers(const QString& fajr) {
-    return {{"Fajr", fajr},
-            {"Dhuhr", "13:15"},
-            {"Asr", "16:40"},
-            {"Maghrib", "18:22"},
-            {"Isha", "20:50"}};
+    // clang-format off
+    return {{"Fajr", fajr}, {"Dhuhr", "13:15"}, {"Asr", "16:40"}, {"Maghrib", "18:22"}, {"Isha", "20:50"}};
+    // clang-format on
 }
 
 DayTable month(int m, int daysInMonth, const QString& fajr) {

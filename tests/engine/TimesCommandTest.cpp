@@ -1,11 +1,9 @@
 // Runs the real binary: `tarvanel --times` must print the header and table to the character.
 #include "engine/LocalTime.h"
-#include "engine/Schedule.h"
 #include "records/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QProcess>
-#include <QRegularExpression>
 
 using namespace tarvanel;
 
@@ -41,39 +39,22 @@ protected:
     }
 };
 
-const QRegularExpression kRow(R"(^  (.{8}) (.{9}) (.+)$)");
-
 } // namespace
 
 TEST_F(TimesCommandTest, LondonOnAFridayInRamadan) {
+    // The table the README documents: lock = final - 5 min, Dhuhr shown as Jumu'ah at 13:30.
     london();
     const Result r = run({"--times", "--date", "2025-03-14"});
     ASSERT_EQ(r.status, 0) << r.err.toStdString();
-    const QStringList lines = r.out.split('\n');
-    ASSERT_EQ(lines.size(), 9) << r.out.toStdString(); // header, title, six rows, final newline
-    EXPECT_EQ(lines[0], QString::fromUtf8("Tarvanel \u2014 London  (Friday 14 March 2025 \u2022 "
-                                          "14 Ramadan 1446 AH \u2022 Ramadan \U0001F319)"));
-    EXPECT_EQ(lines[1], "  Prayer   Waqt      Lock at");
-    EXPECT_EQ(lines[8], "");
-
-    // The rows agree with the schedule, lock = final - 5 min, Dhuhr shown as Jumu'ah at 13:30.
-    Config cfg = loadConfig();
-    const QDateTime day = startOfLocalDay(QDate(2025, 3, 14));
-    const EffectiveTimes t = effectiveTimes(day, cfg);
-    const QStringList names{"Fajr", "Sunrise", "Jumu'ah", "Asr", "Maghrib", "Isha"};
-    for (int i = 0; i < 6; ++i) {
-        const QString name = dayRowNames()[i];
-        SCOPED_TRACE(name.toStdString());
-        const auto m = kRow.match(lines[2 + i]);
-        ASSERT_TRUE(m.hasMatch()) << lines[2 + i].toStdString();
-        EXPECT_EQ(m.captured(1).trimmed(), names[i]);
-        EXPECT_EQ(m.captured(2).trimmed(), formatLocal(*t.waqt.value(name), "h:mm AP"));
-        if (name == "Sunrise")
-            EXPECT_EQ(m.captured(3), QString::fromUtf8("\u2014"));
-        else
-            EXPECT_EQ(m.captured(3), formatLocal(t.final.value(name)->addSecs(-300), "h:mm AP"));
-    }
-    EXPECT_TRUE(lines[4].endsWith(" 1:25 PM")) << lines[4].toStdString();
+    EXPECT_EQ(r.out, QString::fromUtf8("Tarvanel \u2014 London  (Friday 14 March 2025 \u2022 "
+                                       "14 Ramadan 1446 AH \u2022 Ramadan \U0001F319)\n"
+                                       "  Prayer   Waqt      Lock at\n"
+                                       "  Fajr     4:24 AM   4:19 AM\n"
+                                       "  Sunrise  6:16 AM   \u2014\n"
+                                       "  Jumu'ah  12:11 PM  1:25 PM\n"
+                                       "  Asr      3:19 PM   3:14 PM\n"
+                                       "  Maghrib  6:05 PM   6:00 PM\n"
+                                       "  Isha     7:49 PM   7:44 PM\n"));
 }
 
 TEST_F(TimesCommandTest, TimesWinsOverInstallAgentAndBadDatesFallBackToToday) {

@@ -99,12 +99,14 @@ TEST_F(HistoryTest, StreakWalksLocalDaysAcrossDaylightSavingChanges) {
 TEST_F(HistoryTest, GridCellsShowQadaThenKeptThenExcused) {
     const HistoryMap history{{"2025-03-01", {"Fajr", "Dhuhr", "Asr"}}};
     const Marks::Map marks{{"2025-03-01", {{"Fajr", "qada"}, {"Dhuhr", "elsewhere"}}}};
-    EXPECT_EQ(gridMark("Fajr", "2025-03-01", history, marks, false), QStringLiteral("Fq"));
-    EXPECT_EQ(gridMark("Dhuhr", "2025-03-01", history, marks, true), QStringLiteral("D\u2713"));
-    EXPECT_EQ(gridMark("Asr", "2025-03-01", history, marks, false), QStringLiteral("A\u2713"));
-    EXPECT_EQ(gridMark("Maghrib", "2025-03-01", history, marks, true), QStringLiteral("M\u2013"));
-    EXPECT_EQ(gridMark("Isha", "2025-03-01", history, marks, false), QStringLiteral("I\u00B7"));
-    EXPECT_EQ(gridMark("Isha", "2025-03-02", {}, {}, false), QStringLiteral("I\u00B7"));
+    // Cells in turn: qada, "elsewhere" on an excused day, kept, excused, nothing, no records.
+    const QStringList cells{gridMark("Fajr", "2025-03-01", history, marks, false),
+                            gridMark("Dhuhr", "2025-03-01", history, marks, true),
+                            gridMark("Asr", "2025-03-01", history, marks, false),
+                            gridMark("Maghrib", "2025-03-01", history, marks, true),
+                            gridMark("Isha", "2025-03-01", history, marks, false),
+                            gridMark("Isha", "2025-03-02", {}, {}, false)};
+    EXPECT_EQ(cells.join(' '), QStringLiteral("Fq D\u2713 A\u2713 M\u2013 I\u00B7 I\u00B7"));
 }
 
 TEST_F(HistoryTest, CsvListsKeptAndExcusedPrayersInDayAndPrayerOrder) {
@@ -115,10 +117,9 @@ TEST_F(HistoryTest, CsvListsKeptAndExcusedPrayersInDayAndPrayerOrder) {
     // Asr of 2 March falls inside a short excused period; Dhuhr and Maghrib do not.
     const QDateTime asr = *effectiveTimes(utc(2025, 3, 2), london()).final.value(u"Asr");
     Excused::save({{asr.addSecs(-60), asr.addSecs(60)}});
-    EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), QStringLiteral("date,prayer,status\n"
-                                                                    "2025-03-01,Fajr,qada\n"
-                                                                    "2025-03-01,Dhuhr,locked\n"
-                                                                    "2025-03-02,Asr,excused\n"));
+    EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)),
+              "date,prayer,status\n2025-03-01,Fajr,qada\n"
+              "2025-03-01,Dhuhr,locked\n2025-03-02,Asr,excused\n");
 
     // Marking the excused Asr as prayed elsewhere replaces the excused row.
     markKept({"Asr"}, "2025-03-02", QStringLiteral("elsewhere"), locks);
@@ -130,12 +131,8 @@ TEST_F(HistoryTest, CsvExcusedRowsStopAtNowAndUnknownPrayersSortLast) {
     // Excused for the whole of 4 March and beyond (open, 15 days); "now" is 4 March at noon.
     Excused::save({{utc(2025, 3, 4, 0), std::nullopt}});
     EXPECT_EQ(historyCSV(london(), utc(2025, 3, 4, 12, 30)),
-              QStringLiteral("date,prayer,status\n"
-                             "2025-03-03,Fajr,locked\n"
-                             "2025-03-03,Isha,locked\n"
-                             "2025-03-03,Jumu'ah,locked\n"
-                             "2025-03-04,Fajr,excused\n"
-                             "2025-03-04,Dhuhr,excused\n"));
+              "date,prayer,status\n2025-03-03,Fajr,locked\n2025-03-03,Isha,locked\n"
+              "2025-03-03,Jumu'ah,locked\n2025-03-04,Fajr,excused\n2025-03-04,Dhuhr,excused\n");
 
     // Periods years apart, overlapping or backwards.
     saveHistory({});

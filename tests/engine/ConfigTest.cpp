@@ -62,11 +62,8 @@ TEST_F(ConfigTest, SaveWritesSortedPrettyJsonAndRoundTripsEveryField) {
     const auto bytes = readWholeFile(configURL());
     ASSERT_TRUE(bytes);
     EXPECT_TRUE(bytes->contains("\n    \"asrFactor\""));
+    EXPECT_LT(bytes->indexOf("adhanEnabled"), bytes->indexOf("asrFactor")); // keys sorted
     const QJsonObject o = QJsonDocument::fromJson(*bytes).object();
-    QStringList sorted = o.keys();
-    sorted.sort();
-    EXPECT_EQ(o.keys(), sorted);
-    EXPECT_LT(bytes->indexOf("adhanEnabled"), bytes->indexOf("asrFactor"));
     // Absent optionals are left out.
     EXPECT_EQ(o.keys().size(), 23);
     for (const char* key : {"method", "ishaMinutes", "maghribAngle", "calendarID", "colour"})

@@ -1,5 +1,8 @@
+// Excused, pause and travel: the modes that hold reminders and locks back.
 #include "records/Modes.h"
+#include "records/Excused.h"
 #include "records/Log.h"
+#include "records/StateFiles.h"
 #include "records/UserDefaults.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
@@ -20,11 +23,134 @@ protected:
     QStringList logs;
     test::FakePlatform platform;
 };
+class ExcusedTest : public ModesTest {};
 
 QDateTime utc(int y, int m, int d, int h = 0, int min = 0, int s = 0) {
     return QDateTime(QDate(y, m, d), QTime(h, min, s), Qt::UTC);
 }
+
+QByteArray excusedBytes() {
+    return readWholeFile(supportPath("excused.json")).value_or(QByteArray());
+}
 } // namespace
+
+TEST_F(ExcusedTest, FileHoldsUtcSecondsAndOmitsAnOpenEnd) {
+    EXPECT_TRUE(Excused::load().isEmpty());
+    const QDateTime start = utc(2025, 3, 1, 18, 2, 11).addMSecs(750);
+    Excused::save({{utc(2025, 2, 1), utc(2025, 2, 3, 6)}, {start, std::nullopt}});
+    EXPECT_EQ(excusedBytes(),
+              QByteArray("[\n    {\n        \"end\": \"2025-02-03T06:00:00Z\",\n"
+                         "        \"start\": \"2025-02-01T00:00:00Z\"\n    },\n"
+                         "    {\n        \"start\": \"2025-03-01T18:02:11Z\"\n    }\n]\n"));
+    // The fraction is gone.
+    EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 2, 1), utc(2025, 2, 3, 6)},
+                                                    {utc(2025, 3, 1, 18, 2, 11), std::nullopt}}));
+}
+
+TEST_F(ExcusedTest, OffsetsAndNullEndsAreReadOtherFormsSpoilTheFile) {
+    test::writeSupportFile("excused.json",
+                           R"([{"start": "2025-03-01T20:00:00+02:00", "end": null}])");
+    EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 3, 1, 18), std::nullopt}}));
+
+    for (const char* bad :
+         {R"({"start": "2025-03-01T18:00:00Z"})", R"([{"start": "2025-03-01T18:00:00"}])",
+          R"([{"start": "2025-03-01T18:00:00.5Z"}])", R"([{"start": "2025-03-01"}])",
+          R"([{"start": 1740852000}])", R"([{"end": "2025-03-01T18:00:00Z"}])",
+          R"([{"start": "2025-03-01T18:00:00Z", "end": "soon"}])",
+          R"([{"start": "2025-03-01T18:00:00Z"}, 7])", "[", ""}) {
+        SCOPED_TRACE(bad);
+        test::writeSupportFile("excused.json", bad);
+        EXPECT_TRUE(Excused::load().isEmpty());
+        EXPECT_FALSE(Excused::current(15, utc(2025, 3, 2)).has_value());
+    }
+    // begin starts a fresh list over the damaged file.
+    Excused::begin(utc(2025, 3, 2));
+    EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 3, 2), std::nullopt}}));
+}
+
+TEST_F(ExcusedTest, BeginKeepsOneOpenPeriodAndFinishClosesIt) {
+    // Finishing with no open period writes nothing.
+    Excused::finish(utc(2025, 3, 4));
+    EXPECT_FALSE(QFile::exists(supportPath("excused.json")));
+
+    Excused::begin(utc(2025, 3, 1, 18));
+    Excused::begin(utc(2025, 3, 2, 18));
+    ASSERT_EQ(Excused::load().size(), 1);
+    Excused::finish(utc(2025, 3, 4, 9));
+    const QByteArray closed = excusedBytes();
+    Excused::finish(utc(2025, 3, 5));
+    EXPECT_EQ(excusedBytes(), closed);
+    Excused::begin(utc(2025, 3, 10));
+    EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 3, 1, 18), utc(2025, 3, 4, 9)},
+                                                    {utc(2025, 3, 10), std::nullopt}}));
+}
+
+TEST_F(ExcusedTest, AnOpenPeriodClosesItselfAtTheCurrentLimit) {
+    Excused::begin(utc(2025, 3, 1, 18));
+    const auto during = Excused::current(15, utc(2025, 3, 8, 18));
+    ASSERT_TRUE(during.has_value());
+    EXPECT_EQ(during->start, utc(2025, 3, 1, 18));
+    EXPECT_FALSE(Excused::load()[0].end.has_value());
+    // The limit is read at each call: 7.5 days end on 9 March at 06:00.
+    EXPECT_TRUE(Excused::current(7.5, utc(2025, 3, 9, 5, 59, 59)).has_value());
+    EXPECT_FALSE(Excused::current(7.5, utc(2025, 3, 9, 6)).has_value());
+    // Closed at the limit, not at the moment of the call; closed ranges never count.
+    EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 9, 6));
+    EXPECT_FALSE(Excused::current(15, utc(2025, 3, 5)).has_value());
+}
+
+TEST_F(ExcusedTest, ContainsAndTouchesDayEdges) {
+    const QList<ExcusedRange> ranges = {{utc(2025, 3, 1, 18), utc(2025, 3, 2, 6)},
+                                        {utc(2025, 3, 10), std::nullopt}};
+    // Start inclusive, end exclusive; the open range runs to start + maxDays before it is closed.
+    const QList<std::tuple<QDateTime, double, bool>> contains = {
+        {utc(2025, 3, 1, 18), 15, true}, {utc(2025, 3, 1, 17, 59, 59), 15, false},
+        {utc(2025, 3, 2, 6), 15, false}, {utc(2025, 3, 11, 23, 59, 59), 2, true},
+        {utc(2025, 3, 12), 2, false},    {utc(2999, 1, 1), 1e300, true},
+        {utc(2025, 3, 10), -1, false},   {utc(2025, 3, 10), std::nan(""), false}};
+    for (const auto& [at, maxDays, expected] : contains)
+        EXPECT_EQ(Excused::contains(at, ranges, maxDays), expected) << at.toString().toStdString();
+    EXPECT_FALSE(Excused::contains(utc(2025, 3, 12), {}, 2));
+    EXPECT_TRUE(ranges[1].effectiveEnd(std::numeric_limits<double>::infinity()).isValid());
+
+    // A graze of a second counts; touching the day's edge does not.
+    const QDateTime day = utc(2025, 3, 5);
+    const QList<std::tuple<ExcusedRange, double, bool>> touches = {
+        {{utc(2025, 3, 4, 12), utc(2025, 3, 5, 0, 0, 1)}, 15, true},
+        {{utc(2025, 3, 4, 12), utc(2025, 3, 5)}, 15, false},
+        {{utc(2025, 3, 5, 23, 59, 59), utc(2025, 3, 7)}, 15, true},
+        {{utc(2025, 3, 6), utc(2025, 3, 7)}, 15, false},
+        {{utc(2025, 3, 1), std::nullopt}, 4.5, true},
+        {{utc(2025, 3, 1), std::nullopt}, 4, false}};
+    for (const auto& [range, maxDays, expected] : touches)
+        EXPECT_EQ(Excused::touchesDay(day, {range}, maxDays), expected)
+            << range.start.toString().toStdString() << " " << maxDays;
+}
+
+TEST_F(ExcusedTest, StartAsksWithTheWholeNumberOfDaysAndLogs) {
+    Config cfg;
+    cfg.excusedMaxDays = 7.5;
+    EXPECT_FALSE(askStartExcused(platform, cfg, utc(2025, 3, 1, 18)));
+    ASSERT_EQ(platform.alerts.size(), 1);
+    EXPECT_EQ(platform.alerts[0].message, "Turn off reminders and locks?");
+    EXPECT_EQ(platform.alerts[0].info,
+              "They come back when you choose No Longer Excused, or after 7 days. "
+              "Your streak is kept.");
+    EXPECT_EQ(platform.alerts[0].buttons, QStringList({"Turn Off", "Cancel"}));
+    EXPECT_TRUE(Excused::load().isEmpty());
+    EXPECT_TRUE(logs.isEmpty());
+
+    platform.answerAlert(1000);
+    cfg.excusedMaxDays = std::nullopt;
+    EXPECT_TRUE(askStartExcused(platform, cfg, utc(2025, 3, 1, 18)));
+    EXPECT_TRUE(platform.alerts[1].info.contains("after 15 days."));
+    EXPECT_EQ(logs, QStringList({"Tarvanel: excused"}));
+    EXPECT_TRUE(Excused::current(15, utc(2025, 3, 2)).has_value());
+
+    endExcused(utc(2025, 3, 3, 7));
+    EXPECT_EQ(logs.last(), "Tarvanel: no longer excused");
+    EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 3, 7));
+}
 
 TEST_F(ModesTest, DefaultsLiveInTheUsersConfigFolderAndUnreadableValuesAreAbsent) {
     const QString path = UserDefaults::defaultPath();

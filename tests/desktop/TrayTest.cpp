@@ -61,20 +61,28 @@ TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFit) {
     EXPECT_NE(trayImage("🌙 Iftar in 34m", TitleColor::Orange, 64), orange);
 }
 
-TEST(TrayMenu, BuiltFromTheModelWithTagsSubmenusFontsAndShortcut) {
-    int ran = 0;
-    MenuModel model{MenuItem::info("London — Muslim World League"), MenuItem::separator(),
-                    MenuItem::info("Mon 3   ✓ ✓ · ✓ ✓"), MenuItem::info("Mark as Prayed"),
-                    MenuItem::command("Settings…", [&] { ++ran; })};
-    model[2].monospaced = true;
-    model[3].submenu << MenuItem::command(
-        "Fajr: Prayed Late (Qada)", [&] { ran += 10; }, 100);
-    model[3].submenu << MenuItem::info("✓ Dhuhr");
-    model[4].shortcut = ",";
-
-    QMenu menu;
-    fillMenu(&menu, model);
-    const QList<QAction*> actions = menu.actions();
+TEST(TrayMenu, BuiltAfreshFromTheCoresModelEachTimeItOpens) {
+    TrayIcon tray;
+    // No tray host under the offscreen platform: the title is kept, nothing is shown.
+    EXPECT_FALSE(tray.ensureCreated());
+    tray.setTitle("🕌 Asr in 5m", TitleColor::Red);
+    EXPECT_EQ(tray.icon(), nullptr);
+    int ran = 0, builds = 0;
+    tray.setMenuProvider([&] {
+        if (++builds > 1) return MenuModel{MenuItem::info("Tarvanel isn't set up yet")};
+        MenuModel model{MenuItem::info("London — Muslim World League"), MenuItem::separator(),
+                        MenuItem::info("Mon 3   ✓ ✓ · ✓ ✓"), MenuItem::info("Mark as Prayed"),
+                        MenuItem::command("Settings…", [&] { ++ran; })};
+        model[2].monospaced = true;
+        model[3].submenu << MenuItem::command(
+                                "Fajr: Prayed Late (Qada)", [&] { ran += 10; }, 100)
+                         << MenuItem::info("✓ Dhuhr");
+        model[4].shortcut = ",";
+        return model;
+    });
+    EXPECT_EQ(builds, 0);
+    emit tray.menu()->aboutToShow();
+    const QList<QAction*> actions = tray.menu()->actions();
     ASSERT_EQ(actions.size(), 5);
     EXPECT_FALSE(actions[0]->isEnabled());
     EXPECT_TRUE(actions[1]->isSeparator());
@@ -97,26 +105,9 @@ TEST(TrayMenu, BuiltFromTheModelWithTagsSubmenusFontsAndShortcut) {
     test::pump(20);
     EXPECT_EQ(ran, 10);
 
-    // Rebuilding replaces every item.
-    fillMenu(&menu, {MenuItem::info("Tarvanel isn't set up yet")});
-    EXPECT_EQ(menu.actions().size(), 1);
-}
-
-TEST(TrayMenu, OpeningTheMenuAsksTheCoreAfresh) {
-    TrayIcon tray;
-    int builds = 0;
-    tray.setMenuProvider([&] {
-        ++builds;
-        return MenuModel{MenuItem::info(QStringLiteral("build %1").arg(builds))};
-    });
-    // No tray host under the offscreen platform: the title is kept, nothing is shown.
-    EXPECT_FALSE(tray.ensureCreated());
-    tray.setTitle("🕌 Asr in 5m", TitleColor::Red);
-    EXPECT_EQ(tray.icon(), nullptr);
-    EXPECT_EQ(builds, 0);
-    emit tray.menu()->aboutToShow();
+    // The next opening asks again and replaces every item.
     emit tray.menu()->aboutToShow();
     EXPECT_EQ(builds, 2);
     ASSERT_EQ(tray.menu()->actions().size(), 1);
-    EXPECT_EQ(tray.menu()->actions().first()->text(), "build 2");
+    EXPECT_EQ(tray.menu()->actions().first()->text(), "Tarvanel isn't set up yet");
 }

@@ -1,11 +1,11 @@
 // From a lock's start to every screen covered: building one lock window per screen and
 // painting them: on the display in DISPLAY, else under the offscreen platform with two screens.
+#include "desktop/DisplayCheck.h"
 #include "desktop/LockWindows.h"
 #include "desktop/TrayIcon.h"
 #include "lock/LockScreenState.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
@@ -40,20 +40,11 @@ static void BM_TrayImage(benchmark::State& state) {
 BENCHMARK(BM_TrayImage)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv) {
-    QTemporaryDir dir;
-    const QString screens = dir.filePath(QStringLiteral("screens.json"));
-    QFile file(screens);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(R"({"screens": [
-            {"name": "LEFT", "x": 0, "y": 0, "width": 2560, "height": 1440,
-             "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
-            {"name": "RIGHT", "x": 2560, "y": 0, "width": 1920, "height": 1080,
-             "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-        file.close();
-    }
     // With a display (for example Xvfb with two monitors) the real windowing system is measured.
+    QTemporaryDir dir;
     if (qEnvironmentVariableIsEmpty("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.toLocal8Bit());
+        useOffscreenScreens(dir.filePath(QStringLiteral("screens.json")),
+                            {QRect(0, 0, 2560, 1440), QRect(2560, 0, 1920, 1080)});
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

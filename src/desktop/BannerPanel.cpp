@@ -15,17 +15,6 @@ namespace {
 
 constexpr int gapBelowTop = 16;
 
-QLabel* makeLabel(QWidget* parent, const QFont& font, const QColor& colour) {
-    auto* label = new QLabel(parent);
-    label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 double BannerView::borderWidth(BannerStyle style) {
@@ -42,18 +31,20 @@ BannerView::BannerView(const BannerContent& content, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(22, 18, 22, 18);
     column->setSpacing(6);
-    message_ = makeLabel(
+    message_ = look::textLabel(
         this,
         look::systemFont(17, content.style == BannerStyle::normal ? QFont::DemiBold : QFont::Bold),
-        Qt::white);
+        Qt::white, true);
     message_->setText(content.message);
     column->addWidget(message_);
     if (content.quote) {
-        quote_ = makeLabel(this, look::systemFont(13.5, QFont::Normal), look::white(0.78));
+        quote_ =
+            look::textLabel(this, look::systemFont(13.5, QFont::Normal), look::white(0.78), true);
         quote_->setText(QStringLiteral("“") + content.quote->text + QStringLiteral("”"));
         column->addSpacing(2);
         column->addWidget(quote_);
-        auto* source = makeLabel(this, look::systemFont(11.5, QFont::DemiBold), look::white(0.45));
+        auto* source =
+            look::textLabel(this, look::systemFont(11.5, QFont::DemiBold), look::white(0.45), true);
         source->setText(content.quote->source);
         column->addWidget(source);
     }

@@ -1,6 +1,10 @@
 #include "desktop/DisplayCheck.h"
 
 #include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocalSocket>
 #include <xcb/xcb.h>
 
@@ -44,6 +48,24 @@ std::optional<QString> displayProblem(const QProcessEnvironment& env) {
         if (platform == QLatin1String(headless)) return std::nullopt;
     if (platform.startsWith(QLatin1String("wayland"))) return waylandProblem(env);
     return x11Problem(env.value(QStringLiteral("DISPLAY")));
+}
+
+void useOffscreenScreens(const QString& configPath, const QList<QRect>& screens) {
+    QJsonArray list;
+    for (const QRect& r : screens)
+        list.append(
+            QJsonObject{{QStringLiteral("name"), QStringLiteral("SCREEN%1").arg(list.size() + 1)},
+                        {QStringLiteral("x"), r.x()},
+                        {QStringLiteral("y"), r.y()},
+                        {QStringLiteral("width"), r.width()},
+                        {QStringLiteral("height"), r.height()},
+                        {QStringLiteral("logicalDpi"), 96},
+                        {QStringLiteral("logicalBaseDpi"), 96},
+                        {QStringLiteral("dpr"), 1}});
+    QFile file(configPath);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), list}}).toJson());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + configPath.toLocal8Bit());
 }
 
 } // namespace tarvanel

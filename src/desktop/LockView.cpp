@@ -13,15 +13,9 @@ namespace {
 
 const QString arabicLine = QString::fromUtf8("حَيَّ عَلَى الصَّلَاةِ  •  حَيَّ عَلَى الْفَلَاحِ");
 
-QLabel* makeLabel(QWidget* parent, const QFont& font, const QColor& colour) {
-    auto* label = new QLabel(parent);
-    label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
-    label->setAlignment(Qt::AlignHCenter);
-    label->setTextFormat(Qt::PlainText);
-    return label;
+QLabel* centredLabel(QWidget* parent, const QFont& font, const QColor& colour,
+                     bool wordWrap = false) {
+    return look::textLabel(parent, font, colour, wordWrap, Qt::AlignHCenter);
 }
 
 class QuoteCard : public QWidget {
@@ -64,15 +58,15 @@ LockView::LockView(const QString& prayer, const Quote& quote, LockScreenState* s
 
     QFont kicker = look::systemFont(11, QFont::Bold);
     kicker.setLetterSpacing(QFont::AbsoluteSpacing, 1.6);
-    caption_ = makeLabel(this, kicker, look::white(0.55));
+    caption_ = centredLabel(this, kicker, look::white(0.55));
     caption_->setText(captionFor(prayer));
     column->addWidget(caption_);
 
-    name_ = makeLabel(this, look::systemFont(104, QFont::Bold), Qt::white);
+    name_ = centredLabel(this, look::systemFont(104, QFont::Bold), Qt::white);
     name_->setText(prayer);
     column->addWidget(name_);
 
-    auto* arabic = makeLabel(this, look::arabicFont(30), look::white(0.85));
+    auto* arabic = centredLabel(this, look::arabicFont(30), look::white(0.85));
     arabic->setText(arabicLine);
     column->addWidget(arabic);
 
@@ -91,12 +85,12 @@ LockView::LockView(const QString& prayer, const Quote& quote, LockScreenState* s
     auto* card = new QVBoxLayout(quoteCard_);
     card->setContentsMargins(20, 20, 20, 20);
     card->setSpacing(8);
-    quoteText_ = makeLabel(quoteCard_, look::systemFont(16, QFont::Normal), look::white(0.85));
-    quoteText_->setWordWrap(true);
+    quoteText_ =
+        centredLabel(quoteCard_, look::systemFont(16, QFont::Normal), look::white(0.85), true);
     quoteText_->setText(QStringLiteral("“") + quote.text + QStringLiteral("”"));
     card->addWidget(quoteText_);
-    auto* source = makeLabel(quoteCard_, look::systemFont(12, QFont::DemiBold), look::white(0.5));
-    source->setWordWrap(true);
+    auto* source =
+        centredLabel(quoteCard_, look::systemFont(12, QFont::DemiBold), look::white(0.5), true);
     source->setText(quote.source);
     card->addWidget(source);
     quoteCard_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -107,7 +101,7 @@ LockView::LockView(const QString& prayer, const Quote& quote, LockScreenState* s
     column->addLayout(cardRow);
 
     // The column's spacing puts 18 px above the guardian line; a hidden line takes none.
-    guardian_ = makeLabel(this, look::systemFont(13, QFont::Medium), look::white(0.4));
+    guardian_ = centredLabel(this, look::systemFont(13, QFont::Medium), look::white(0.4));
     column->addWidget(guardian_);
     column->addStretch(1);
 

@@ -11,24 +11,24 @@
 
 namespace tarvanel {
 
-namespace {
+bool LockWindow::debugBuild() {
 #ifdef TARVANEL_LOCK_DEBUG
-constexpr bool lockDebug = true;
+    return true;
 #else
-constexpr bool lockDebug = false;
+    return false;
 #endif
-} // namespace
+}
 
 LockWindow::LockWindow(QScreen* screen, const LockWindowContent& content, LockScreenState* state,
                        KeyHandler onKey)
     : QWidget(nullptr), screen_(screen), onKey_(std::move(onKey)) {
     Qt::WindowFlags flags = Qt::Window | Qt::WindowStaysOnTopHint;
-    if (!lockDebug) flags |= Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint;
+    if (!debugBuild()) flags |= Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint;
     setWindowFlags(flags);
     setWindowTitle(QStringLiteral("Tarvanel"));
     setAttribute(Qt::WA_DeleteOnClose, false);
     setFocusPolicy(Qt::StrongFocus);
-    if (!lockDebug) setCursor(Qt::BlankCursor);
+    if (!debugBuild()) setCursor(Qt::BlankCursor);
     QPalette palette = this->palette();
     palette.setColor(QPalette::Window, Qt::black);
     setPalette(palette);
@@ -37,7 +37,7 @@ LockWindow::LockWindow(QScreen* screen, const LockWindowContent& content, LockSc
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     view_ = new LockView(content.prayer, content.quote, state, this);
-    if (!lockDebug) view_->setCursor(Qt::BlankCursor);
+    if (!debugBuild()) view_->setCursor(Qt::BlankCursor);
     layout->addWidget(view_);
     connect(view_, &LockView::firstPaint, this, [this] {
         painted_ = true;
@@ -49,9 +49,9 @@ void LockWindow::coverScreen() {
     if (!screen_) return;
     const QRect area = screen_->geometry();
     if (windowHandle()) windowHandle()->setScreen(screen_);
-    setGeometry(lockDebug ? area.adjusted(area.width() / 8, area.height() / 8, -area.width() / 8,
-                                          -area.height() / 8)
-                          : area);
+    setGeometry(debugBuild() ? area.adjusted(area.width() / 8, area.height() / 8, -area.width() / 8,
+                                             -area.height() / 8)
+                             : area);
 }
 
 void LockWindow::present() {
@@ -64,7 +64,7 @@ void LockWindow::present() {
 }
 
 bool LockWindow::grabInput() {
-    if (lockDebug) return true;
+    if (debugBuild()) return true;
     QWindow* handle = windowHandle();
     if (!handle || !isVisible()) return false;
     if (!keyboardGrabbed_) keyboardGrabbed_ = handle->setKeyboardGrabEnabled(true);
@@ -100,7 +100,7 @@ bool LockWindow::event(QEvent* event) {
 }
 
 void LockWindow::closeEvent(QCloseEvent* event) {
-    if (lockDebug) {
+    if (debugBuild()) {
         event->accept();
         return;
     }

@@ -21,6 +21,9 @@ public:
     LockWindow(QScreen* screen, const LockWindowContent& content, LockScreenState* state,
                KeyHandler onKey);
 
+    // A development build (TARVANEL_LOCK_DEBUG): framed, closable windows that grab nothing.
+    static bool debugBuild();
+
     // Covers the screen and, unless built for development, takes keyboard and pointer.
     void present();
     // Keyboard and pointer grabs; false while another client holds one (retried later).

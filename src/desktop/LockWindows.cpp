@@ -8,11 +8,6 @@
 namespace tarvanel {
 
 namespace {
-#ifdef TARVANEL_LOCK_DEBUG
-constexpr bool lockDebug = true;
-#else
-constexpr bool lockDebug = false;
-#endif
 // A new output reports its final geometry shortly after it appears.
 constexpr int settleMs = 500;
 } // namespace
@@ -68,7 +63,7 @@ void LockWindows::show(const QList<LockWindowContent>& perScreen, LockScreenStat
         w->hide();
         w->deleteLater();
     }
-    if (!lockDebug && !cursorHidden_) {
+    if (!LockWindow::debugBuild() && !cursorHidden_) {
         QGuiApplication::setOverrideCursor(Qt::BlankCursor);
         cursorHidden_ = true;
     }
@@ -93,7 +88,7 @@ bool LockWindows::grabbed() const {
 }
 
 void LockWindows::retryGrabs() {
-    if (windows_.isEmpty() || lockDebug) {
+    if (windows_.isEmpty() || LockWindow::debugBuild()) {
         grabRetry_.stop();
         return;
     }

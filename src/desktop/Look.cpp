@@ -1,10 +1,24 @@
 #include "desktop/Look.h"
 
 #include <QFontDatabase>
+#include <QLabel>
 #include <QPainterPath>
 #include <QRadialGradient>
 
 namespace tarvanel::look {
+
+QLabel* textLabel(QWidget* parent, const QFont& font, const QColor& colour, bool wordWrap,
+                  Qt::Alignment alignment) {
+    auto* label = new QLabel(parent);
+    label->setFont(font);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    label->setPalette(palette);
+    label->setAlignment(alignment);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(wordWrap);
+    return label;
+}
 
 QColor white(double opacity) {
     QColor c(255, 255, 255);

@@ -6,6 +6,9 @@
 #include <QPainter>
 #include <QRectF>
 
+class QLabel;
+class QWidget;
+
 namespace tarvanel::look {
 
 inline const QColor glowA(0x12, 0xB8, 0x86); // green
@@ -25,6 +28,10 @@ void paintGlow(QPainter& p, QPointF centre, double side, const QColor& colour, d
 void paintAurora(QPainter& p, const QRectF& rect, double intensity);
 // A translucent rounded card with a faint edge highlight.
 void paintGlassCard(QPainter& p, const QRectF& rect, double radius, double fill);
+
+// A plain-text label in `font` and `colour`.
+QLabel* textLabel(QWidget* parent, const QFont& font, const QColor& colour, bool wordWrap = false,
+                  Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter);
 
 // The system sans-serif at a pixel size and weight.
 QFont systemFont(double pixels, QFont::Weight weight);

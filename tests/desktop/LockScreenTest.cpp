@@ -1,40 +1,20 @@
-// Lock windows on every screen, the lock view's texts and look, and the keys that get through.
+// The lock's keys, the quote card's layout, and the lock windows on every screen.
+#include "DesktopTest.h"
 #include "desktop/LockKeys.h"
 #include "desktop/LockView.h"
-#include "desktop/LockWindows.h"
+#include "desktop/QtPlatform.h"
 #include "lock/LockScreenState.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QScreen>
 #include <gtest/gtest.h>
 
 using namespace tarvanel;
+using test::pump;
 
 namespace {
-
-const Quote shortQuote{QStringLiteral("Prayer is better than sleep."), QStringLiteral("Adhan"), {}};
-
-void pump(int ms = 30) {
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < ms)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-}
-
-struct KeyLog {
-    QList<std::pair<LockKey, QString>> keys;
-    LockWindow::KeyHandler handler() {
-        return [this](LockKey key, const QString& text) { keys.append({key, text}); };
-    }
-};
-
-void press(QWidget* w, int key, Qt::KeyboardModifiers mods = {}, const QString& text = {}) {
-    QKeyEvent event(QEvent::KeyPress, key, mods, text);
-    QCoreApplication::sendEvent(w, &event);
-}
-
+const Quote shortQuote{"Prayer is better than sleep.", "Adhan", {}};
 } // namespace
 
 TEST(LockKeys, DigitsFromMainRowAndKeypadEscapeAndBackspace) {
@@ -51,7 +31,6 @@ TEST(LockKeys, DigitsFromMainRowAndKeypadEscapeAndBackspace) {
         // Num Lock off: the keypad's navigation keys still mean their printed digit.
         {Qt::Key_End, Qt::KeypadModifier, {}, LockKey::Other, "1"},
         {Qt::Key_Clear, Qt::KeypadModifier, {}, LockKey::Other, "5"},
-        {Qt::Key_PageUp, Qt::KeypadModifier, {}, LockKey::Other, "9"},
         {Qt::Key_Escape, {}, "\x1b", LockKey::Escape, {}},
         {Qt::Key_Backspace, {}, "\b", LockKey::Backspace, {}},
         // Letters reach the core as text (it keeps digits only); keys without text stay here.
@@ -71,135 +50,102 @@ TEST(LockKeys, DigitsFromMainRowAndKeypadEscapeAndBackspace) {
     }
 }
 
-TEST(LockView, CaptionNameAndLiveTexts) {
-    LockScreenState state;
-    state.setCountdown(QStringLiteral("Screen unlocks in 4:59"));
-    LockView preview(QStringLiteral("Test"), shortQuote, &state);
-    EXPECT_EQ(preview.captionLabel()->text(), QStringLiteral("PREVIEW"));
-    EXPECT_EQ(LockView::captionFor(QStringLiteral("Preview")), QStringLiteral("PREVIEW"));
-    LockView jumuah(QStringLiteral("Jumu'ah"), shortQuote, &state);
-    EXPECT_EQ(jumuah.captionLabel()->text(), QStringLiteral("IT'S TIME FOR"));
-    EXPECT_EQ(jumuah.nameLabel()->text(), QStringLiteral("Jumu'ah"));
-    EXPECT_EQ(jumuah.quoteLabel()->text(), QStringLiteral("“Prayer is better than sleep.”"));
-
-    // Both views follow the shared state.
-    EXPECT_EQ(jumuah.countdownLabel()->text(), QStringLiteral("Screen unlocks in 4:59"));
-    state.setCountdown(QStringLiteral("Screen unlocks in 4:58"));
-    EXPECT_EQ(preview.countdownLabel()->text(), QStringLiteral("Screen unlocks in 4:58"));
-    EXPECT_EQ(jumuah.countdownLabel()->text(), QStringLiteral("Screen unlocks in 4:58"));
-
-    // No guardian: no line at all; a line appears and goes with the state.
-    jumuah.resize(1280, 800);
-    jumuah.show();
-    pump();
-    EXPECT_FALSE(jumuah.guardianLabel()->isVisible());
-    state.setGuardian(QStringLiteral("● ● ○ ○ ○ ○"));
-    EXPECT_TRUE(jumuah.guardianLabel()->isVisible());
-    EXPECT_EQ(jumuah.guardianLabel()->text(), QStringLiteral("● ● ○ ○ ○ ○"));
-    state.setGuardian({});
-    EXPECT_FALSE(jumuah.guardianLabel()->isVisible());
-}
-
-TEST(LockView, SizesWeightsAndOpacities) {
-    LockScreenState state;
-    LockView view(QStringLiteral("Asr"), shortQuote, &state);
-    // At Qt's reference 96 dpi a design point is one pixel: 104 px is 78 pt.
-    EXPECT_DOUBLE_EQ(view.nameLabel()->font().pointSizeF(), 78.0);
-    EXPECT_EQ(view.nameLabel()->font().weight(), QFont::Bold);
-    EXPECT_DOUBLE_EQ(view.captionLabel()->font().pointSizeF(), 11 * 0.75);
-    EXPECT_NEAR(view.captionLabel()->font().letterSpacing(), 1.6, 0.01);
-    EXPECT_EQ(view.captionLabel()->palette().color(QPalette::WindowText).alpha(),
-              qRound(0.55 * 255));
-    EXPECT_EQ(view.countdownLabel()->font().weight(), QFont::DemiBold);
-    EXPECT_EQ(view.quoteLabel()->palette().color(QPalette::WindowText).alpha(), qRound(0.85 * 255));
-    EXPECT_EQ(view.guardianLabel()->palette().color(QPalette::WindowText).alpha(),
-              qRound(0.4 * 255));
-    EXPECT_EQ(view.guardianLabel()->font().weight(), QFont::Medium);
-}
-
-TEST(LockView, LongQuoteWrapsInsideTheCardWidth) {
-    LockScreenState state;
-    Quote longQuote{QString(QStringLiteral("Indeed, prayer has been decreed upon the believers a "
-                                           "decree of specified times. "))
-                        .repeated(6),
-                    QStringLiteral("An-Nisa 4:103"),
-                    {}};
-    LockView view(QStringLiteral("Fajr"), longQuote, &state);
+TEST(LockView, LongQuoteWrapsInsideTheCentredCard) {
+    const Quote longQuote{
+        QString("Indeed, prayer has been decreed upon the believers a decree of specified times. ")
+            .repeated(6),
+        "An-Nisa 4:103",
+        {}};
+    LockView view("Fajr", longQuote, nullptr);
     view.resize(2560, 1000);
     view.show();
-    pump();
+    pump(30);
     EXPECT_LE(view.quoteCard()->width(), 720);
     EXPECT_GT(view.quoteLabel()->height(), view.quoteLabel()->fontMetrics().height() * 2);
-    // Centred horizontally.
-    const QRect card = view.quoteCard()->geometry();
-    EXPECT_NEAR(card.center().x(), view.width() / 2, 2);
+    EXPECT_NEAR(view.quoteCard()->geometry().center().x(), view.width() / 2, 2);
 }
 
-TEST(LockView, AuroraGlowsSitWhereThePaletteSays) {
-    LockScreenState state;
-    LockView view(QStringLiteral("Isha"), shortQuote, &state);
-    view.resize(1000, 600);
-    const QImage image = view.grab().toImage();
-    const QColor topLeft = image.pixelColor(100, 30); // the green glow's centre
-    const QColor bottom = image.pixelColor(500, 595); // the gold glow's centre
-    const QColor corner = image.pixelColor(999, 599); // far from every glow centre
-    EXPECT_GT(topLeft.green(), topLeft.red() + 40);
-    EXPECT_GT(bottom.red(), bottom.blue() + 40);
-    EXPECT_GT(bottom.green(), bottom.blue() + 20);
-    EXPECT_LT(corner.value(), topLeft.value());
-    EXPECT_LT(corner.value(), 110); // a dark screen
-}
-
-TEST(LockWindows, OneWindowPerScreenCoveringItAndRebuiltInPlace) {
+TEST(LockWindows, OnePerScreenFollowingTheStateRebuiltInPlaceWithKeysReachingTheCore) {
     ASSERT_EQ(QGuiApplication::screens().size(), 2);
-    LockScreenState state;
-    KeyLog log;
-    LockWindows lock;
-    lock.setKeyHandler(log.handler());
+    struct Events : PlatformEvents {
+        QList<std::pair<LockKey, QString>> keys;
+        void launchFinished() override {}
+        void tick() override {}
+        void lockKey(LockKey key, const QString& text) override { keys.append({key, text}); }
+        void screensChanged() override {}
+        void showSettingsRequested() override {}
+        void poweringOff() override {}
+        void terminateRequested() override {}
+    } events;
+    QtPlatform platform;
+    platform.setEvents(&events);
+    const LockWindows& lock = platform.lockWindows();
     qint64 coveredAfter = -1;
     QObject::connect(&lock, &LockWindows::covered, [&](qint64 ms) { coveredAfter = ms; });
-
-    lock.show({{QStringLiteral("Dhuhr"), shortQuote},
-               {QStringLiteral("Dhuhr"), Quote{QStringLiteral("Second"), QStringLiteral("S"), {}}}},
-              &state);
+    LockScreenState state;
+    state.setCountdown("Screen unlocks in 4:59");
+    platform.showLockWindows({{"Jumu'ah", shortQuote}, {"Jumu'ah", Quote{"Second", "S", {}}}},
+                             &state);
     ASSERT_EQ(lock.windows().size(), 2);
+    const Qt::WindowFlags above =
+        Qt::WindowStaysOnTopHint | Qt::X11BypassWindowManagerHint | Qt::FramelessWindowHint;
     for (int i = 0; i < 2; ++i) {
-        LockWindow* w = lock.windows().at(i);
+        const LockWindow* w = lock.windows().at(i);
         EXPECT_TRUE(w->isVisible());
         EXPECT_EQ(w->geometry(), QGuiApplication::screens().at(i)->geometry());
-        EXPECT_TRUE(w->windowFlags() & Qt::WindowStaysOnTopHint);
-        EXPECT_TRUE(w->windowFlags() & Qt::X11BypassWindowManagerHint);
-        EXPECT_TRUE(w->windowFlags() & Qt::FramelessWindowHint);
+        EXPECT_EQ(w->windowFlags() & above, above);
     }
-    EXPECT_EQ(lock.windows().at(1)->view()->quoteLabel()->text(), QStringLiteral("“Second”"));
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BlankCursor);
     pump(100);
     EXPECT_GE(coveredAfter, 0);
 
-    // Rebuilding (a screen change) replaces the windows; the lock stays up throughout.
+    // Each view names the prayer and shows its screen's quote; the countdown and the guardian
+    // line follow the shared state, and no guardian means no line at all.
+    const LockView* left = lock.windows().at(0)->view();
+    const LockView* right = lock.windows().at(1)->view();
+    EXPECT_EQ(left->captionLabel()->text(), "IT'S TIME FOR");
+    EXPECT_EQ(LockView("Test", shortQuote, nullptr).captionLabel()->text(), "PREVIEW");
+    EXPECT_EQ(right->nameLabel()->text(), "Jumu'ah");
+    // Design sizes are pixels: 104 px is 78 pt at Qt's reference 96 dpi.
+    EXPECT_DOUBLE_EQ(right->nameLabel()->font().pointSizeF(), 78.0);
+    EXPECT_EQ(left->quoteLabel()->text(), "“Prayer is better than sleep.”");
+    EXPECT_EQ(right->quoteLabel()->text(), "“Second”");
+    EXPECT_EQ(right->countdownLabel()->text(), "Screen unlocks in 4:59");
+    state.setCountdown("Screen unlocks in 4:58");
+    EXPECT_EQ(left->countdownLabel()->text(), "Screen unlocks in 4:58");
+    EXPECT_EQ(right->countdownLabel()->text(), "Screen unlocks in 4:58");
+    EXPECT_FALSE(right->guardianLabel()->isVisible());
+    state.setGuardian("● ● ○ ○ ○ ○");
+    EXPECT_TRUE(right->guardianLabel()->isVisible());
+
+    // A screen change rebuilds the windows; the lock and the digits typed so far stay.
     const QList<LockWindow*> before = lock.windows();
-    lock.show({{QStringLiteral("Dhuhr"), shortQuote}}, &state);
+    platform.showLockWindows({{"Jumu'ah", shortQuote}}, &state);
     ASSERT_EQ(lock.windows().size(), 2); // one entry still covers both screens
     for (LockWindow* w : before)
         EXPECT_FALSE(lock.windows().contains(w));
-    EXPECT_EQ(lock.windows().at(1)->view()->nameLabel()->text(), QStringLiteral("Dhuhr"));
+    const QLabel* guardian = lock.windows().at(1)->view()->guardianLabel();
+    EXPECT_EQ(guardian->text(), "● ● ○ ○ ○ ○");
+    EXPECT_TRUE(guardian->isVisible());
+    state.setGuardian({});
+    EXPECT_FALSE(guardian->isVisible());
     EXPECT_TRUE(lock.up());
 
-    // Keys on any window reach the handler; closing is refused.
-    press(lock.windows().at(1), Qt::Key_4, {}, QStringLiteral("4"));
-    press(lock.windows().at(0), Qt::Key_Escape, {}, QStringLiteral("\x1b"));
-    press(lock.windows().at(0), Qt::Key_Right);
-    ASSERT_EQ(log.keys.size(), 2);
-    EXPECT_EQ(log.keys.at(0), std::make_pair(LockKey::Other, QStringLiteral("4")));
-    EXPECT_EQ(log.keys.at(1).first, LockKey::Escape);
+    // Keys on either window reach the core as the guardian entry takes them; closing is refused.
+    for (auto [window, key, text] : {std::tuple{1, Qt::Key_3, "3"}, {0, Qt::Key_Escape, "\x1b"}}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(lock.windows().at(window), &event);
+    }
+    EXPECT_EQ(events.keys,
+              (QList<std::pair<LockKey, QString>>{{LockKey::Other, "3"}, {LockKey::Escape, {}}}));
     EXPECT_FALSE(lock.windows().at(0)->close());
     EXPECT_TRUE(lock.windows().at(0)->isVisible());
 
-    lock.raise(true);
-    lock.close();
+    platform.raiseLockWindows(true);
+    platform.closeLockWindows();
     EXPECT_FALSE(lock.up());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-    pump();
+    pump(30);
     for (QWidget* w : QApplication::topLevelWidgets())
         EXPECT_FALSE(w->isVisible() && qobject_cast<LockWindow*>(w));
 }

@@ -1,54 +1,49 @@
-// Display check, termination signals, sounds and the platform's event-loop services.
+// Display check, termination signals, sounds, alerts and the platform's event-loop services.
+#include "DesktopTest.h"
 #include "desktop/Dialogs.h"
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemEvents.h"
-#include "lock/LockScreenState.h"
 #include "records/Log.h"
-#include "support/TestEnv.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QDateEdit>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QKeyEvent>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <csignal>
 #include <gtest/gtest.h>
 
 using namespace tarvanel;
-
-namespace {
-void pumpUntil(const std::function<bool()>& done, int ms = 2000) {
-    QElapsedTimer t;
-    t.start();
-    while (!done() && t.elapsed() < ms)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-}
-QProcessEnvironment env(std::initializer_list<std::pair<const char*, const char*>> vars) {
-    QProcessEnvironment e;
-    for (const auto& [k, v] : vars)
-        e.insert(QString::fromLatin1(k), QString::fromLatin1(v));
-    return e;
-}
-} // namespace
+using test::waitFor;
 
 TEST(DisplayCheck, HeadlessPlatformsNeedNoServerAndMissingServersAreNamed) {
-    EXPECT_FALSE(displayProblem(env({{"QT_QPA_PLATFORM", "offscreen"}})));
-    EXPECT_FALSE(displayProblem(env({{"QT_QPA_PLATFORM", "offscreen:configfile=/x.json"}})));
-    EXPECT_EQ(displayProblem(env({})), QStringLiteral("DISPLAY is not set"));
-    EXPECT_EQ(displayProblem(env({{"QT_QPA_PLATFORM", "xcb"}, {"DISPLAY", ""}})),
-              QStringLiteral("DISPLAY is not set"));
-    const auto unreachable = displayProblem(env({{"DISPLAY", ":987"}}));
-    ASSERT_TRUE(unreachable);
-    EXPECT_TRUE(unreachable->contains(QStringLiteral(":987")));
     QTemporaryDir runtime;
-    const auto noWayland =
-        displayProblem(env({{"QT_QPA_PLATFORM", "wayland"},
-                            {"WAYLAND_DISPLAY", "wayland-9"},
-                            {"XDG_RUNTIME_DIR", runtime.path().toLocal8Bit().constData()}}));
-    ASSERT_TRUE(noWayland);
-    EXPECT_TRUE(noWayland->contains(QStringLiteral("wayland-9")));
+    const QList<std::pair<QStringList, QString>> cases = {
+        {{"QT_QPA_PLATFORM=offscreen"}, {}},
+        {{"QT_QPA_PLATFORM=offscreen:configfile=/x.json"}, {}},
+        {{}, "DISPLAY is not set"},
+        {{"QT_QPA_PLATFORM=xcb", "DISPLAY="}, "DISPLAY is not set"},
+        {{"DISPLAY=:987"}, "cannot connect to X display :987"},
+        {{"QT_QPA_PLATFORM=wayland", "WAYLAND_DISPLAY=wayland-9",
+          "XDG_RUNTIME_DIR=" + runtime.path()},
+         "wayland-9"},
+    };
+    for (const auto& [vars, problem] : cases) {
+        SCOPED_TRACE(vars.join(' ').toStdString());
+        QProcessEnvironment env;
+        for (const QString& var : vars)
+            env.insert(var.section('=', 0, 0), var.section('=', 1));
+        const auto got = displayProblem(env);
+        ASSERT_EQ(got.has_value(), !problem.isEmpty());
+        if (got) {
+            EXPECT_TRUE(got->contains(problem)) << got->toStdString();
+        }
+    }
 }
 
 TEST(SystemEvents, TerminationSignalsArriveOnTheEventLoop) {
@@ -59,42 +54,31 @@ TEST(SystemEvents, TerminationSignalsArriveOnTheEventLoop) {
                      [&](int number) { received << number; });
     ::raise(SIGHUP);
     EXPECT_TRUE(received.isEmpty()); // not inside the handler
-    pumpUntil([&] { return !received.isEmpty(); });
+    waitFor([&] { return !received.isEmpty(); }, 2000);
     ::raise(SIGTERM);
     ::raise(SIGINT);
-    pumpUntil([&] { return received.size() == 3; });
+    waitFor([&] { return received.size() == 3; }, 2000);
     EXPECT_EQ(received, (QList<int>{SIGHUP, SIGTERM, SIGINT}));
 }
 
-TEST(Sounds, NamedSoundsComeFromTheFreedesktopTheme) {
-    EXPECT_EQ(soundThemeEvent(QStringLiteral("Blow")), QStringLiteral("alarm-clock-elapsed"));
-    EXPECT_EQ(soundThemeEvent(QStringLiteral("Glass")), QStringLiteral("complete"));
-    EXPECT_EQ(soundThemeEvent(QStringLiteral("Sosumi")), QStringLiteral("dialog-warning"));
-    EXPECT_FALSE(soundThemeEvent(QStringLiteral("Ping")));
-
+TEST(Sounds, ThemeSoundsAreFoundAndOnlyAudioPlaysWithoutHangingOnAMissingDevice) {
+    EXPECT_EQ(soundThemeEvent("Glass"), "complete");
+    EXPECT_FALSE(soundThemeEvent("Ping"));
     QTemporaryDir first, second;
-    QDir().mkpath(second.path() + QStringLiteral("/sounds/freedesktop/stereo"));
-    QFile f(second.path() + QStringLiteral("/sounds/freedesktop/stereo/complete.oga"));
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.close();
-    EXPECT_EQ(soundThemeFile(QStringLiteral("complete"), {first.path(), second.path()}),
-              f.fileName());
-    EXPECT_FALSE(soundThemeFile(QStringLiteral("dialog-warning"), {first.path(), second.path()}));
-}
+    QDir().mkpath(second.path() + "/sounds/freedesktop/stereo");
+    QFile theme(second.path() + "/sounds/freedesktop/stereo/complete.oga");
+    ASSERT_TRUE(theme.open(QIODevice::WriteOnly));
+    theme.close();
+    EXPECT_EQ(soundThemeFile("complete", {first.path(), second.path()}), theme.fileName());
+    EXPECT_FALSE(soundThemeFile("dialog-warning", {first.path(), second.path()}));
 
-TEST(Sounds, OnlyAudioFilesAreAcceptedAndNothingHangsWithoutADevice) {
-    QTemporaryDir dir;
-    const QString fake = dir.filePath(QStringLiteral("adhan.mp3"));
+    const QString fake = first.filePath("adhan.mp3");
     QFile f(fake);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("this is not a sound at all, just words\n");
     f.close();
     EXPECT_FALSE(looksLikeAudio(fake));
-    EXPECT_FALSE(looksLikeAudio(dir.filePath(QStringLiteral("missing.wav"))));
-    const QString real = QStringLiteral("/usr/share/sounds/freedesktop/stereo/complete.oga");
-    if (QFile::exists(real)) {
-        EXPECT_TRUE(looksLikeAudio(real));
-    }
+    EXPECT_FALSE(looksLikeAudio(first.filePath("missing.wav")));
 
     QStringList lines;
     setLogSink([&](const QString& line) { lines << line; });
@@ -102,26 +86,79 @@ TEST(Sounds, OnlyAudioFilesAreAcceptedAndNothingHangsWithoutADevice) {
     EXPECT_FALSE(sounds.playFile(fake));
     QElapsedTimer t;
     t.start();
-    sounds.playNamed(QStringLiteral("Glass"));
-    sounds.playNamed(QStringLiteral("Blow"));
-    sounds.playNamed(QStringLiteral("Unknown"));
+    sounds.playNamed("Glass");
+    sounds.playNamed("Blow");
+    sounds.playNamed("Unknown");
+    const QString real = "/usr/share/sounds/freedesktop/stereo/complete.oga";
     if (QFile::exists(real)) {
+        EXPECT_TRUE(looksLikeAudio(real));
         EXPECT_TRUE(sounds.playFile(real));
     }
-    pumpUntil([] { return false; }, 200);
+    test::pump(200);
     EXPECT_LT(t.elapsed(), 2000);
     // Whatever the machine has, at most one line about a missing device.
-    EXPECT_LE(lines.filter(QStringLiteral("no sound device")).size(), 1);
+    EXPECT_LE(lines.filter("no sound device").size(), 1);
     setLogSink(nullptr);
 }
 
-TEST(QtPlatform, EventLoopServicesAndTheSettingsNote) {
+namespace {
+// Runs the dialog; `answer` is given as soon as it is up.
+int runAnswered(QDialog& dialog, const std::function<void()>& answer) {
+    QTimer::singleShot(0, &dialog, answer);
+    return dialog.exec();
+}
+} // namespace
+
+TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxAndTheAnswers) {
+    const AlertRequest request{"Uninstall Tarvanel?",
+                               "Your prayer times stop locking the screen.",
+                               {"Uninstall", "Cancel", "Later"},
+                               "Also delete my data",
+                               true};
+    auto box = buildAlert(request);
+    box->show();
+    QList<QAbstractButton*> buttons = box->buttons(); // sorted as laid out, left to right
+    std::sort(buttons.begin(), buttons.end(), [&](QAbstractButton* a, QAbstractButton* b) {
+        return a->mapTo(box.get(), QPoint()).x() < b->mapTo(box.get(), QPoint()).x();
+    });
+    ASSERT_EQ(buttons.size(), 3);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(buttons[i]->text(), request.buttons[i]);
+    EXPECT_EQ(box->defaultButton(), buttons[0]);
+    ASSERT_NE(box->checkBox(), nullptr);
+    EXPECT_FALSE(box->checkBox()->isChecked());
+
+    for (int i : {1, 0, 2}) {
+        box->checkBox()->setChecked(i == 2);
+        runAnswered(*box, [b = buttons[i]] { b->click(); });
+        EXPECT_EQ(alertAnswer(*box).response, 1000 + i);
+        EXPECT_EQ(alertAnswer(*box).checkBoxOn, i == 2);
+    }
+    // Escape answers with the last button, never with the first.
+    runAnswered(*box, [&] { box->reject(); });
+    EXPECT_EQ(alertAnswer(*box).response, 1002);
+    box->hide();
+}
+
+TEST(DateQuestion, NeverEarlierThanTheMinimum) {
+    const QDate minimum(2026, 3, 10);
+    DateQuestion question({"When did you pray?", {}, {"Save", "Cancel"}, {}, false}, minimum,
+                          QDate(2026, 3, 1));
+    EXPECT_EQ(question.dateEdit()->date(), minimum);
+    question.dateEdit()->setDate(QDate(2026, 2, 1));
+    EXPECT_EQ(question.dateEdit()->date(), minimum);
+    ASSERT_EQ(question.buttons().size(), 2);
+    EXPECT_EQ(runAnswered(question, [&] { question.buttons()[1]->click(); }), QDialog::Rejected);
+    EXPECT_EQ(runAnswered(question, [&] { question.buttons()[0]->click(); }), QDialog::Accepted);
+}
+
+TEST(QtPlatform, EventLoopServicesAndOneSettingsNote) {
     QtPlatform platform;
     QStringList order;
-    platform.post([&] { order << QStringLiteral("posted"); });
-    platform.singleShot(50, [&] { order << QStringLiteral("later"); });
-    order << QStringLiteral("now");
-    pumpUntil([&] { return order.size() == 3; });
+    platform.post([&] { order << "posted"; });
+    platform.singleShot(50, [&] { order << "later"; });
+    order << "now";
+    waitFor([&] { return order.size() == 3; }, 2000);
     EXPECT_EQ(order, (QStringList{"now", "posted", "later"}));
 
     EXPECT_EQ(platform.screenCount(), 2);
@@ -129,33 +166,12 @@ TEST(QtPlatform, EventLoopServicesAndTheSettingsNote) {
     platform.openSettingsWindow(false);
     EXPECT_TRUE(platform.settingsWindowOpen());
     platform.openSettingsWindow(true); // replaces, never stacks
-    pumpUntil([] { return false; }, 20);
-    int notes = 0;
-    for (QWidget* w : QApplication::topLevelWidgets())
-        notes += qobject_cast<SettingsNote*>(w) && w->isVisible();
-    EXPECT_EQ(notes, 1);
-}
-
-TEST(QtPlatform, LockKeysAndScreenChangesReachTheCore) {
-    struct Events : PlatformEvents {
-        QList<std::pair<LockKey, QString>> keys;
-        void launchFinished() override {}
-        void tick() override {}
-        void lockKey(LockKey key, const QString& text) override { keys.append({key, text}); }
-        void screensChanged() override {}
-        void showSettingsRequested() override {}
-        void poweringOff() override {}
-        void terminateRequested() override {}
-    } events;
-    QtPlatform platform;
-    platform.setEvents(&events);
-    LockScreenState state;
-    platform.showLockWindows({{QStringLiteral("Test"), Quote{}}}, &state);
-    ASSERT_EQ(platform.lockWindows().windows().size(), 2);
-    QKeyEvent key(QEvent::KeyPress, Qt::Key_3, Qt::KeypadModifier, QStringLiteral("3"));
-    QCoreApplication::sendEvent(platform.lockWindows().windows().last(), &key);
-    ASSERT_EQ(events.keys.size(), 1);
-    EXPECT_EQ(events.keys.first().second, QStringLiteral("3"));
-    platform.closeLockWindows();
-    EXPECT_FALSE(platform.lockWindows().up());
+    test::pump(20);
+    QList<QWidget*> notes = QApplication::topLevelWidgets();
+    notes.removeIf([](QWidget* w) { return !qobject_cast<SettingsNote*>(w) || !w->isVisible(); });
+    ASSERT_EQ(notes.size(), 1);
+    EXPECT_EQ(notes[0]->windowTitle(), "Welcome to Tarvanel");
+    const QString text = SettingsNote::text("/home/u/.tarvanel/config.json");
+    EXPECT_TRUE(text.contains("/home/u/.tarvanel/config.json"));
+    EXPECT_FALSE(text.contains('\n'));
 }

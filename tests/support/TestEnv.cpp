@@ -26,6 +26,17 @@ void wipeScratchHome() {
     QDir().mkpath(scratchHome() + QStringLiteral("/.local/share"));
 }
 
+void useScratchHome() {
+    wipeScratchHome();
+    const QByteArray home = scratchHome().toUtf8();
+    qputenv("HOME", home);
+    qputenv("XDG_CONFIG_HOME", home + "/.config");
+    qputenv("XDG_DATA_HOME", home + "/.local/share");
+    qunsetenv("TARVANEL_AGENT");
+    qputenv("LC_ALL", "C");
+    setHomeDirForTesting(scratchHome());
+}
+
 void setTimeZone(const char* zone) {
     qputenv("TZ", zone);
     resetLocalTimeZone();

@@ -20,6 +20,9 @@ namespace tarvanel::test {
 
 // The scratch home of this process (HOME, XDG_CONFIG_HOME and XDG_DATA_HOME live inside it).
 QString scratchHome();
+// Points every per-user path of this process (HOME, XDG folders) at a fresh scratch home and
+// sets LC_ALL=C; a test main calls it first, before anything computes a path.
+void useScratchHome();
 // Removes everything under the scratch home; the next test starts with no ~/.tarvanel.
 void wipeScratchHome();
 // Switches TZ for this process (C library and Qt alike).

@@ -122,6 +122,20 @@ QList<DaySimulator::Event> DaySimulator::eventsStarting(const QString& prefix) c
     return out;
 }
 
+QStringList DaySimulator::whats(const QString& prefix) const {
+    QStringList out;
+    for (const Event& e : eventsStarting(prefix))
+        out << e.what;
+    return out;
+}
+
+QStringList DaySimulator::times(const QString& prefix) const {
+    QStringList out;
+    for (const Event& e : eventsStarting(prefix))
+        out << localText(e.at).mid(11, 8);
+    return out;
+}
+
 QStringList DaySimulator::logsContaining(const QString& part) const {
     QStringList out;
     for (const QString& line : logs)

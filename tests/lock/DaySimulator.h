@@ -61,8 +61,10 @@ public:
     // Ends this controller and starts a new one at the current instant (a restart).
     void restart(const CommandLine& cl = {});
 
-    // Events whose text starts with `prefix`.
+    // Events whose text starts with `prefix`; their texts; their local times as "HH:mm:ss".
     QList<Event> eventsStarting(const QString& prefix) const;
+    QStringList whats(const QString& prefix) const;
+    QStringList times(const QString& prefix) const;
     QStringList logsContaining(const QString& part) const;
 
 private:
@@ -71,6 +73,16 @@ private:
 
     qsizetype seenBanners_ = 0, seenShows_ = 0, seenCloses_ = 0, seenAlerts_ = 0;
     bool seenExit_ = false;
+};
+
+// Fixture: a scratch home and Wednesday 14 January 2026 in London, an ordinary winter weekday.
+class SimTest : public ScratchTest {
+protected:
+    static inline const QDate kDay{2026, 1, 14};
+    static inline const QDate kFriday{2026, 1, 16};
+    static QDateTime at(const QString& time, const QDate& date = kDay) {
+        return localAt(date, time);
+    }
 };
 
 } // namespace tarvanel::test

@@ -136,6 +136,13 @@ QStringList DaySimulator::times(const QString& prefix) const {
     return out;
 }
 
+QStringList DaySimulator::timeline(const QString& prefix) const {
+    QStringList out;
+    for (const Event& e : eventsStarting(prefix))
+        out << localText(e.at).mid(11, 8) + QLatin1Char(' ') + e.what;
+    return out;
+}
+
 QStringList DaySimulator::logsContaining(const QString& part) const {
     QStringList out;
     for (const QString& line : logs)

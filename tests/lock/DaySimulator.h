@@ -61,10 +61,12 @@ public:
     // Ends this controller and starts a new one at the current instant (a restart).
     void restart(const CommandLine& cl = {});
 
-    // Events whose text starts with `prefix`; their texts; their local times as "HH:mm:ss".
+    // Events whose text starts with `prefix`: their texts, their local times ("HH:mm:ss"), and
+    // both ("HH:mm:ss text").
     QList<Event> eventsStarting(const QString& prefix) const;
     QStringList whats(const QString& prefix) const;
     QStringList times(const QString& prefix) const;
+    QStringList timeline(const QString& prefix = {}) const;
     QStringList logsContaining(const QString& part) const;
 
 private:

@@ -59,35 +59,34 @@ TEST_F(LockSessionTest, ClockJumpingDaysAheadEndsTheLockAndStartsAFreshDay) {
     EXPECT_EQ(sim.eventsStarting("lock:").size(), 2);
 }
 
+const QString kPrompt = "Emergency? Type your guardian's 6-digit code";
+
 TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     const QByteArray secret = Guardian::newSecret();
     Guardian::save(secret);
     Guardian::resetFailuresForTesting();
     DaySimulator sim(fixedTimesConfig(), at("12:55"));
     sim.launch();
-    LockScreenState* state = sim.app->lockState();
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    const LockScreenState* state = sim.app->lockState();
+    auto type = [&](LockKey key, const QString& text, const QString& shown) {
+        sim.app->lockKey(key, text);
+        EXPECT_EQ(state->guardian(), shown) << text.toStdString();
+    };
+    EXPECT_EQ(state->guardian(), kPrompt);
     EXPECT_EQ(sim.platform.raises, 0);
     sim.step();
     EXPECT_EQ(sim.platform.raises, 1);
-
-    sim.app->lockKey(LockKey::Backspace, {});
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
-    sim.app->lockKey(LockKey::Other, "1a2");
-    EXPECT_EQ(state->guardian(), "● ● ○ ○ ○ ○");
-    sim.app->lockKey(LockKey::Backspace, {});
-    EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
-    sim.app->lockKey(LockKey::Escape, {});
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    type(LockKey::Backspace, {}, kPrompt);
+    type(LockKey::Other, "1a2", "● ● ○ ○ ○ ○");
+    type(LockKey::Backspace, {}, "● ○ ○ ○ ○ ○");
+    type(LockKey::Escape, {}, kPrompt);
 
     // A wrong code (one that cannot be the current one), then a digit clears the message.
     const QString good = Guardian::code(secret, sim.now);
     QString wrong = good;
     wrong[0] = QChar('0' + (good[0].digitValue() + 5) % 10);
-    sim.app->lockKey(LockKey::Other, wrong);
-    EXPECT_EQ(state->guardian(), "That code didn't work");
-    sim.app->lockKey(LockKey::Other, "7");
-    EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
+    type(LockKey::Other, wrong, "That code didn't work");
+    type(LockKey::Other, "7", "● ○ ○ ○ ○ ○");
 
     // Screens change: the windows are rebuilt and the typed digit survives.
     sim.platform.screens = 2;
@@ -96,11 +95,11 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     EXPECT_EQ(sim.platform.lockShows.last().size(), 2);
     EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
 
+    // The right code ends the lock early: done for today, but not prayed.
     sim.app->lockKey(LockKey::Escape, {});
-    sim.app->lockKey(LockKey::Other, Guardian::code(secret, sim.now) + "99");
+    type(LockKey::Other, Guardian::code(secret, sim.now) + "99", {});
     EXPECT_FALSE(sim.app->isLocked());
     EXPECT_FALSE(sim.platform.lockWindowsUp);
-    EXPECT_TRUE(state->guardian().isEmpty());
     EXPECT_TRUE(sim.logs.contains("Tarvanel: Dhuhr lock ended early with the guardian code"));
     EXPECT_TRUE(sim.app->completedLocks().contains("2026-01-14-Dhuhr"));
     EXPECT_TRUE(loadHistory().isEmpty());
@@ -111,13 +110,11 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
 TEST_F(LockSessionTest, WithoutAGuardianDigitsDoNothing) {
     DaySimulator sim(fixedTimesConfig(), at("12:55"));
     sim.launch();
-    LockScreenState* state = sim.app->lockState();
-    EXPECT_TRUE(state->guardian().isEmpty());
+    EXPECT_TRUE(sim.app->lockState()->guardian().isEmpty());
     sim.app->lockKey(LockKey::Escape, {});
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
     sim.app->lockKey(LockKey::Other, "123456");
     EXPECT_TRUE(sim.app->isLocked());
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    EXPECT_EQ(sim.app->lockState()->guardian(), kPrompt);
 }
 
 TEST_F(LockSessionTest, PreviewLocksTenSecondsAndRecordsNothing) {
@@ -243,10 +240,7 @@ TEST_F(LockSessionTest, TerminationUnderTheAgentAsksForARestart) {
 
 TEST_F(LockSessionTest, ReplacedProgramRestartsUnlessSettingsAreOpen) {
     const QString exe = scratchHome() + "/tarvanel-exe";
-    QFile f(exe);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("v1");
-    f.close();
+    writeFile(exe, "v1");
     setExecutablePathForTesting(exe);
     qputenv("TARVANEL_AGENT", "com.velmora.tarvanel");
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
@@ -254,9 +248,8 @@ TEST_F(LockSessionTest, ReplacedProgramRestartsUnlessSettingsAreOpen) {
     sim.step();
     EXPECT_FALSE(sim.platform.exitStatus.has_value());
 
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly)); // rewritten in place: a new modification time
-    f.write("v2");
-    f.flush();
+    QFile f(exe); // rewritten in place: a new modification time
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
     ASSERT_TRUE(f.setFileTime(QDateTime::currentDateTimeUtc().addSecs(60),
                               QFileDevice::FileModificationTime));
     f.close();

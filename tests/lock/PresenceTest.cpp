@@ -25,12 +25,7 @@ protected:
         Presence::roots() = saved;
         ScratchTest::TearDown();
     }
-    void file(const QString& path, const QByteArray& bytes) {
-        QDir().mkpath(QFileInfo(root + path).absolutePath());
-        QFile f(root + path);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
-    }
+    void file(const QString& path, const QByteArray& bytes) { writeFile(root + path, bytes, true); }
     void link(const QString& path, const QString& target) {
         QDir().mkpath(QFileInfo(root + path).absolutePath());
         ASSERT_TRUE(QFile::link(target, root + path));
@@ -59,10 +54,8 @@ TEST_F(PresenceTest, DevicesInUseMeanACall) {
 }
 
 TEST_F(PresenceTest, SoundServerAnswerWinsOverDevices) {
-    const QString tool = root + "/pactl";
     file("/pactl", "#!/bin/sh\necho '7\t1\t12\tprotocol-native.c\ts16le 1ch 48000Hz'\n");
-    QFile(tool).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    Presence::roots().soundServerTool = tool;
+    Presence::roots().soundServerTool = root + "/pactl";
     EXPECT_TRUE(Presence::micInUse());
 
     file("/pactl", "#!/bin/sh\nexit 0\n");

@@ -3,7 +3,6 @@
 
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
-#include "records/UserDefaults.h"
 #include "support/TestEnv.h"
 
 using namespace tarvanel;
@@ -11,14 +10,7 @@ using namespace tarvanel::test;
 
 namespace {
 
-const QDate kDay(2026, 1, 14);
-
-class StatusTitleTest : public ScratchTest {
-protected:
-    static QDateTime at(const QString& time, const QDate& date = kDay) {
-        return localAt(date, time);
-    }
-};
+using StatusTitleTest = SimTest;
 
 TEST_F(StatusTitleTest, CountdownAndColourByMinutesToTheLockStart) {
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
@@ -56,15 +48,6 @@ TEST_F(StatusTitleTest, APrayerAtThisVeryInstantIsNotNext) {
     EXPECT_EQ(sim.platform.title, "🕌 Maghrib in 1h 30m");
 }
 
-TEST_F(StatusTitleTest, TitlesWhileLockedAndAfterTheLastPrayer) {
-    DaySimulator sim(fixedTimesConfig(), at("18:25"));
-    sim.launch();
-    EXPECT_EQ(sim.platform.title, "🕌 Isha");
-    EXPECT_EQ(sim.platform.titleColor, TitleColor::Label);
-    sim.runUntil(at("18:40"));
-    EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
-}
-
 // The evening title comes from a cache; at every tick it must equal what the rule gives when
 // tomorrow is computed afresh, across a settings change and the eve of a clock change.
 TEST_F(StatusTitleTest, CachedFajrTitleMatchesTheRuleEverySecond) {
@@ -92,21 +75,6 @@ TEST_F(StatusTitleTest, CachedFajrTitleMatchesTheRuleEverySecond) {
     });
     // Before 23:00 "now + 24 h" is Sunday; after it, Monday.
     EXPECT_EQ(seen.size(), 2);
-}
-
-TEST_F(StatusTitleTest, TravelCombinedNameAndRamadanIftar) {
-    Config cfg = fixedTimesConfig();
-    cfg.combineWhenTravelling = true;
-    UserDefaults().setTravellingUntil(at("12:00").addDays(2));
-    DaySimulator sim(cfg, at("12:00"));
-    sim.launch();
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
-    sim.sleepUntil(at("16:00"));
-    sim.step();
-    EXPECT_EQ(sim.platform.title, "🕌 Maghrib & Isha in 29m");
-    sim.sleepUntil(at("16:40"));
-    sim.step();
-    EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
 }
 
 } // namespace

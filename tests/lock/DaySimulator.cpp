@@ -122,24 +122,12 @@ QList<DaySimulator::Event> DaySimulator::eventsStarting(const QString& prefix) c
     return out;
 }
 
-QStringList DaySimulator::whats(const QString& prefix) const {
+QStringList DaySimulator::listed(const QString& prefix, bool time, bool what) const {
     QStringList out;
-    for (const Event& e : eventsStarting(prefix))
-        out << e.what;
-    return out;
-}
-
-QStringList DaySimulator::times(const QString& prefix) const {
-    QStringList out;
-    for (const Event& e : eventsStarting(prefix))
-        out << localText(e.at).mid(11, 8);
-    return out;
-}
-
-QStringList DaySimulator::timeline(const QString& prefix) const {
-    QStringList out;
-    for (const Event& e : eventsStarting(prefix))
-        out << localText(e.at).mid(11, 8) + QLatin1Char(' ') + e.what;
+    for (const Event& e : eventsStarting(prefix)) {
+        const QString at = localText(e.at).mid(11, 8);
+        out << (time && what ? at + QLatin1Char(' ') + e.what : time ? at : e.what);
+    }
     return out;
 }
 

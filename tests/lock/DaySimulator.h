@@ -64,13 +64,14 @@ public:
     // Events whose text starts with `prefix`: their texts, their local times ("HH:mm:ss"), and
     // both ("HH:mm:ss text").
     QList<Event> eventsStarting(const QString& prefix) const;
-    QStringList whats(const QString& prefix) const;
-    QStringList times(const QString& prefix) const;
-    QStringList timeline(const QString& prefix = {}) const;
+    QStringList whats(const QString& prefix) const { return listed(prefix, false, true); }
+    QStringList times(const QString& prefix) const { return listed(prefix, true, false); }
+    QStringList timeline(const QString& prefix = {}) const { return listed(prefix, true, true); }
     QStringList logsContaining(const QString& part) const;
 
 private:
     void makeApp(const CommandLine& cl);
+    QStringList listed(const QString& prefix, bool time, bool what) const;
     void record();
 
     qsizetype seenBanners_ = 0, seenShows_ = 0, seenCloses_ = 0, seenAlerts_ = 0;

@@ -12,29 +12,29 @@ namespace {
 
 using StatusTitleTest = SimTest;
 
+// The colour turns exactly 20 and 5 minutes before the lock's start (12:55).
 TEST_F(StatusTitleTest, CountdownAndColourByMinutesToTheLockStart) {
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
     sim.launch();
     EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
     EXPECT_EQ(sim.platform.titleColor, TitleColor::Label);
-    sim.sleepUntil(at("12:36:29"));
-    sim.step(); // 18.5 minutes to the lock's start
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 23m");
-    EXPECT_EQ(sim.platform.titleColor, TitleColor::Orange);
-    sim.sleepUntil(at("12:50:59"));
-    sim.step();
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 9m");
-    EXPECT_EQ(sim.platform.titleColor, TitleColor::Red);
-    // The colour turns exactly 20 and 5 minutes before the lock's start.
-    sim.sleepUntil(at("12:34:59"));
-    sim.step();
-    EXPECT_EQ(sim.platform.titleColor, TitleColor::Orange);
-    sim.sleepUntil(at("12:34:59.999"));
-    sim.step(0.001);
-    EXPECT_EQ(sim.platform.titleColor, TitleColor::Orange);
-    sim.sleepUntil(at("12:34:58"));
-    sim.step();
-    EXPECT_EQ(sim.platform.titleColor, TitleColor::Label);
+    const struct {
+        const char* wake; // the tick comes `step` seconds later
+        double step;
+        const char* title;
+        TitleColor color;
+    } cases[] = {{"12:36:29", 1, "🕌 Dhuhr in 23m", TitleColor::Orange},
+                 {"12:50:59", 1, "🕌 Dhuhr in 9m", TitleColor::Red},
+                 {"12:34:59", 1, "🕌 Dhuhr in 25m", TitleColor::Orange},
+                 {"12:34:59.999", 0.001, "🕌 Dhuhr in 25m", TitleColor::Orange},
+                 {"12:34:58", 1, "🕌 Dhuhr in 25m", TitleColor::Label}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.wake);
+        sim.sleepUntil(at(c.wake));
+        sim.step(c.step);
+        EXPECT_EQ(sim.platform.title, c.title);
+        EXPECT_EQ(sim.platform.titleColor, c.color);
+    }
 }
 
 TEST_F(StatusTitleTest, APrayerAtThisVeryInstantIsNotNext) {

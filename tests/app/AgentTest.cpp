@@ -24,13 +24,12 @@ protected:
     // A systemctl that logs its arguments and exits with `status`.
     QString fakeSystemctl(int status) {
         const QString path = scratchHome() + "/systemctl";
-        QFile f(path);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(QStringLiteral("#!/bin/sh\necho \"$@\" >> %1/calls\nexit %2\n")
-                    .arg(scratchHome())
-                    .arg(status)
-                    .toUtf8());
-        f.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        writeFile(path,
+                  QStringLiteral("#!/bin/sh\necho \"$@\" >> %1/calls\nexit %2\n")
+                      .arg(scratchHome())
+                      .arg(status)
+                      .toUtf8(),
+                  true);
         return path;
     }
     QStringList calls() {
@@ -39,27 +38,19 @@ protected:
     }
 };
 
-TEST_F(AgentTest, LaunchedByAgentOnlyForTheExactLabel) {
-    EXPECT_FALSE(launchedByAgent());
-    qputenv("TARVANEL_AGENT", "com.velmora.tarvanel ");
-    EXPECT_FALSE(launchedByAgent());
-    qputenv("TARVANEL_AGENT", "com.velmora.tarvanel");
-    EXPECT_TRUE(launchedByAgent());
-}
-
 TEST_F(AgentTest, UnitRunsTheExecutableAsTheAgentAndRestartsOnFailure) {
     const QString unit = agentUnitText("/home/u/.local/bin/my tarvanel");
-    EXPECT_TRUE(unit.contains("\nExecStart=\"/home/u/.local/bin/my tarvanel\"\n"));
-    EXPECT_TRUE(unit.contains("\nEnvironment=TARVANEL_AGENT=com.velmora.tarvanel\n"));
-    EXPECT_TRUE(unit.contains("\nRestart=on-failure\nRestartSec=5\n"));
-    EXPECT_TRUE(unit.contains("\nStandardError=append:" + supportPath("log.txt") + "\n"));
-    EXPECT_TRUE(unit.contains("\nWantedBy=graphical-session.target\n"));
+    for (const QString& line : QStringList{
+             "ExecStart=\"/home/u/.local/bin/my tarvanel\"",
+             "Environment=TARVANEL_AGENT=com.velmora.tarvanel", "Restart=on-failure\nRestartSec=5",
+             "StandardError=append:" + supportPath("log.txt"), "WantedBy=graphical-session.target"})
+        EXPECT_TRUE(unit.contains("\n" + line + "\n")) << line.toStdString();
     EXPECT_TRUE(agentUnitPath().endsWith("/systemd/user/com.velmora.tarvanel.service"));
 }
 
-TEST_F(AgentTest, InstallWritesTheUnitAndStartsIt) {
-    setSystemctlForTesting(fakeSystemctl(0));
+TEST_F(AgentTest, InstallWritesTheUnitAndStartsItOrGivesUpAfterTwelveTries) {
     setExecutablePathForTesting("/opt/tarvanel/tarvanel");
+    setSystemctlForTesting(fakeSystemctl(0));
     EXPECT_TRUE(installAgent());
     EXPECT_EQ(QString::fromUtf8(readWholeFile(agentUnitPath()).value_or(QByteArray())),
               agentUnitText("/opt/tarvanel/tarvanel"));
@@ -68,9 +59,8 @@ TEST_F(AgentTest, InstallWritesTheUnitAndStartsIt) {
                                     "--user daemon-reload",
                                     "--user enable --now com.velmora.tarvanel.service"}));
     EXPECT_TRUE(installAgent()); // twice in a row is fine
-}
 
-TEST_F(AgentTest, RefusedInstallGivesUpAfterTwelveTries) {
+    QFile::remove(scratchHome() + "/calls");
     setSystemctlForTesting(fakeSystemctl(1));
     EXPECT_FALSE(installAgent());
     EXPECT_EQ(calls().filter("enable --now").size(), 12);
@@ -115,16 +105,19 @@ TEST_F(AgentTest, OneInstanceAtATime) {
 
 TEST_F(AgentTest, StampChangesWithTheFileAndOnlyTheAgentRestarts) {
     const QString exe = scratchHome() + "/exe";
+    writeFile(exe, {});
     QFile f(exe);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.close();
     setExecutablePathForTesting(exe);
     const auto first = executableStamp();
     ASSERT_TRUE(first.has_value());
     EXPECT_EQ(first->split(':').size(), 3);
     EXPECT_FALSE(appWasReplaced()); // not the agent
 
+    // Only the exact label marks a start by the login service.
+    qputenv("TARVANEL_AGENT", "com.velmora.tarvanel ");
+    EXPECT_FALSE(launchedByAgent());
     qputenv("TARVANEL_AGENT", "com.velmora.tarvanel");
+    EXPECT_TRUE(launchedByAgent());
     EXPECT_FALSE(appWasReplaced()); // first comparison takes the stamp
     ASSERT_TRUE(f.open(QIODevice::ReadWrite));
     ASSERT_TRUE(f.setFileTime(QDateTime::currentDateTimeUtc().addSecs(120),

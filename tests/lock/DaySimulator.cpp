@@ -122,6 +122,15 @@ QList<DaySimulator::Event> DaySimulator::eventsStarting(const QString& prefix) c
     return out;
 }
 
+QStringList DaySimulator::listed(const QString& prefix, bool time, bool what) const {
+    QStringList out;
+    for (const Event& e : eventsStarting(prefix)) {
+        const QString at = localText(e.at).mid(11, 8);
+        out << (time && what ? at + QLatin1Char(' ') + e.what : time ? at : e.what);
+    }
+    return out;
+}
+
 QStringList DaySimulator::logsContaining(const QString& part) const {
     QStringList out;
     for (const QString& line : logs)

@@ -61,16 +61,31 @@ public:
     // Ends this controller and starts a new one at the current instant (a restart).
     void restart(const CommandLine& cl = {});
 
-    // Events whose text starts with `prefix`.
+    // Events whose text starts with `prefix`: their texts, their local times ("HH:mm:ss"), and
+    // both ("HH:mm:ss text").
     QList<Event> eventsStarting(const QString& prefix) const;
+    QStringList whats(const QString& prefix) const { return listed(prefix, false, true); }
+    QStringList times(const QString& prefix) const { return listed(prefix, true, false); }
+    QStringList timeline(const QString& prefix = {}) const { return listed(prefix, true, true); }
     QStringList logsContaining(const QString& part) const;
 
 private:
     void makeApp(const CommandLine& cl);
+    QStringList listed(const QString& prefix, bool time, bool what) const;
     void record();
 
     qsizetype seenBanners_ = 0, seenShows_ = 0, seenCloses_ = 0, seenAlerts_ = 0;
     bool seenExit_ = false;
+};
+
+// Fixture: a scratch home and Wednesday 14 January 2026 in London, an ordinary winter weekday.
+class SimTest : public ScratchTest {
+protected:
+    static inline const QDate kDay{2026, 1, 14};
+    static inline const QDate kFriday{2026, 1, 16};
+    static QDateTime at(const QString& time, const QDate& date = kDay) {
+        return localAt(date, time);
+    }
 };
 
 } // namespace tarvanel::test

@@ -5,7 +5,6 @@
 #include "guardian/Guardian.h"
 #include "records/History.h"
 #include "records/StateFiles.h"
-#include "support/TestEnv.h"
 
 #include <QFile>
 #include <fcntl.h>
@@ -17,12 +16,7 @@ using namespace tarvanel::test;
 
 namespace {
 
-const QDate kDay(2026, 1, 14);
-
-class LockSessionTest : public ScratchTest {
-protected:
-    static QDateTime at(const QString& time) { return localAt(kDay, time); }
-};
+using LockSessionTest = SimTest;
 
 TEST_F(LockSessionTest, ASecondStartDuringALockIsIgnored) {
     DaySimulator sim(fixedTimesConfig(), at("12:55"));
@@ -38,7 +32,8 @@ TEST_F(LockSessionTest, ASecondStartDuringALockIsIgnored) {
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
 }
 
-TEST_F(LockSessionTest, ClockGoingBackKeepsTheTimeLeft) {
+// Back ten minutes inside Dhuhr's lock, then three days ahead inside Asr's.
+TEST_F(LockSessionTest, ClockJumpsInsideALockKeepTheStateConsistent) {
     DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
     sim.launch();
     sim.runUntil(at("13:00"));
@@ -46,24 +41,23 @@ TEST_F(LockSessionTest, ClockGoingBackKeepsTheTimeLeft) {
     sim.step();                  // the ten minutes that were left at the last tick are still left
     EXPECT_EQ(sim.app->lockState()->countdown(), "Screen unlocks in 10:00");
     sim.runUntil(at("13:01"));
-    EXPECT_EQ(localText(sim.eventsStarting("unlock").value(0).at).mid(11, 8), "13:00:01");
+    EXPECT_EQ(sim.times("unlock"), QStringList{"13:00:01"});
     EXPECT_EQ(sim.eventsStarting("lock:").size(), 1); // Dhuhr's window is open again, but done
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
-}
 
-TEST_F(LockSessionTest, ClockJumpingDaysAheadEndsTheLockAndStartsAFreshDay) {
-    DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
-    sim.launch();
-    sim.runUntil(at("13:00"));
-    sim.sleepUntil(localAt(kDay.addDays(3), "12:00"));
+    sim.runUntil(at("15:00"));
+    ASSERT_TRUE(sim.app->isLocked());
+    sim.sleepUntil(at("12:00", kDay.addDays(3)));
     sim.step();
     EXPECT_FALSE(sim.app->isLocked());
     EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-17");
-    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
+    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList({"Dhuhr", "Asr"}));
     EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 59m");
-    sim.runUntil(localAt(kDay.addDays(3), "13:00"));
-    EXPECT_EQ(sim.eventsStarting("lock:").size(), 2);
+    sim.runUntil(at("13:00", kDay.addDays(3)));
+    EXPECT_EQ(sim.whats("lock:"), QStringList({"lock: Dhuhr", "lock: Asr", "lock: Dhuhr"}));
 }
+
+const QString kPrompt = "Emergency? Type your guardian's 6-digit code";
 
 TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     const QByteArray secret = Guardian::newSecret();
@@ -71,29 +65,26 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     Guardian::resetFailuresForTesting();
     DaySimulator sim(fixedTimesConfig(), at("12:55"));
     sim.launch();
-    LockScreenState* state = sim.app->lockState();
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    const LockScreenState* state = sim.app->lockState();
+    auto type = [&](LockKey key, const QString& text, const QString& shown) {
+        sim.app->lockKey(key, text);
+        EXPECT_EQ(state->guardian(), shown) << text.toStdString();
+    };
+    EXPECT_EQ(state->guardian(), kPrompt);
     EXPECT_EQ(sim.platform.raises, 0);
     sim.step();
     EXPECT_EQ(sim.platform.raises, 1);
-
-    sim.app->lockKey(LockKey::Backspace, {});
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
-    sim.app->lockKey(LockKey::Other, "1a2");
-    EXPECT_EQ(state->guardian(), "● ● ○ ○ ○ ○");
-    sim.app->lockKey(LockKey::Backspace, {});
-    EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
-    sim.app->lockKey(LockKey::Escape, {});
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    type(LockKey::Backspace, {}, kPrompt);
+    type(LockKey::Other, "1a2", "● ● ○ ○ ○ ○");
+    type(LockKey::Backspace, {}, "● ○ ○ ○ ○ ○");
+    type(LockKey::Escape, {}, kPrompt);
 
     // A wrong code (one that cannot be the current one), then a digit clears the message.
     const QString good = Guardian::code(secret, sim.now);
     QString wrong = good;
     wrong[0] = QChar('0' + (good[0].digitValue() + 5) % 10);
-    sim.app->lockKey(LockKey::Other, wrong);
-    EXPECT_EQ(state->guardian(), "That code didn't work");
-    sim.app->lockKey(LockKey::Other, "7");
-    EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
+    type(LockKey::Other, wrong, "That code didn't work");
+    type(LockKey::Other, "7", "● ○ ○ ○ ○ ○");
 
     // Screens change: the windows are rebuilt and the typed digit survives.
     sim.platform.screens = 2;
@@ -102,11 +93,11 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     EXPECT_EQ(sim.platform.lockShows.last().size(), 2);
     EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
 
+    // The right code ends the lock early: done for today, but not prayed.
     sim.app->lockKey(LockKey::Escape, {});
-    sim.app->lockKey(LockKey::Other, Guardian::code(secret, sim.now) + "99");
+    type(LockKey::Other, Guardian::code(secret, sim.now) + "99", {});
     EXPECT_FALSE(sim.app->isLocked());
     EXPECT_FALSE(sim.platform.lockWindowsUp);
-    EXPECT_TRUE(state->guardian().isEmpty());
     EXPECT_TRUE(sim.logs.contains("Tarvanel: Dhuhr lock ended early with the guardian code"));
     EXPECT_TRUE(sim.app->completedLocks().contains("2026-01-14-Dhuhr"));
     EXPECT_TRUE(loadHistory().isEmpty());
@@ -117,13 +108,11 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
 TEST_F(LockSessionTest, WithoutAGuardianDigitsDoNothing) {
     DaySimulator sim(fixedTimesConfig(), at("12:55"));
     sim.launch();
-    LockScreenState* state = sim.app->lockState();
-    EXPECT_TRUE(state->guardian().isEmpty());
+    EXPECT_TRUE(sim.app->lockState()->guardian().isEmpty());
     sim.app->lockKey(LockKey::Escape, {});
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
     sim.app->lockKey(LockKey::Other, "123456");
     EXPECT_TRUE(sim.app->isLocked());
-    EXPECT_EQ(state->guardian(), "Emergency? Type your guardian's 6-digit code");
+    EXPECT_EQ(sim.app->lockState()->guardian(), kPrompt);
 }
 
 TEST_F(LockSessionTest, PreviewLocksTenSecondsAndRecordsNothing) {
@@ -144,17 +133,15 @@ TEST_F(LockSessionTest, PreviewLocksTenSecondsAndRecordsNothing) {
     EXPECT_TRUE(sim.app->completedLocks().isEmpty());
 }
 
-TEST_F(LockSessionTest, EachScreenGetsAWindowAndTheAdhanPrefersMp3) {
-    writeSupportFile("adhan.wav", "RIFF");
+TEST_F(LockSessionTest, EachScreenGetsAWindowAndTheAdhanPlays) {
     writeSupportFile("adhan.mp3", "ID3");
     DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
     sim.platform.screens = 3;
     sim.launch();
     sim.step();
     ASSERT_EQ(sim.platform.lockShows.size(), 1);
-    EXPECT_EQ(sim.platform.lockShows[0].size(), 3);
-    for (const LockWindowContent& w : sim.platform.lockShows[0])
-        EXPECT_EQ(w.prayer, "Dhuhr");
+    ASSERT_EQ(sim.platform.lockShows[0].size(), 3);
+    EXPECT_EQ(sim.platform.lockShows[0][2].prayer, "Dhuhr");
     EXPECT_EQ(sim.platform.sounds.last(), "file:" + supportPath("adhan.mp3"));
     EXPECT_EQ(sim.platform.activations, 1);
 }
@@ -251,10 +238,7 @@ TEST_F(LockSessionTest, TerminationUnderTheAgentAsksForARestart) {
 
 TEST_F(LockSessionTest, ReplacedProgramRestartsUnlessSettingsAreOpen) {
     const QString exe = scratchHome() + "/tarvanel-exe";
-    QFile f(exe);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("v1");
-    f.close();
+    writeFile(exe, "v1");
     setExecutablePathForTesting(exe);
     qputenv("TARVANEL_AGENT", "com.velmora.tarvanel");
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
@@ -262,9 +246,8 @@ TEST_F(LockSessionTest, ReplacedProgramRestartsUnlessSettingsAreOpen) {
     sim.step();
     EXPECT_FALSE(sim.platform.exitStatus.has_value());
 
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly)); // rewritten in place: a new modification time
-    f.write("v2");
-    f.flush();
+    QFile f(exe); // rewritten in place: a new modification time
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
     ASSERT_TRUE(f.setFileTime(QDateTime::currentDateTimeUtc().addSecs(60),
                               QFileDevice::FileModificationTime));
     f.close();

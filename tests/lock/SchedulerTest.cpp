@@ -5,40 +5,20 @@
 #include "records/LockState.h"
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
-#include "support/TestEnv.h"
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
 
 namespace {
 
-// Wednesday 14 January 2026 in London: an ordinary winter weekday, not Ramadan.
-const QDate kWednesday(2026, 1, 14);
-const QDate kFriday(2026, 1, 16);
+using SchedulerTest = SimTest;
 
-class SchedulerTest : public ScratchTest {
-protected:
-    static QDateTime at(const QString& time, const QDate& date = kWednesday) {
-        return localAt(date, time);
-    }
-    static QStringList whats(const QList<DaySimulator::Event>& events) {
-        QStringList out;
-        for (const auto& e : events)
-            out << e.what;
-        return out;
-    }
-    static QStringList times(const QList<DaySimulator::Event>& events) {
-        QStringList out;
-        for (const auto& e : events)
-            out << localText(e.at).mid(11, 8);
-        return out;
-    }
-    static QSet<QString> stateFile() { return loadCompletedLocks(); }
-};
+Config with(std::function<void(Config&)> change, Config cfg = fixedTimesConfig()) {
+    change(cfg);
+    return cfg;
+}
 
 TEST_F(SchedulerTest, RoadOfDhuhrToTheSecond) {
     DaySimulator sim(fixedTimesConfig(), at("12:30"));
@@ -53,54 +33,56 @@ TEST_F(SchedulerTest, RoadOfDhuhrToTheSecond) {
         if (sim.now > at("12:55") && sim.now < at("13:10")) {
             EXPECT_TRUE(sim.platform.lockWindowsUp);
             EXPECT_EQ(sim.platform.title, "🕌 Dhuhr");
+            EXPECT_EQ(sim.platform.titleColor, TitleColor::Label);
         }
     });
-
-    const auto banners = sim.eventsStarting("banner:");
-    EXPECT_EQ(whats(banners),
-              QStringList({"banner: 🕌  Dhuhr in 21 minutes — begin wrapping up.",
-                           "banner: 🕌  Dhuhr in 11 minutes. Start finishing up.",
-                           "banner: 🕌  Dhuhr in 6 minutes. Save your work now."}));
-    EXPECT_EQ(times(banners), QStringList({"12:40:00", "12:50:00", "12:55:00"}));
     // The 12:55 banner is closed by the lock that starts in the same tick; 12:58 is inside it.
-    EXPECT_EQ(whats(sim.eventsStarting("lock:")), QStringList{"lock: Dhuhr"});
-    EXPECT_EQ(times(sim.eventsStarting("lock:")), QStringList{"12:55:00"});
-    EXPECT_EQ(times(sim.eventsStarting("unlock")), QStringList{"13:10:00"});
+    EXPECT_EQ(sim.timeline(),
+              QStringList({
+                  "12:40:00 banner: 🕌  Dhuhr in 21 minutes — begin wrapping up.",
+                  "12:50:00 banner: 🕌  Dhuhr in 11 minutes. Start finishing up.",
+                  "12:55:00 banner: 🕌  Dhuhr in 6 minutes. Save your work now.",
+                  "12:55:00 lock: Dhuhr",
+                  "13:10:00 unlock",
+              }));
     EXPECT_FALSE(sim.platform.bannerUp);
     EXPECT_EQ(sim.platform.sounds, QStringList({"Glass", "Glass", "Glass", "Blow", "Glass"}));
-
     EXPECT_TRUE(sim.logs.contains("Tarvanel: locked for Dhuhr until 2026-01-14 13:10:00 +0000"));
     EXPECT_TRUE(sim.logs.contains("Tarvanel: unlocked after Dhuhr"));
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
-    EXPECT_EQ(stateFile(), QSet<QString>{"2026-01-14-Dhuhr"});
+    EXPECT_EQ(loadCompletedLocks(), QSet<QString>{"2026-01-14-Dhuhr"});
     EXPECT_TRUE(sim.app->lockState()->countdown().isEmpty());
 }
 
-TEST_F(SchedulerTest, WholeDayLocksEachPrayerOnceAndAsksAboutCallsOnlyWhenDue) {
-    DaySimulator sim(fixedTimesConfig(), at("00:00"));
-    sim.launch();
-    sim.runUntil(at("23:59:59"));
-    EXPECT_EQ(
-        whats(sim.eventsStarting("lock:")),
-        QStringList({"lock: Fajr", "lock: Dhuhr", "lock: Asr", "lock: Maghrib", "lock: Isha"}));
-    EXPECT_EQ(times(sim.eventsStarting("lock:")),
-              QStringList({"06:25:00", "12:55:00", "14:55:00", "16:25:00", "18:25:00"}));
-    EXPECT_EQ(sim.eventsStarting("banner:").size(), 15); // 20, 10, 5 for each; 2 falls in the lock
-    EXPECT_EQ(loadHistory().value("2026-01-14"),
-              QStringList({"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"}));
-    EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
-    // The call check runs only when a lock is due, never on idle ticks.
-    EXPECT_EQ(sim.callChecks, 5);
+// An ordinary day and both days with a clock change lock at the same wall-clock times.
+TEST_F(SchedulerTest, WholeDaysLockEachPrayerOnceAndAskAboutCallsOnlyWhenDue) {
+    for (const QDate day : {kDay, QDate(2026, 3, 29), QDate(2026, 10, 25)}) {
+        SCOPED_TRACE(day.toString(Qt::ISODate).toStdString());
+        wipeScratchHome();
+        DaySimulator sim(fixedTimesConfig("06:30", "13:00", "15:00", "18:30", "20:30"),
+                         at("00:00", day));
+        sim.launch();
+        sim.runUntil(at("23:59:59", day));
+        EXPECT_EQ(sim.timeline("lock:"),
+                  QStringList({"06:25:00 lock: Fajr", "12:55:00 lock: Dhuhr", "14:55:00 lock: Asr",
+                               "18:25:00 lock: Maghrib", "20:25:00 lock: Isha"}));
+        EXPECT_EQ(sim.eventsStarting("banner: 🕌").size(), 15); // the 2-minute one is in the lock
+        EXPECT_EQ(loadHistory().value(dayKey(day)),
+                  QStringList({"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"}));
+        EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
+        EXPECT_EQ(sim.callChecks, 5); // never on idle ticks
+    }
 }
 
 TEST_F(SchedulerTest, ReminderMinutesCountFromTheTickAndTheTailFollowsTheOffset) {
-    Config cfg = fixedTimesConfig();
-    cfg.nudgeOffsetsMinutes = {10, 2.5};
-    cfg.lockLeadMinutes = 0;
-    DaySimulator sim(cfg, at("12:49:59.5"));
+    DaySimulator sim(with([](Config& c) {
+                         c.nudgeOffsetsMinutes = {10, 2.5};
+                         c.lockLeadMinutes = 0;
+                     }),
+                     at("12:49:59.5"));
     sim.launch();
     sim.runUntil(at("12:58"));
-    EXPECT_EQ(whats(sim.eventsStarting("banner:")),
+    EXPECT_EQ(sim.whats("banner:"),
               QStringList(
                   {"banner: 🕌  Dhuhr in 10 minutes. Start finishing up.",
                    "banner: 🕌  Dhuhr in 3 min — the screen is about to lock. Go make wudu."}));
@@ -110,33 +92,28 @@ TEST_F(SchedulerTest, ReminderMinutesCountFromTheTickAndTheTailFollowsTheOffset)
     EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-Dhuhr-2"));
 }
 
-TEST_F(SchedulerTest, LateStartMarksOldRemindersWithoutShowingThem) {
-    DaySimulator sim(fixedTimesConfig(), at("12:50:30"));
-    sim.launch(); // 20 minutes after the 12:40 reminder, 30 s after the 12:50 one
-    EXPECT_EQ(whats(sim.eventsStarting("banner:")),
-              QStringList{"banner: 🕌  Dhuhr in 10 minutes. Start finishing up."});
-    EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-Dhuhr-20"));
-    sim.runUntil(at("12:54"));
-    EXPECT_EQ(sim.eventsStarting("banner:").size(), 1);
-}
-
 TEST_F(SchedulerTest, SleepBeforeInsideAndAfterAWindow) {
-    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    DaySimulator sim(fixedTimesConfig(), at("06:00"));
     sim.launch();
-    sim.sleepUntil(at("13:00:00")); // wakes 5 minutes into the window
+    sim.sleepUntil(at("06:22")); // wakes before Fajr's window: only the old reminders are skipped
+    sim.runUntil(at("06:41"));
+    EXPECT_EQ(sim.whats("banner:"),
+              QStringList{"banner: 🕌  Fajr in 6 minutes. Save your work now."});
+    EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-Fajr-10"));
+    EXPECT_EQ(sim.times("lock:"), QStringList{"06:25:00"});
+
+    sim.sleepUntil(at("13:00:00")); // wakes 5 minutes into Dhuhr's window
     sim.step();
-    EXPECT_TRUE(sim.eventsStarting("banner:").isEmpty()); // every reminder is too old
-    ASSERT_EQ(times(sim.eventsStarting("lock:")), QStringList{"13:00:01"});
+    EXPECT_EQ(sim.eventsStarting("banner:").size(), 1); // every reminder is too old
+    ASSERT_EQ(sim.times("lock:"), QStringList({"06:25:00", "13:00:01"}));
     EXPECT_EQ(sim.app->lockEnd(), at("13:10"));
     sim.runUntil(at("13:11"));
-    EXPECT_EQ(times(sim.eventsStarting("unlock")), QStringList{"13:10:00"});
+    EXPECT_EQ(sim.times("unlock"), QStringList({"06:40:00", "13:10:00"}));
 
-    // Asr: asleep across the whole window, then awake again.
-    sim.sleepUntil(at("15:20"));
-    sim.step();
+    sim.sleepUntil(at("15:20")); // asleep across Asr's whole window
     sim.runUntil(at("15:30"));
-    EXPECT_EQ(sim.eventsStarting("lock:").size(), 1);
-    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
+    EXPECT_EQ(sim.eventsStarting("lock:").size(), 2);
+    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList({"Fajr", "Dhuhr"}));
 }
 
 TEST_F(SchedulerTest, CallDefersOnceAndTheLockRunsItsFullLengthAfterIt) {
@@ -151,7 +128,7 @@ TEST_F(SchedulerTest, CallDefersOnceAndTheLockRunsItsFullLengthAfterIt) {
             EXPECT_FALSE(sim.platform.lockWindowsUp);
         }
     });
-    EXPECT_EQ(whats(sim.eventsStarting("banner: 🕌  Asr locks")),
+    EXPECT_EQ(sim.whats("banner: 🕌  Asr locks"),
               QStringList{"banner: 🕌  Asr locks when your call ends"});
     EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::urgent);
     EXPECT_FALSE(sim.platform.banners.last().quote.has_value());
@@ -167,114 +144,113 @@ TEST_F(SchedulerTest, CallDefersOnceAndTheLockRunsItsFullLengthAfterIt) {
     ASSERT_TRUE(sim.app->isLocked());
     EXPECT_EQ(sim.app->lockEnd(), at("15:17:01")); // past the window's end at 15:10
     sim.runUntil(at("15:20"));
-    EXPECT_EQ(times(sim.eventsStarting("unlock")), QStringList{"15:17:01"});
+    EXPECT_EQ(sim.times("unlock"), QStringList{"15:17:01"});
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Asr"});
 }
 
 TEST_F(SchedulerTest, CallThatGoesOnLocksWhenTheGraceRunsOut) {
+    for (const int grace : {20, 0}) {
+        SCOPED_TRACE(grace);
+        wipeScratchHome();
+        DaySimulator sim(with([&](Config& c) { c.callGraceMinutes = grace; }), at("14:54:59"));
+        sim.launch();
+        sim.inCall = true;
+        sim.runUntil(at("15:16"));
+        EXPECT_EQ(sim.times("lock:"), QStringList{grace ? "15:15:00" : "14:55:00"});
+        if (!grace) {
+            EXPECT_EQ(sim.callChecks, 0);
+        }
+    }
+}
+
+TEST_F(SchedulerTest, CallWaitIsMeasuredAfreshWhenTheClockGoesBack) {
     DaySimulator sim(fixedTimesConfig(), at("14:54:59"));
     sim.launch();
     sim.inCall = true;
-    sim.runUntil(at("15:16"));
-    EXPECT_EQ(times(sim.eventsStarting("lock:")), QStringList{"15:15:00"});
-}
-
-TEST_F(SchedulerTest, ZeroGraceLocksDuringACall) {
-    Config cfg = fixedTimesConfig();
-    cfg.callGraceMinutes = 0;
-    DaySimulator sim(cfg, at("14:54:59"));
-    sim.launch();
-    sim.inCall = true;
+    sim.runUntil(at("15:05"));
+    sim.sleepUntil(at("14:30"));
+    sim.runUntil(at("14:50")); // the first tick after the jump, 14:30:01, starts the wait
+    EXPECT_FALSE(sim.app->isLocked());
     sim.step();
-    EXPECT_TRUE(sim.app->isLocked());
-    EXPECT_EQ(sim.callChecks, 0);
+    EXPECT_TRUE(sim.app->isLocked()); // the full grace after the jump, no more
 }
 
+// "Not yet" twice, once through the controller's question and once through the alert.
 TEST_F(SchedulerTest, StrictModeAsksUntilYesAndRecordsOnce) {
-    Config cfg = fixedTimesConfig();
-    cfg.strictMode = true;
-    DaySimulator sim(cfg, at("12:54:59"));
-    sim.didPrayAnswers = {false, false, true};
+    DaySimulator sim(with([](Config& c) { c.strictMode = true; }), at("12:54:59"));
+    sim.didPrayAnswers = {false};
+    sim.platform.answerAlert(1001); // Not Yet
+    sim.platform.answerAlert(1000);
     sim.launch();
+    sim.runUntil(at("13:19:59"));
+    EXPECT_EQ(sim.app->lockEnd(), at("13:20"));
+    EXPECT_TRUE(loadHistory().isEmpty());
     sim.runUntil(at("13:25"));
-    EXPECT_EQ(times(sim.eventsStarting("lock:")),
-              QStringList({"12:55:00", "13:10:00", "13:15:00"}));
+    EXPECT_EQ(sim.times("lock:"), QStringList({"12:55:00", "13:10:00", "13:15:00"}));
+    EXPECT_EQ(sim.times("alert: Did you pray Dhuhr?"), QStringList({"13:15:00", "13:20:00"}));
+    EXPECT_EQ(sim.platform.alerts[0].info, "“Not yet” locks the screen again for 5 minutes.");
+    EXPECT_EQ(sim.platform.alerts[0].buttons, QStringList({"Yes, I Prayed", "Not Yet"}));
     EXPECT_EQ(sim.app->lockEnd(), std::nullopt);
     EXPECT_TRUE(sim.didPrayAnswers.empty());
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
     EXPECT_TRUE(sim.app->completedLocks().contains("2026-01-14-Dhuhr"));
 }
 
-TEST_F(SchedulerTest, StrictQuestionThroughTheAlert) {
-    Config cfg = fixedTimesConfig();
-    cfg.strictMode = true;
-    DaySimulator sim(cfg, at("13:09:55"));
-    sim.launch();
-    ASSERT_TRUE(sim.app->isLocked());
-    sim.platform.answerAlert(1001); // Not Yet
-    sim.runUntil(at("13:10"));
-    ASSERT_EQ(sim.platform.alerts.size(), 1);
-    EXPECT_EQ(sim.platform.alerts[0].message, "Did you pray Dhuhr?");
-    EXPECT_EQ(sim.platform.alerts[0].info, "“Not yet” locks the screen again for 5 minutes.");
-    EXPECT_EQ(sim.platform.alerts[0].buttons, QStringList({"Yes, I Prayed", "Not Yet"}));
-    EXPECT_EQ(sim.app->lockEnd(), at("13:15"));
-    EXPECT_TRUE(loadHistory().isEmpty());
-
-    sim.platform.answerAlert(1000);
-    sim.runUntil(at("13:15"));
-    EXPECT_FALSE(sim.app->isLocked());
-    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
-
-    // A preview carries no lock key: it ends without a question or a record.
-    sim.app->startLock("Preview", "Preview", at("13:15:03"));
-    sim.runUntil(at("13:15:05"));
-    EXPECT_EQ(sim.platform.alerts.size(), 2);
-    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
-}
-
 TEST_F(SchedulerTest, FridayLocksForJumuahAndAsrKeepsItsOwnLock) {
-    DaySimulator sim(fixedTimesConfig(), localAt(kFriday, "13:00"));
+    DaySimulator sim(fixedTimesConfig(), at("13:00", kFriday));
     sim.launch();
     EXPECT_EQ(sim.platform.title, "🕌 Jumu'ah in 30m");
-    sim.runUntil(localAt(kFriday, "15:20"));
-    EXPECT_EQ(whats(sim.eventsStarting("lock:")), QStringList({"lock: Jumu'ah", "lock: Asr"}));
-    EXPECT_EQ(times(sim.eventsStarting("lock:")), QStringList({"13:25:00", "14:55:00"}));
-    EXPECT_EQ(times(sim.eventsStarting("unlock")), QStringList({"14:10:00", "15:10:00"}));
+    sim.runUntil(at("15:20", kFriday));
+    EXPECT_EQ(sim.timeline("lock:"), QStringList({"13:25:00 lock: Jumu'ah", "14:55:00 lock: Asr"}));
+    EXPECT_EQ(sim.times("unlock"), QStringList({"14:10:00", "15:10:00"}));
     EXPECT_EQ(loadHistory().value("2026-01-16"), QStringList({"Dhuhr", "Asr"}));
 }
 
-TEST_F(SchedulerTest, TravellingCombinesDhuhrWithAsrAndMaghribWithIsha) {
-    Config cfg = fixedTimesConfig();
-    cfg.combineWhenTravelling = true;
-    UserDefaults().setTravellingUntil(at("23:59:59").addSecs(1));
-    DaySimulator sim(cfg, at("12:00"));
-    sim.launch();
-    sim.runUntil(at("23:00"), [&] {
-        EXPECT_FALSE(sim.platform.title.contains("Asr") && !sim.platform.title.contains("&"));
-        EXPECT_FALSE(sim.platform.title.contains("Isha") && !sim.platform.title.contains("&"));
-    });
-    EXPECT_EQ(whats(sim.eventsStarting("lock:")),
-              QStringList({"lock: Dhuhr & Asr", "lock: Maghrib & Isha"}));
-    EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList({"Dhuhr", "Asr", "Maghrib", "Isha"}));
-    EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
+// Travelling combines Dhuhr with Asr and Maghrib with Isha, but never Jumu'ah with Asr.
+TEST_F(SchedulerTest, TravellingCombinesPrayers) {
+    const Config cfg = with([](Config& c) { c.combineWhenTravelling = true; });
+    for (const QDate day : {kDay, kFriday}) {
+        SCOPED_TRACE(day.toString(Qt::ISODate).toStdString());
+        wipeScratchHome();
+        UserDefaults().setTravellingUntil(at("00:00", day.addDays(1)));
+        DaySimulator sim(cfg, at("12:00", day));
+        sim.launch();
+        if (day == kFriday) {
+            sim.runUntil(at("23:00", day));
+            EXPECT_EQ(sim.whats("lock:"),
+                      QStringList({"lock: Jumu'ah", "lock: Asr", "lock: Maghrib & Isha"}));
+            continue;
+        }
+        EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
+        sim.runUntil(at("23:00"), [&] {
+            EXPECT_FALSE(sim.platform.title.contains("Asr") && !sim.platform.title.contains("&"));
+            EXPECT_FALSE(sim.platform.title.contains("Isha") && !sim.platform.title.contains("&"));
+            if (sim.now == at("16:00:01")) {
+                EXPECT_EQ(sim.platform.title, "🕌 Maghrib & Isha in 29m");
+            }
+        });
+        EXPECT_EQ(sim.whats("lock:"), QStringList({"lock: Dhuhr & Asr", "lock: Maghrib & Isha"}));
+        EXPECT_EQ(loadHistory().value("2026-01-14"),
+                  QStringList({"Dhuhr", "Asr", "Maghrib", "Isha"}));
+        EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
+    }
 }
 
 TEST_F(SchedulerTest, OverlappingWindowsLockOneAfterTheOther) {
     DaySimulator sim(fixedTimesConfig("06:30", "13:00", "13:10"), at("12:54:59"));
     sim.launch();
     sim.runUntil(at("13:30"));
-    EXPECT_EQ(whats(sim.eventsStarting("lock:")), QStringList({"lock: Dhuhr", "lock: Asr"}));
     // The tick that ends Dhuhr does nothing else; Asr starts at the next.
-    EXPECT_EQ(times(sim.eventsStarting("lock:")), QStringList({"12:55:00", "13:10:01"}));
+    EXPECT_EQ(sim.timeline("lock:").join(", "), "12:55:00 lock: Dhuhr, 13:10:01 lock: Asr");
+    EXPECT_EQ(sim.times("unlock"), QStringList({"13:10:00", "13:20:00"}));
     EXPECT_EQ(sim.app->completedLocks(), QSet<QString>({"2026-01-14-Dhuhr", "2026-01-14-Asr"}));
-    EXPECT_EQ(times(sim.eventsStarting("unlock")), QStringList({"13:10:00", "13:20:00"}));
 }
 
 TEST_F(SchedulerTest, RestartOnTheSameDayRemembersWhatWasDone) {
     DaySimulator sim(fixedTimesConfig(), at("12:50"));
     sim.launch();
     sim.app->markPrayed(1);
-    EXPECT_EQ(stateFile(), QSet<QString>{"2026-01-14-Dhuhr"});
+    EXPECT_EQ(loadCompletedLocks(), QSet<QString>{"2026-01-14-Dhuhr"});
     sim.step();
     sim.restart();
     sim.runUntil(at("13:15"));
@@ -282,23 +258,40 @@ TEST_F(SchedulerTest, RestartOnTheSameDayRemembersWhatWasDone) {
     EXPECT_TRUE(sim.logs.contains("Tarvanel: marked Dhuhr as prayed elsewhere"));
 
     // The next morning the old keys are gone from memory and from the file.
-    sim.sleepUntil(localAt(kWednesday.addDays(1), "06:00"));
+    sim.sleepUntil(at("06:00", kDay.addDays(1)));
     sim.restart();
-    EXPECT_TRUE(stateFile().isEmpty());
+    EXPECT_TRUE(loadCompletedLocks().isEmpty());
+
+    // A broken state file starts the day afresh.
+    writeSupportFile("state.json", "[\"2026-01-15-Dhuhr\", 7");
+    sim.sleepUntil(at("12:56", kDay.addDays(1)));
+    sim.restart();
+    EXPECT_TRUE(sim.app->isLocked());
+    EXPECT_EQ(sim.app->lockEnd(), at("13:10", kDay.addDays(1)));
 }
 
-TEST_F(SchedulerTest, MidnightDropsYesterdaysKeys) {
+TEST_F(SchedulerTest, MidnightDropsYesterdaysKeysAndAClockGoingBackForgetsNothing) {
+    const QDate thursday = kDay.addDays(1);
     DaySimulator sim(fixedTimesConfig("06:30", "13:00", "15:00", "16:30", "23:30"), at("23:00"));
     sim.launch();
     sim.runUntil(at("23:59:59"));
     EXPECT_TRUE(sim.app->completedLocks().contains("2026-01-14-Isha"));
     EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-Isha-20"));
-    sim.runUntil(localAt(kWednesday.addDays(1), "00:00:01"));
+    sim.runUntil(at("00:00:01", thursday));
     EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-15");
     EXPECT_TRUE(sim.app->completedLocks().isEmpty());
     EXPECT_TRUE(sim.app->firedNudges().isEmpty());
-    EXPECT_TRUE(stateFile().isEmpty());
+    EXPECT_TRUE(loadCompletedLocks().isEmpty());
     EXPECT_EQ(sim.platform.title, "🕌 Fajr in 6h 29m");
+
+    sim.app->markPrayed(0);
+    const QSet<QString> done{"2026-01-15-Fajr"};
+    EXPECT_EQ(sim.app->completedLocks(), done);
+    sim.sleepUntil(at("23:59:50")); // a correction takes the clock back a little
+    sim.runUntil(at("06:40", thursday));
+    EXPECT_EQ(sim.app->completedLocks(), done);
+    EXPECT_EQ(loadCompletedLocks(), done);
+    EXPECT_EQ(sim.eventsStarting("lock:").size(), 1);
 }
 
 TEST_F(SchedulerTest, SettingsReloadRepeatsNothing) {
@@ -306,14 +299,13 @@ TEST_F(SchedulerTest, SettingsReloadRepeatsNothing) {
     sim.launch();
     sim.runUntil(at("12:45"));
     ASSERT_EQ(sim.eventsStarting("banner:").size(), 1);
+    const Config longer = with([](Config& c) { c.lockMinutes = 20; });
     QFile::remove(configURL());
-    Config longer = fixedTimesConfig();
-    longer.lockMinutes = 20;
     saveConfig(longer); // a new file: a new modification date
     sim.runUntil(at("13:20"));
     EXPECT_EQ(sim.logsContaining("config reloaded").size(), 1);
     EXPECT_EQ(sim.eventsStarting("banner:").size(), 3); // 12:50 and 12:55 only
-    EXPECT_EQ(times(sim.eventsStarting("unlock")), QStringList{"13:15:00"});
+    EXPECT_EQ(sim.times("unlock"), QStringList{"13:15:00"});
 
     // Touching the file after the lock reloads again and locks nothing again.
     QFile::remove(configURL());
@@ -321,16 +313,33 @@ TEST_F(SchedulerTest, SettingsReloadRepeatsNothing) {
     sim.runUntil(at("13:25"));
     EXPECT_EQ(sim.logsContaining("config reloaded").size(), 2);
     EXPECT_EQ(sim.eventsStarting("lock:").size(), 1);
+
+    // Settings applied from the window are not mistaken for an outside change.
+    sim.app->applyConfig(fixedTimesConfig("06:30", "13:00", "14:00"));
+    sim.step();
+    EXPECT_EQ(sim.logsContaining("config reloaded").size(), 2);
+    EXPECT_EQ(sim.platform.title, "🕌 Asr in 34m");
 }
 
-TEST_F(SchedulerTest, AppliedSettingsAreNotMistakenForAnOutsideChange) {
-    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+TEST_F(SchedulerTest, BrokenOrMissingSettingsFileNeverLosesTheDay) {
+    DaySimulator sim(fixedTimesConfig(), at("12:30"));
     sim.launch();
-    Config cfg = fixedTimesConfig("06:30", "12:30");
-    sim.app->applyConfig(cfg);
-    sim.step();
-    EXPECT_TRUE(sim.logsContaining("config reloaded").isEmpty());
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 29m");
+    sim.runUntil(at("12:45"));
+    QFile::remove(configURL());
+    writeSupportFile("config.json", "{ not json");
+    sim.runUntil(at("12:56"));
+    EXPECT_EQ(sim.logsContaining("config reloaded").size(), 1);
+    EXPECT_TRUE(sim.app->isLocked()); // the last good settings still hold
+    sim.runUntil(at("13:10"));
+
+    QFile::remove(configURL());
+    sim.runUntil(at("14:56"));
+    EXPECT_EQ(sim.platform.title, "🕌 Set up");
+    EXPECT_FALSE(sim.app->isLocked());
+    saveConfig(fixedTimesConfig());
+    sim.step(); // back inside Asr's window
+    EXPECT_TRUE(sim.app->isLocked());
+    EXPECT_EQ(sim.whats("lock:"), QStringList({"lock: Dhuhr", "lock: Asr"}));
 }
 
 TEST_F(SchedulerTest, PauseAndExcusedHideLocksWithTheirTitles) {
@@ -369,152 +378,56 @@ TEST_F(SchedulerTest, NotSetUpShowsTheSetUpTitleAndOpensSettings) {
     EXPECT_EQ(sim.platform.settingsOpened, 2);
 }
 
-TEST_F(SchedulerTest, NoFajrEndWarningsOnceFajrIsDone) {
-    DaySimulator sim(fixedTimesConfig(), at("06:00"));
-    sim.launch();
-    const auto sunrise = sim.app->cachedWaqt().value(u"Sunrise");
-    ASSERT_TRUE(sunrise.has_value());
-    sim.app->markPrayed(0); // Fajr counts as done: no warnings
-    sim.sleepUntil(sunrise->addSecs(-25 * 60));
-    sim.runUntil(*sunrise);
-    EXPECT_TRUE(sim.eventsStarting("banner: ⚠️").isEmpty());
-}
-
+// Fajr locking after sunrise lets the time of Fajr run out unlocked: warnings, unless it is done.
 TEST_F(SchedulerTest, FajrEndWarningsSkipTheOneThatIsTooOld) {
-    // Fajr locks after sunrise here, so the time of Fajr runs out unlocked.
-    DaySimulator sim(fixedTimesConfig("09:00"), at("06:00"));
-    sim.launch();
-    const auto sunrise = sim.app->cachedWaqt().value(u"Sunrise");
-    ASSERT_TRUE(sunrise.has_value());
-    sim.sleepUntil(sunrise->addSecs(-25 * 60));
-    sim.runUntil(*sunrise);
-    const auto warnings = sim.eventsStarting("banner: ⚠️");
-    ASSERT_EQ(warnings.size(), 2);
-    EXPECT_EQ(warnings[0].at, sunrise->addSecs(-15 * 60));
-    // Shown on the second: the minutes left round up like a reminder's.
-    EXPECT_TRUE(warnings[0].what.endsWith(" — only 16 min left!"))
-        << warnings[0].what.toStdString();
-    EXPECT_TRUE(warnings[1].what.endsWith(" — only 8 min left!"));
-    EXPECT_TRUE(warnings[1].what.startsWith("banner: ⚠️  Fajr ends at sunrise "));
-    EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::critical);
-    EXPECT_EQ(sim.platform.sounds.last(), "Sosumi");
-    EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-FajrEnd-30"));
+    for (const bool done : {false, true}) {
+        SCOPED_TRACE(done);
+        wipeScratchHome();
+        DaySimulator sim(fixedTimesConfig("09:00"), at("06:00"));
+        sim.launch();
+        const auto sunrise = sim.app->cachedWaqt().value(u"Sunrise");
+        ASSERT_TRUE(sunrise.has_value());
+        if (done) sim.app->markPrayed(0);
+        sim.sleepUntil(sunrise->addSecs(-25 * 60));
+        sim.runUntil(*sunrise);
+        const auto warnings = sim.eventsStarting("banner: ⚠️");
+        if (done) {
+            EXPECT_TRUE(warnings.isEmpty());
+            continue;
+        }
+        ASSERT_EQ(warnings.size(), 2);
+        EXPECT_EQ(warnings[0].at, sunrise->addSecs(-15 * 60));
+        // Shown on the second: the minutes left round up like a reminder's.
+        EXPECT_TRUE(warnings[0].what.endsWith(" — only 16 min left!"))
+            << warnings[0].what.toStdString();
+        EXPECT_TRUE(warnings[1].what.endsWith(" — only 8 min left!"));
+        EXPECT_TRUE(warnings[1].what.startsWith("banner: ⚠️  Fajr ends at sunrise "));
+        EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::critical);
+        EXPECT_EQ(sim.platform.sounds.last(), "Sosumi");
+        EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-FajrEnd-30"));
+    }
 }
 
 TEST_F(SchedulerTest, TarawihReminderTwoMinutesAfterIshasWindow) {
     const QDate ramadanDay(2026, 2, 25);
     DaySimulator sim(fixedTimesConfig("06:30", "13:00", "15:00", "17:30", "19:30"),
-                     localAt(ramadanDay, "17:00"));
+                     at("17:00", ramadanDay));
     sim.launch();
     EXPECT_EQ(sim.platform.title, "🌙 Iftar in 30m");
-    sim.runUntil(localAt(ramadanDay, "20:00"));
-    const auto tarawih = sim.eventsStarting("banner: 🌙");
-    ASSERT_EQ(tarawih.size(), 1);
-    EXPECT_EQ(tarawih[0].what, "banner: 🌙  Tarawih tonight — don't miss it.");
-    EXPECT_EQ(localText(tarawih[0].at).mid(11, 8), "19:42:00");
-}
-
-TEST_F(SchedulerTest, TravellingOnAFridayKeepsJumuahAndAsrApart) {
-    Config cfg = fixedTimesConfig();
-    cfg.combineWhenTravelling = true;
-    UserDefaults().setTravellingUntil(localAt(kFriday.addDays(1), "00:00"));
-    DaySimulator sim(cfg, localAt(kFriday, "12:00"));
-    sim.launch();
-    sim.runUntil(localAt(kFriday, "23:00"));
-    EXPECT_EQ(whats(sim.eventsStarting("lock:")),
-              QStringList({"lock: Jumu'ah", "lock: Asr", "lock: Maghrib & Isha"}));
+    sim.runUntil(at("20:00", ramadanDay));
+    EXPECT_EQ(sim.timeline("banner: 🌙"),
+              QStringList{"19:42:00 banner: 🌙  Tarawih tonight — don't miss it."});
 }
 
 TEST_F(SchedulerTest, WeeklyReportOnSundayEveningOnce) {
     const QDate sunday(2026, 1, 18);
-    Config cfg = fixedTimesConfig();
-    DaySimulator sim(cfg, localAt(sunday, "20:59:58"));
+    DaySimulator sim(fixedTimesConfig(), at("20:59:58", sunday));
     sim.launch();
-    sim.runUntil(localAt(sunday, "21:30"));
-    const auto report = sim.eventsStarting("banner: 📿");
-    ASSERT_EQ(report.size(), 1);
-    EXPECT_EQ(report[0].at, localAt(sunday, "21:00"));
-    EXPECT_EQ(report[0].what, "banner: 📿  This week: 0/35 prayers at the Mac • streak 0 days");
+    sim.runUntil(at("21:30", sunday));
+    EXPECT_EQ(
+        sim.timeline("banner: 📿"),
+        QStringList{"21:00:00 banner: 📿  This week: 0/35 prayers at the Mac • streak 0 days"});
     EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::normal);
-}
-
-TEST_F(SchedulerTest, ClockGoingBackOverMidnightForgetsNothingDone) {
-    DaySimulator sim(fixedTimesConfig(), localAt(kWednesday.addDays(1), "00:00:30"));
-    sim.launch();
-    sim.app->markPrayed(0);
-    const QSet<QString> done{"2026-01-15-Fajr"};
-    EXPECT_EQ(sim.app->completedLocks(), done);
-    sim.sleepUntil(at("23:59:50")); // a correction takes the clock back a minute
-    sim.runUntil(localAt(kWednesday.addDays(1), "06:40"));
-    EXPECT_EQ(sim.app->completedLocks(), done);
-    EXPECT_EQ(stateFile(), done);
-    EXPECT_TRUE(sim.eventsStarting("lock:").isEmpty());
-}
-
-TEST_F(SchedulerTest, CallWaitIsMeasuredAfreshWhenTheClockGoesBack) {
-    DaySimulator sim(fixedTimesConfig(), at("14:54:59"));
-    sim.launch();
-    sim.inCall = true;
-    sim.runUntil(at("15:05"));
-    sim.sleepUntil(at("14:30"));
-    sim.runUntil(at("14:50")); // the first tick after the jump, 14:30:01, starts the wait
-    EXPECT_FALSE(sim.app->isLocked());
-    sim.step();
-    EXPECT_TRUE(sim.app->isLocked()); // the full grace after the jump, no more
-}
-
-TEST_F(SchedulerTest, DaysWithAClockChangeLockAtLocalTimes) {
-    for (const QDate day : {QDate(2026, 3, 29), QDate(2026, 10, 25)}) {
-        SCOPED_TRACE(day.toString(Qt::ISODate).toStdString());
-        wipeScratchHome();
-        DaySimulator sim(fixedTimesConfig("06:30", "13:00", "15:00", "18:30", "20:30"),
-                         localAt(day, "00:00"));
-        sim.launch();
-        sim.runUntil(localAt(day, "23:59:59"));
-        EXPECT_EQ(times(sim.eventsStarting("lock:")),
-                  QStringList({"06:25:00", "12:55:00", "14:55:00", "18:25:00", "20:25:00"}));
-        EXPECT_EQ(loadHistory().value(dayKey(day)).size(), 5);
-    }
-}
-
-TEST_F(SchedulerTest, SleepEndingBeforeTheWindowSkipsOnlyTheOldReminders) {
-    DaySimulator sim(fixedTimesConfig(), at("06:00"));
-    sim.launch();
-    sim.sleepUntil(at("06:22"));
-    sim.runUntil(at("06:41"));
-    EXPECT_EQ(whats(sim.eventsStarting("banner:")),
-              QStringList{"banner: 🕌  Fajr in 6 minutes. Save your work now."});
-    EXPECT_EQ(times(sim.eventsStarting("lock:")), QStringList{"06:25:00"});
-    EXPECT_TRUE(sim.app->firedNudges().contains("2026-01-14-Fajr-10"));
-}
-
-TEST_F(SchedulerTest, BrokenOrMissingSettingsFileNeverLosesTheDay) {
-    DaySimulator sim(fixedTimesConfig(), at("12:30"));
-    sim.launch();
-    sim.runUntil(at("12:45"));
-    QFile::remove(configURL());
-    writeSupportFile("config.json", "{ not json");
-    sim.runUntil(at("12:56"));
-    EXPECT_EQ(sim.logsContaining("config reloaded").size(), 1);
-    EXPECT_TRUE(sim.app->isLocked()); // the last good settings still hold
-    sim.runUntil(at("13:10"));
-
-    QFile::remove(configURL());
-    sim.runUntil(at("14:56"));
-    EXPECT_EQ(sim.platform.title, "🕌 Set up");
-    EXPECT_FALSE(sim.app->isLocked());
-    saveConfig(fixedTimesConfig());
-    sim.step(); // back inside Asr's window
-    EXPECT_TRUE(sim.app->isLocked());
-    EXPECT_EQ(whats(sim.eventsStarting("lock:")), QStringList({"lock: Dhuhr", "lock: Asr"}));
-}
-
-TEST_F(SchedulerTest, BrokenStateFileStartsTheDayAfresh) {
-    writeSupportFile("state.json", "[\"2026-01-14-Dhuhr\", 7");
-    DaySimulator sim(fixedTimesConfig(), at("12:56"));
-    sim.launch();
-    EXPECT_TRUE(sim.app->isLocked());
-    EXPECT_EQ(sim.app->lockEnd(), at("13:10"));
 }
 
 } // namespace

@@ -1,9 +1,10 @@
-// The status menu as a model: its lines, its grid and its commands.
+// The status item: its titles, and the menu as a model with its lines, grid and commands.
 #include "../lock/DaySimulator.h"
 
 #include "app/Agent.h"
 #include "engine/CalcMethods.h"
 #include "engine/LocalTime.h"
+#include "engine/Schedule.h"
 #include "records/History.h"
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
@@ -11,20 +12,14 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
 
 namespace {
 
-const QDate kDay(2026, 1, 14); // Wednesday
-
-class StatusMenuTest : public ScratchTest {
+class StatusMenuTest : public SimTest {
 protected:
-    static QDateTime at(const QString& time, const QDate& date = kDay) {
-        return localAt(date, time);
-    }
     static std::optional<MenuItem> find(const MenuModel& menu, const QString& prefix) {
         for (const MenuItem& item : menu)
             if (item.text.startsWith(prefix)) return item;
@@ -38,16 +33,14 @@ protected:
     }
 };
 
-TEST_F(StatusMenuTest, DayRowsWaqtPartsAndTheNextMarker) {
+TEST_F(StatusMenuTest, DayRowsWaqtPartsTheNextMarkerAndTheGrid) {
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
     sim.launch();
     const MenuModel menu = sim.app->buildMenu();
     EXPECT_EQ(menu[0].text, "London — " + methodSummary(fixedTimesConfig()));
     EXPECT_TRUE(menu[1].text.endsWith(" AH")) << menu[1].text.toStdString();
     EXPECT_EQ(menu[2].kind, MenuItem::Kind::Separator);
-    QStringList rows;
-    for (int i = 3; i < 9; ++i)
-        rows << menu[i].text;
+    const QStringList rows = texts(menu.mid(3, 6));
     EXPECT_TRUE(rows[0].startsWith("Fajr\t6:30 AM  (waqt "));
     EXPECT_EQ(rows[1].indexOf("(waqt"), -1); // Sunrise has no lock time of its own
     EXPECT_TRUE(rows[2].startsWith("Dhuhr\t1:00 PM  (waqt "));
@@ -56,55 +49,7 @@ TEST_F(StatusMenuTest, DayRowsWaqtPartsAndTheNextMarker) {
     for (int i = 3; i < 9; ++i)
         EXPECT_FALSE(menu[i].enabled);
 
-    sim.sleepUntil(at("19:00"));
-    sim.step();
-    EXPECT_TRUE(texts(sim.app->buildMenu()).filter("◀ next").isEmpty());
-}
-
-TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
-    DaySimulator sim(fixedTimesConfig(), at("13:00"));
-    sim.launch();
-    const auto mark = find(sim.app->buildMenu(), "Mark as Prayed");
-    ASSERT_TRUE(mark.has_value());
-    ASSERT_EQ(mark->submenu.size(), 2);
-    EXPECT_EQ(mark->submenu[0].text, "Fajr: Prayed Late (Qada)");
-    EXPECT_EQ(mark->submenu[0].tag, 100);
-    EXPECT_EQ(mark->submenu[1].text, "Dhuhr: Prayed Elsewhere");
-    EXPECT_EQ(mark->submenu[1].tag, 1);
-
-    mark->submenu[0].action();
-    EXPECT_TRUE(sim.logs.contains("Tarvanel: marked Fajr as qada"));
-    const auto again = find(sim.app->buildMenu(), "Mark as Prayed");
-    EXPECT_EQ(again->submenu[0].text, "✓ Fajr");
-    EXPECT_FALSE(again->submenu[0].enabled);
-    EXPECT_EQ(find(sim.app->buildMenu(), "🔥")->text, "🔥 Streak: 1 day");
-
-    // Isha is never late; out-of-range tags do nothing.
-    sim.sleepUntil(at("23:30"));
-    sim.step();
-    const auto night = find(sim.app->buildMenu(), "Mark as Prayed");
-    EXPECT_EQ(night->submenu.last().text, "Isha: Prayed Elsewhere");
-    const HistoryMap before = loadHistory();
-    sim.app->markPrayed(5);
-    sim.app->markPrayed(105);
-    sim.app->markPrayed(-1);
-    EXPECT_EQ(loadHistory(), before);
-}
-
-TEST_F(StatusMenuTest, NothingToMarkBeforeFajr) {
-    DaySimulator sim(fixedTimesConfig(), at("01:00"));
-    sim.launch();
-    const auto mark = find(sim.app->buildMenu(), "Mark as Prayed");
-    ASSERT_EQ(mark->submenu.size(), 1);
-    EXPECT_EQ(mark->submenu[0].text, "Nothing to mark yet");
-    EXPECT_FALSE(mark->submenu[0].enabled);
-    EXPECT_EQ(find(sim.app->buildMenu(), "🔥")->text, "🔥 Streak: 0 days");
-}
-
-TEST_F(StatusMenuTest, SevenDayGridIsMonospacedOldestFirst) {
-    DaySimulator sim(fixedTimesConfig(), at("12:00"));
-    sim.launch();
-    const MenuModel menu = sim.app->buildMenu();
+    // Seven days, oldest first, five marks each.
     QStringList grid;
     for (const MenuItem& item : menu)
         if (item.monospaced) grid << item.text;
@@ -113,40 +58,100 @@ TEST_F(StatusMenuTest, SevenDayGridIsMonospacedOldestFirst) {
     EXPECT_TRUE(grid[6].startsWith("Wed 14  ")) << grid[6].toStdString();
     for (const QString& row : grid)
         EXPECT_EQ(row.mid(8).split(' ').size(), 5);
+
+    sim.sleepUntil(at("19:00"));
+    sim.step();
+    EXPECT_TRUE(texts(sim.app->buildMenu()).filter("◀ next").isEmpty());
 }
 
-TEST_F(StatusMenuTest, ModeLinesAndToggles) {
+// Before Fajr there is nothing to mark; once a window has ended it is qada, not elsewhere.
+TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
+    DaySimulator sim(fixedTimesConfig(), at("01:00"));
+    sim.launch();
+    auto mark = [&] { return find(sim.app->buildMenu(), "Mark as Prayed").value().submenu; };
+    ASSERT_EQ(mark().size(), 1);
+    EXPECT_EQ(mark()[0].text, "Nothing to mark yet");
+    EXPECT_FALSE(mark()[0].enabled);
+    EXPECT_EQ(find(sim.app->buildMenu(), "🔥")->text, "🔥 Streak: 0 days");
+
+    sim.sleepUntil(at("13:00"));
+    sim.step();
+    ASSERT_EQ(mark().size(), 2);
+    EXPECT_EQ(mark()[0].text, "Fajr: Prayed Late (Qada)");
+    EXPECT_EQ(mark()[0].tag, 100);
+    EXPECT_EQ(mark()[1].text, "Dhuhr: Prayed Elsewhere");
+    EXPECT_EQ(mark()[1].tag, 1);
+    mark()[0].action();
+    EXPECT_TRUE(sim.logs.contains("Tarvanel: marked Fajr as qada"));
+    EXPECT_EQ(mark()[0].text, "✓ Fajr");
+    EXPECT_FALSE(mark()[0].enabled);
+    EXPECT_EQ(find(sim.app->buildMenu(), "🔥")->text, "🔥 Streak: 1 day");
+
+    // Isha is never late; out-of-range tags do nothing.
+    sim.sleepUntil(at("23:30"));
+    sim.step();
+    EXPECT_EQ(mark().last().text, "Isha: Prayed Elsewhere");
+    const HistoryMap before = loadHistory();
+    for (const int tag : {5, 105, -1})
+        sim.app->markPrayed(tag);
+    EXPECT_EQ(loadHistory(), before);
+}
+
+// The mode lines and commands, each showing at once in the title.
+TEST_F(StatusMenuTest, ModeLinesAndCommands) {
     Config cfg = fixedTimesConfig();
     cfg.combineWhenTravelling = true;
-    UserDefaults().setTravellingUntil(startOfLocalDay(QDate(2026, 1, 16))); // Friday 00:00
+    UserDefaults().setTravellingUntil(startOfLocalDay(kFriday));
     UserDefaults().setPausedUntil(at("18:00"));
     DaySimulator sim(cfg, at("12:00"));
     sim.launch();
-    MenuModel menu = sim.app->buildMenu();
-    EXPECT_EQ(find(menu, "⏸")->text, "⏸ Locks paused until Wednesday 6:00 PM");
-    EXPECT_EQ(find(menu, "✈️ Travelling")->text,
+    auto pick = [&](const QString& prefix) {
+        const auto item = find(sim.app->buildMenu(), prefix);
+        EXPECT_TRUE(item.has_value()) << prefix.toStdString();
+        return item.value_or(MenuItem::info({}));
+    };
+    auto has = [&](const QString& prefix) {
+        return find(sim.app->buildMenu(), prefix).has_value();
+    };
+    EXPECT_EQ(pick("⏸").text, "⏸ Locks paused until Wednesday 6:00 PM");
+    EXPECT_EQ(pick("✈️ Travelling").text,
               "✈️ Travelling until Thursday 15 Jan · combining prayers");
-    EXPECT_TRUE(find(menu, "Asr (with Dhuhr)\t").has_value());
-    EXPECT_TRUE(find(menu, "Isha (with Maghrib)\t").has_value());
-    EXPECT_TRUE(find(menu, "Resume Locks").has_value());
-    EXPECT_FALSE(find(menu, "Pause Locks").has_value());
-    EXPECT_TRUE(find(menu, "Stop Travelling").has_value());
+    EXPECT_TRUE(has("Asr (with Dhuhr)\t"));
+    EXPECT_TRUE(has("Isha (with Maghrib)\t"));
+    EXPECT_FALSE(has("Pause Locks"));
+    EXPECT_EQ(sim.platform.title, "🕌 Paused");
 
-    find(menu, "Resume Locks")->action();
-    find(menu, "Stop Travelling")->action();
-    menu = sim.app->buildMenu();
-    EXPECT_FALSE(find(menu, "⏸").has_value());
-    EXPECT_FALSE(find(menu, "✈️").has_value());
-    const auto pause = find(menu, "Pause Locks");
-    ASSERT_TRUE(pause.has_value());
-    EXPECT_EQ(texts(pause->submenu),
-              QStringList({"For the Rest of Today", "For 3 Days", "For a Week"}));
-    EXPECT_EQ(pause->submenu[2].tag, 7);
-    EXPECT_TRUE(find(menu, "I'm Travelling…").has_value());
-    EXPECT_TRUE(find(menu, "I'm Excused…").has_value());
+    pick("Resume Locks").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
+    pick("Stop Travelling").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
+    EXPECT_FALSE(has("⏸"));
+    EXPECT_FALSE(has("✈️"));
+    EXPECT_FALSE(has("Resume Locks"));
+    const MenuModel menu = sim.app->buildMenu();
     EXPECT_EQ(menu.last().text, "Settings…");
     EXPECT_EQ(menu.last().shortcut, ",");
     EXPECT_EQ(menu[menu.size() - 2].text, "Preview Lock (10 s)");
+    const MenuItem pause = pick("Pause Locks");
+    EXPECT_EQ(texts(pause.submenu),
+              QStringList({"For the Rest of Today", "For 3 Days", "For a Week"}));
+    EXPECT_EQ(pause.submenu[2].tag, 7);
+
+    sim.platform.answerAlert(1000);
+    pause.submenu[0].action();
+    EXPECT_EQ(sim.platform.title, "🕌 Paused");
+    pick("Resume Locks").action();
+    sim.platform.dateAnswers.push_back(kDay);
+    pick("I'm Travelling…").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
+
+    sim.platform.answerAlert(1000);
+    pick("I'm Excused…").action();
+    EXPECT_EQ(sim.platform.title, "🕌");
+    EXPECT_EQ(sim.platform.titleColor, TitleColor::Secondary);
+    EXPECT_TRUE(has("Excused · reminders and locks are off"));
+    pick("No Longer Excused").action();
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
 }
 
 TEST_F(StatusMenuTest, MarkingTheWaitingPrayerDropsItsLock) {
@@ -162,12 +167,17 @@ TEST_F(StatusMenuTest, MarkingTheWaitingPrayerDropsItsLock) {
     EXPECT_TRUE(sim.eventsStarting("lock:").isEmpty());
 }
 
-TEST_F(StatusMenuTest, SettingsAreClosedToALockButNotToATestLock) {
+TEST_F(StatusMenuTest, NoSettingsPauseOrUninstallDuringALock) {
     DaySimulator sim(fixedTimesConfig(), at("12:55"));
     sim.launch();
     ASSERT_TRUE(sim.app->isLocked());
     sim.app->openSettings();
     sim.app->showSettingsRequested();
+    sim.platform.answerAlert(1000);
+    sim.app->pauseLocks(7);
+    sim.app->uninstall();
+    EXPECT_TRUE(sim.platform.alerts.isEmpty());
+    EXPECT_TRUE(sim.app->isLocked());
     EXPECT_EQ(sim.platform.settingsOpened, 0);
     sim.runUntil(at("13:10"));
     sim.app->openSettings();
@@ -190,17 +200,11 @@ TEST_F(StatusMenuTest, ExportWritesTheCsvWhereTheUserChose) {
 
 TEST_F(StatusMenuTest, UninstallAsksAndRemovesWhatWasChosen) {
     const QString systemctl = scratchHome() + "/systemctl";
-    {
-        QFile f(systemctl);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(QStringLiteral("#!/bin/sh\necho \"$@\" >> %1/calls\n").arg(scratchHome()).toUtf8());
-        f.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
+    writeFile(systemctl,
+              QStringLiteral("#!/bin/sh\necho \"$@\" >> %1/calls\n").arg(scratchHome()).toUtf8(),
+              true);
     setSystemctlForTesting(systemctl);
-    QDir().mkpath(QFileInfo(agentUnitPath()).absolutePath());
-    QFile unit(agentUnitPath());
-    ASSERT_TRUE(unit.open(QIODevice::WriteOnly));
-    unit.close();
+    writeFile(agentUnitPath(), {});
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
     sim.launch();
     sim.app->uninstall(); // cancelled
@@ -225,46 +229,71 @@ TEST_F(StatusMenuTest, UninstallAsksAndRemovesWhatWasChosen) {
     setSystemctlForTesting({});
 }
 
-TEST_F(StatusMenuTest, ModeCommandsShowAtOnceInTheTitle) {
-    Config cfg = fixedTimesConfig();
-    cfg.combineWhenTravelling = true;
-    DaySimulator sim(cfg, at("12:00"));
+using StatusTitleTest = SimTest;
+
+// The colour turns exactly 20 and 5 minutes before the lock's start (12:55).
+TEST_F(StatusTitleTest, CountdownAndColourByMinutesToTheLockStart) {
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
     sim.launch();
-    auto pick = [&](const QString& prefix) {
-        const auto item = find(sim.app->buildMenu(), prefix);
-        EXPECT_TRUE(item.has_value()) << prefix.toStdString();
-        return item.value_or(MenuItem::info({}));
-    };
-
-    sim.platform.answerAlert(1000);
-    pick("Pause Locks").submenu[0].action();
-    EXPECT_EQ(sim.platform.title, "🕌 Paused");
-    pick("Resume Locks").action();
     EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
-
-    sim.platform.dateAnswers.push_back(kDay);
-    pick("I'm Travelling…").action();
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
-    pick("Stop Travelling").action();
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
-
-    sim.platform.answerAlert(1000);
-    pick("I'm Excused…").action();
-    EXPECT_EQ(sim.platform.title, "🕌");
-    EXPECT_EQ(sim.platform.titleColor, TitleColor::Secondary);
-    EXPECT_TRUE(find(sim.app->buildMenu(), "Excused · reminders and locks are off").has_value());
-    pick("No Longer Excused").action();
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
+    EXPECT_EQ(sim.platform.titleColor, TitleColor::Label);
+    const struct {
+        const char* wake; // the tick comes `step` seconds later
+        double step;
+        const char* title;
+        TitleColor color;
+    } cases[] = {{"12:36:29", 1, "🕌 Dhuhr in 23m", TitleColor::Orange},
+                 {"12:50:59", 1, "🕌 Dhuhr in 9m", TitleColor::Red},
+                 {"12:34:59", 1, "🕌 Dhuhr in 25m", TitleColor::Orange},
+                 {"12:34:59.999", 0.001, "🕌 Dhuhr in 25m", TitleColor::Orange},
+                 {"12:34:58", 1, "🕌 Dhuhr in 25m", TitleColor::Label}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.wake);
+        sim.sleepUntil(at(c.wake));
+        sim.step(c.step);
+        EXPECT_EQ(sim.platform.title, c.title);
+        EXPECT_EQ(sim.platform.titleColor, c.color);
+    }
 }
 
-TEST_F(StatusMenuTest, NoPauseOrUninstallDuringALock) {
-    DaySimulator sim(fixedTimesConfig(), at("12:55"));
+TEST_F(StatusTitleTest, APrayerAtThisVeryInstantIsNotNext) {
+    Config cfg = fixedTimesConfig();
+    cfg.lockLeadMinutes = 0;
+    cfg.nudgeOffsetsMinutes = {};
+    DaySimulator sim(cfg, at("14:59:59"));
     sim.launch();
-    sim.platform.answerAlert(1000);
-    sim.app->pauseLocks(7);
-    sim.app->uninstall();
-    EXPECT_TRUE(sim.platform.alerts.isEmpty());
-    EXPECT_TRUE(sim.app->isLocked());
+    sim.app->markPrayed(2);
+    sim.step(); // 15:00:00, Asr's time, Asr done
+    EXPECT_EQ(sim.platform.title, "🕌 Maghrib in 1h 30m");
+}
+
+// The evening title comes from a cache; at every tick it must equal what the rule gives when
+// tomorrow is computed afresh, across a settings change and the eve of a clock change.
+TEST_F(StatusTitleTest, CachedFajrTitleMatchesTheRuleEverySecond) {
+    const QDate eve(2026, 3, 28); // London moves to summer time at 01:00 on the 29th
+    Config cfg = fixedTimesConfig("06:30", "13:00", "15:00", "18:00", "20:00");
+    cfg.prayerOverrides->remove("Fajr");
+    DaySimulator sim(cfg, at("20:00", eve));
+    sim.launch();
+    auto expected = [&](const Config& c) {
+        const auto fajr = effectiveTimes(sim.now.addSecs(86400), c).final.value(u"Fajr");
+        return "🕌 Fajr at " + formatLocal(*fajr, "h:mm AP");
+    };
+    QSet<QString> seen;
+    sim.runUntil(at("21:00", eve), [&] {
+        if (!sim.app->isLocked()) {
+            EXPECT_EQ(sim.platform.title, expected(cfg));
+        }
+    });
+    Config later = cfg;
+    later.prayerOverrides->insert("Fajr", "+10");
+    sim.app->applyConfig(later);
+    sim.runUntil(at("23:59:59", eve), [&] {
+        EXPECT_EQ(sim.platform.title, expected(later));
+        seen << sim.platform.title;
+    });
+    // Before 23:00 "now + 24 h" is Sunday; after it, Monday.
+    EXPECT_EQ(seen.size(), 2);
 }
 
 } // namespace

@@ -46,27 +46,63 @@ public:
     void runPosted();
 
     int screenCount() const override { return screens; }
-    void showLockWindows(const QList<LockWindowContent>& perScreen, LockScreenState*) override;
+    void showLockWindows(const QList<LockWindowContent>& perScreen, LockScreenState*) override {
+        lockShows << perScreen;
+        lockWindowsUp = true;
+    }
     void raiseLockWindows(bool) override { ++raises; }
-    void closeLockWindows() override;
+    void closeLockWindows() override {
+        lockWindowsUp = false;
+        ++closes;
+    }
     void activateApp() override { ++activations; }
-    bool showBanner(const BannerContent& banner) override;
+    bool showBanner(const BannerContent& banner) override {
+        if (!hasMainScreen) return false;
+        banners << banner;
+        return bannerUp = true;
+    }
     void closeBanner() override { bannerUp = false; }
-    void setStatusTitle(const QString& text, TitleColor color) override;
+    void setStatusTitle(const QString& text, TitleColor color) override {
+        if (titles.isEmpty() || titles.last() != text) titles << text;
+        title = text;
+        titleColor = color;
+    }
     void playNamedSound(const QString& name) override { sounds << name; }
-    bool playSoundFile(const QString& path) override;
-    AlertAnswer showAlert(const AlertRequest& request) override;
-    std::optional<QDate> askDate(const AlertRequest& request, const QDate& minimum,
-                                 const QDate& initial) override;
-    std::optional<QString> askSavePath(const QString& proposedName) override;
+    bool playSoundFile(const QString& path) override {
+        if (soundFilesPlay) sounds << QStringLiteral("file:") + path;
+        return soundFilesPlay;
+    }
+    AlertAnswer showAlert(const AlertRequest& request) override {
+        alerts << request;
+        return next(alertAnswers, AlertAnswer{1001, false});
+    }
+    std::optional<QDate> askDate(const AlertRequest& request, const QDate&, const QDate&) override {
+        alerts << request;
+        return next(dateAnswers, std::optional<QDate>());
+    }
+    std::optional<QString> askSavePath(const QString&) override {
+        return next(savePathAnswers, std::optional<QString>());
+    }
     void openUrl(const QString& url) override { openedUrls << url; }
-    void openSettingsWindow(bool firstRun) override;
+    void openSettingsWindow(bool firstRun) override {
+        ++settingsOpened;
+        settingsFirstRun = firstRun;
+        settingsOpen = true;
+    }
     bool settingsWindowOpen() const override { return settingsOpen; }
     void post(std::function<void()> work) override { posted << std::move(work); }
     void singleShot(int ms, std::function<void()> work) override {
         timers.append({ms, std::move(work)});
     }
     void exitProcess(int status) override { exitStatus = status; }
+
+private:
+    template <typename T> static T next(std::deque<T>& answers, T fallback) {
+        if (answers.empty()) return fallback;
+        T a = answers.front();
+        answers.pop_front();
+        return a;
+    }
 };
 
 } // namespace tarvanel::test

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <cstdlib>
 
@@ -42,11 +43,16 @@ void setTimeZone(const char* zone) {
     resetLocalTimeZone();
 }
 
-void writeSupportFile(const QString& name, const QByteArray& bytes) {
-    QDir().mkpath(supportDir());
-    QFile f(supportPath(name));
+void writeFile(const QString& path, const QByteArray& bytes, bool executable) {
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile f(path);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
     f.write(bytes);
+    if (executable) f.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void writeSupportFile(const QString& name, const QByteArray& bytes) {
+    writeFile(supportPath(name), bytes);
 }
 
 void ScratchTest::SetUp() {

@@ -27,7 +27,9 @@ void useScratchHome();
 void wipeScratchHome();
 // Switches TZ for this process (C library and Qt alike).
 void setTimeZone(const char* zone);
-// Writes bytes to ~/.tarvanel/name, creating the folder.
+// Writes bytes to path (creating its folder), optionally as an executable script.
+void writeFile(const QString& path, const QByteArray& bytes, bool executable = false);
+// Writes bytes to ~/.tarvanel/name.
 void writeSupportFile(const QString& name, const QByteArray& bytes);
 
 // Fixture: a clean home and a known zone (Europe/London unless the test changes it).

@@ -30,4 +30,9 @@ fi
 if [ ! -f "$build/CMakeCache.txt" ]; then
     cmake -S "$here" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo >&2
 fi
-cmake --build "$build" -j"$(nproc)" >&2
+# Quiet when it works; the whole log when it does not.
+if ! cmake --build "$build" -j"$(nproc)" > "$build/build.log" 2>&1; then
+    cat "$build/build.log" >&2
+    echo "Build failed (log: $build/build.log)" >&2
+    exit 1
+fi

@@ -46,31 +46,12 @@ namespace Marks {
 
 Map load() {
     const auto doc = jsonLoad(marksFile);
-    if (!doc || !doc->isObject()) return {};
-    Map marks;
-    const QJsonObject root = doc->object();
-    for (auto it = root.begin(); it != root.end(); ++it) {
-        if (!it.value().isObject()) return {};
-        const QJsonObject inner = it.value().toObject();
-        QMap<QString, QString> day;
-        for (auto p = inner.begin(); p != inner.end(); ++p) {
-            if (!p.value().isString()) return {};
-            day.insert(p.key(), p.value().toString());
-        }
-        marks.insert(it.key(), day);
-    }
-    return marks;
+    if (!doc) return {};
+    return decodeNestedTextMap(*doc).value_or(Map());
 }
 
 void save(const Map& marks) {
-    QJsonObject root;
-    for (auto it = marks.begin(); it != marks.end(); ++it) {
-        QJsonObject inner;
-        for (auto p = it.value().begin(); p != it.value().end(); ++p)
-            inner.insert(p.key(), p.value());
-        root.insert(it.key(), inner);
-    }
-    jsonSave(QJsonDocument(root), marksFile);
+    jsonSave(encodeNestedTextMap(marks), marksFile);
 }
 
 } // namespace Marks

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QJsonParseError>
 #include <QSaveFile>
 
@@ -100,6 +101,34 @@ bool jsonSave(const QJsonDocument& doc, const QString& name) {
     ensureSupportDir();
     // QJsonObject keeps its keys sorted, so equal values give identical bytes.
     return writeFileAtomically(supportPath(name), doc.toJson(QJsonDocument::Indented));
+}
+
+std::optional<NestedTextMap> decodeNestedTextMap(const QJsonDocument& doc) {
+    if (!doc.isObject()) return std::nullopt;
+    NestedTextMap map;
+    const QJsonObject root = doc.object();
+    for (auto it = root.begin(); it != root.end(); ++it) {
+        if (!it.value().isObject()) return std::nullopt;
+        const QJsonObject inner = it.value().toObject();
+        QMap<QString, QString> entry;
+        for (auto p = inner.begin(); p != inner.end(); ++p) {
+            if (!p.value().isString()) return std::nullopt;
+            entry.insert(p.key(), p.value().toString());
+        }
+        map.insert(it.key(), entry);
+    }
+    return map;
+}
+
+QJsonDocument encodeNestedTextMap(const NestedTextMap& map) {
+    QJsonObject root;
+    for (auto it = map.begin(); it != map.end(); ++it) {
+        QJsonObject inner;
+        for (auto p = it.value().begin(); p != it.value().end(); ++p)
+            inner.insert(p.key(), p.value());
+        root.insert(it.key(), inner);
+    }
+    return QJsonDocument(root);
 }
 
 QString dayKey(const QDateTime& instant) {

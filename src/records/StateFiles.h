@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QFileDevice>
 #include <QJsonDocument>
+#include <QMap>
 #include <QString>
 #include <optional>
 
@@ -33,6 +34,12 @@ bool writeFilePlain(const QString& path, const QByteArray& bytes);
 // unparsable file loads as absent.
 std::optional<QJsonDocument> jsonLoad(const QString& name);
 bool jsonSave(const QJsonDocument& doc, const QString& name);
+
+// Day key → name → text, the shape of marks.json and timetable.json. A value of any other
+// shape anywhere fails the whole decode, as a strict decoder would.
+using NestedTextMap = QMap<QString, QMap<QString, QString>>;
+std::optional<NestedTextMap> decodeNestedTextMap(const QJsonDocument& doc);
+QJsonDocument encodeNestedTextMap(const NestedTextMap& map);
 
 // Day key "yyyy-MM-dd" of an instant in the process's time zone.
 QString dayKey(const QDateTime& instant);

@@ -43,34 +43,6 @@ std::optional<Stamp> currentStamp() {
     return Stamp{m.toUTC(), info.size()};
 }
 
-// A map of maps of texts; anything else fails the whole decode.
-std::optional<DayTable> decode(const QJsonDocument& doc) {
-    if (!doc.isObject()) return std::nullopt;
-    DayTable table;
-    const QJsonObject root = doc.object();
-    for (auto it = root.begin(); it != root.end(); ++it) {
-        if (!it.value().isObject()) return std::nullopt;
-        const QJsonObject inner = it.value().toObject();
-        QMap<QString, QString> day;
-        for (auto p = inner.begin(); p != inner.end(); ++p) {
-            if (!p.value().isString()) return std::nullopt;
-            day.insert(p.key(), p.value().toString());
-        }
-        table.insert(it.key(), day);
-    }
-    return table;
-}
-
-QJsonObject encode(const DayTable& table) {
-    QJsonObject root;
-    for (auto it = table.begin(); it != table.end(); ++it) {
-        QJsonObject inner;
-        for (auto p = it.value().begin(); p != it.value().end(); ++p)
-            inner.insert(p.key(), p.value());
-        root.insert(it.key(), inner);
-    }
-    return root;
-}
 } // namespace
 
 QString url() {
@@ -85,7 +57,7 @@ DayTable all() {
     c.table.clear();
     if (!stamp) return c.table;
     if (const auto doc = jsonLoad(fileName))
-        if (auto table = decode(*doc)) c.table = std::move(*table);
+        if (auto table = decodeNestedTextMap(*doc)) c.table = std::move(*table);
     return c.table;
 }
 
@@ -97,7 +69,7 @@ void merge(const DayTable& days) {
     DayTable table = all();
     for (auto it = days.begin(); it != days.end(); ++it)
         table.insert(it.key(), it.value());
-    jsonSave(QJsonDocument(encode(table)), fileName);
+    jsonSave(encodeNestedTextMap(table), fileName);
 }
 
 void clear() {

@@ -59,7 +59,11 @@ double PrayerTimes::sunAngleTime(double angle, double time, bool ccw) const {
 
 DayTimes PrayerTimes::times(const QDateTime& date) {
     const LocalFields local = localFields(date);
-    tz = local.utcOffsetSeconds / 3600.0;
+    // The offset in force when the day begins, the instant the times below count from: a
+    // day's table must not change when it is asked after that day's clock change.
+    const QDateTime dayStart = startOfLocalDay(date);
+    if (!dayStart.isValid()) return {};
+    tz = localFields(dayStart).utcOffsetSeconds / 3600.0;
 
     int y = local.year, m = local.month;
     if (m < 3) {
@@ -130,8 +134,6 @@ DayTimes PrayerTimes::times(const QDateTime& date) {
     for (double v : values)
         anyFinite = anyFinite || std::isfinite(v);
     if (!anyFinite) return result;
-    const QDateTime dayStart = startOfLocalDay(date);
-    if (!dayStart.isValid()) return result;
     const qint64 startMs = dayStart.toMSecsSinceEpoch();
     for (int i = 0; i < DayTimes::Count; ++i) {
         const double v = values[i];

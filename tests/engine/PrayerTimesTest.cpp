@@ -98,19 +98,28 @@ TEST_F(PrayerTimesTest, WestLongitudeMovesTheDayLater) {
     EXPECT_NEAR(minutesBetween(*a.value("Dhuhr"), *b.value("Dhuhr")), 180.0, 0.2);
 }
 
-TEST_F(PrayerTimesTest, UsesTheZoneOffsetInForceAtTheGivenInstant) {
-    // London springs forward at 01:00 on 30 March 2025. Computed from local midnight the
-    // offset is still GMT and Dhuhr lands at its true instant; from an afternoon instant the
-    // offset is BST and every time moves one hour later on that day only.
-    test::setTimeZone("Europe/London");
-    const Config c = at(51.5072, -0.1276);
-    const QDateTime midnight = startOfLocalDay(QDate(2025, 3, 30));
-    const DayTimes early = PrayerTimes(c).times(midnight);
-    const DayTimes late = PrayerTimes(c).times(midnight.addSecs(15 * 3600));
-    EXPECT_NEAR(minutesBetween(*early.value("Dhuhr"), *late.value("Dhuhr")), 60.0, 0.01);
-    const LocalFields dhuhr = localFields(*early.value("Dhuhr"));
-    EXPECT_EQ(dhuhr.utcOffsetSeconds, 3600);
-    EXPECT_EQ(dhuhr.hour, 13);
+TEST_F(PrayerTimesTest, ADaysTableIsTheSameWhateverTheHourItIsAsked) {
+    // Clock-change days in three zones: asked at midnight, before and after the change, the
+    // table must not move (it did by an hour when asked after the change).
+    struct Case {
+        const char* zone;
+        QDate day;
+        double lat, lon;
+        int dhuhrHour;
+    };
+    for (const Case& k : {Case{"Europe/London", {2025, 3, 30}, 51.5072, -0.1276, 13},
+                          Case{"Europe/London", {2025, 10, 26}, 51.5072, -0.1276, 11},
+                          Case{"America/New_York", {2025, 11, 2}, 40.71, -74.01, 11},
+                          Case{"Australia/Sydney", {2025, 4, 6}, -33.87, 151.21, 11}}) {
+        SCOPED_TRACE(k.zone);
+        test::setTimeZone(k.zone);
+        const Config c = at(k.lat, k.lon);
+        const QDateTime midnight = startOfLocalDay(k.day);
+        const DayTimes first = PrayerTimes(c).times(midnight);
+        for (int hours : {1, 4, 15, 22})
+            EXPECT_EQ(PrayerTimes(c).times(midnight.addSecs(hours * 3600)), first) << hours;
+        EXPECT_EQ(localFields(*first.value("Dhuhr")).hour, k.dhuhrHour);
+    }
 }
 
 TEST_F(PrayerTimesTest, NonsenseCoordinatesGiveNoTimesInsteadOfGarbage) {

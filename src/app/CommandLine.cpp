@@ -3,6 +3,8 @@
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 
+#include <cmath>
+
 namespace tarvanel {
 namespace {
 
@@ -17,6 +19,10 @@ const QString kTimePattern = QStringLiteral("h:mm AP");
 
 CommandLine parseCommandLine(const QStringList& args) {
     CommandLine cl;
+    const QStringList flags{QStringLiteral("--help"), QStringLiteral("--version"),
+                            QStringLiteral("--times"), QStringLiteral("--install-agent"),
+                            QStringLiteral("--test-nudge")};
+    const QStringList withValue{QStringLiteral("--date"), QStringLiteral("--test-lock")};
     const auto valueAfter = [&args](const QString& option) -> std::optional<QString> {
         const qsizetype i = args.indexOf(option, 1);
         if (i < 0 || i + 1 >= args.size()) return std::nullopt;
@@ -24,7 +30,7 @@ CommandLine parseCommandLine(const QStringList& args) {
     };
     const auto has = [&args](const QString& option) { return args.indexOf(option, 1) >= 0; };
 
-    cl.help = has(QStringLiteral("--help")) || has(QStringLiteral("-h"));
+    cl.help = has(QStringLiteral("--help"));
     cl.version = has(QStringLiteral("--version"));
     cl.times = has(QStringLiteral("--times"));
     cl.date = valueAfter(QStringLiteral("--date"));
@@ -32,9 +38,22 @@ CommandLine parseCommandLine(const QStringList& args) {
     if (const auto seconds = valueAfter(QStringLiteral("--test-lock"))) {
         bool ok = false;
         const double v = seconds->toDouble(&ok);
-        if (ok) cl.testLockSeconds = v;
+        // A lock longer than a day, or of no finite length, is a typing mistake.
+        if (ok && std::isfinite(v) && v <= 86400) cl.testLockSeconds = v;
     }
     cl.testNudge = has(QStringLiteral("--test-nudge"));
+
+    for (qsizetype i = 1; i < args.size(); ++i) {
+        const QString& arg = args[i];
+        if (withValue.contains(arg)) {
+            ++i; // its value, whatever it looks like
+        } else if (flags.contains(arg)) {
+        } else if (arg.startsWith(u'-')) {
+            if (!cl.unknownOption) cl.unknownOption = arg;
+        } else if (!cl.importFile) {
+            cl.importFile = arg;
+        }
+    }
     return cl;
 }
 
@@ -72,9 +91,10 @@ QString timesText(const Config& cfg, const QDateTime& day) {
 
 QString usageText() {
     return QStringLiteral(
-        "Usage: tarvanel [option]\n"
+        "Usage: tarvanel [option] [timetable file]\n"
         "\n"
         "Without options Tarvanel starts in the tray and locks the screens at prayer times.\n"
+        "A timetable file (CSV, text, image or PDF) opens the timetable import window.\n"
         "\n"
         "  --times                 print today's prayer and lock times and exit\n"
         "  --date yyyy-MM-dd       with --times: the day to print\n"

@@ -19,6 +19,10 @@ struct CommandLine {
     bool installAgent = false;
     std::optional<double> testLockSeconds;
     bool testNudge = false;
+    // The first argument that starts with "-" and is no option (nor an option's value).
+    std::optional<QString> unknownOption;
+    // The first other argument: a timetable file to import.
+    std::optional<QString> importFile;
 };
 
 // Options are exact, case-sensitive whole arguments in any position; a value is the argument

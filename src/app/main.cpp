@@ -10,10 +10,16 @@
 
 using namespace tarvanel;
 
-static void print(const QString& text) {
+static void write(const QString& text, FILE* stream) {
     const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
-    std::fflush(stdout);
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+    std::fflush(stream);
+}
+static void print(const QString& text) {
+    write(text, stdout);
+}
+static void printError(const QString& text) {
+    write(text, stderr);
 }
 
 int main(int argc, char** argv) {
@@ -22,6 +28,14 @@ int main(int argc, char** argv) {
         args << QString::fromLocal8Bit(argv[i]);
     const CommandLine cl = parseCommandLine(args);
 
+    if (cl.times) {
+        const Config cfg = loadConfig();
+        if (const auto& error = lastConfigError())
+            printError(QStringLiteral("tarvanel: config.json is invalid (") + *error +
+                       QStringLiteral("); printing the default settings' times\n"));
+        print(timesText(cfg, timesDay(cl, systemNow())));
+        return 0;
+    }
     if (cl.help) {
         print(usageText());
         return 0;
@@ -30,10 +44,10 @@ int main(int argc, char** argv) {
         print(QStringLiteral("tarvanel " TARVANEL_VERSION "\n"));
         return 0;
     }
-    if (cl.times) {
-        const Config cfg = loadConfig();
-        print(timesText(cfg, timesDay(cl, systemNow())));
-        return 0;
+    if (cl.unknownOption) {
+        printError(QStringLiteral("tarvanel: unknown option ") + *cl.unknownOption +
+                   QStringLiteral("\n") + usageText());
+        return 2;
     }
     if (cl.installAgent) {
         const bool ok = installAgent();

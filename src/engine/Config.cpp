@@ -5,7 +5,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonParseError>
+#include <algorithm>
 #include <cmath>
+#include <variant>
 
 namespace tarvanel {
 namespace {
@@ -14,6 +16,67 @@ std::optional<Config>& lastGood() {
     static std::optional<Config> value;
     return value;
 }
+std::optional<QString>& lastError() {
+    static std::optional<QString> value;
+    return value;
+}
+
+// What a decision may make of a hand-edited number: not finite reads as the default, anything
+// else is held inside [min, max].
+struct Bounds {
+    double fallback, min, max;
+    double apply(double v) const { return std::isfinite(v) ? std::clamp(v, min, max) : fallback; }
+};
+constexpr Bounds kLock{15, 1, 180};
+constexpr Bounds kLead{5, 0, 120};
+constexpr Bounds kJumuahLock{45, 1, 180};
+constexpr Bounds kCallGrace{20, 0, 240};
+constexpr Bounds kExcusedDays{15, 1, 60};
+constexpr double kLongestReminder = 120;
+
+using TextMap = QMap<QString, QString>;
+using Member = std::variant<QString Config::*, double Config::*, std::optional<double> Config::*,
+                            std::optional<QString> Config::*, std::optional<bool> Config::*,
+                            QList<double> Config::*, std::optional<TextMap> Config::*>;
+
+// The settings table: every key in file order with the field it fills. Decoding, encoding and
+// the bounded readers all go through it.
+struct Field {
+    const char* key;
+    Member member;
+};
+const Field kFields[] = {
+    {"locationName", &Config::locationName},
+    {"latitude", &Config::latitude},
+    {"longitude", &Config::longitude},
+    {"method", &Config::method},
+    {"fajrAngle", &Config::fajrAngle},
+    {"ishaAngle", &Config::ishaAngle},
+    {"ishaMinutes", &Config::ishaMinutes},
+    {"asrFactor", &Config::asrFactor},
+    {"lockMinutes", &Config::lockMinutes},
+    {"lockLeadMinutes", &Config::lockLeadMinutes},
+    {"nudgeOffsetsMinutes", &Config::nudgeOffsetsMinutes},
+    {"prayerOverrides", &Config::prayerOverrides},
+    {"jumuahEnabled", &Config::jumuahEnabled},
+    {"jumuahTime", &Config::jumuahTime},
+    {"jumuahLockMinutes", &Config::jumuahLockMinutes},
+    {"ramadanMode", &Config::ramadanMode},
+    {"weeklyReport", &Config::weeklyReport},
+    {"travelMode", &Config::travelMode},
+    {"adhanEnabled", &Config::adhanEnabled},
+    {"maghribAngle", &Config::maghribAngle},
+    {"callGraceMinutes", &Config::callGraceMinutes},
+    {"excusedMaxDays", &Config::excusedMaxDays},
+    {"calendarSync", &Config::calendarSync},
+    {"calendarID", &Config::calendarID},
+    {"focusShortcuts", &Config::focusShortcuts},
+    {"strictMode", &Config::strictMode},
+    {"combineWhenTravelling", &Config::combineWhenTravelling},
+};
+
+template <class... F> struct Overloaded : F... { using F::operator()...; };
+template <class... F> Overloaded(F...) -> Overloaded<F...>;
 
 QString typeName(const QJsonValue& v) {
     switch (v.type()) {
@@ -32,112 +95,140 @@ QString typeName(const QJsonValue& v) {
     }
 }
 
-// Reads one key of the object into `out`. Missing keys and null keep `out`; a wrong type sets
-// the error and returns false.
-class Decoder {
-public:
-    explicit Decoder(const QJsonObject& o) : obj(o) {}
+// Fills one field from its JSON value (never absent or null here); the expected type's name
+// when the value has another.
+const char* decodeField(const QJsonValue& v, Config& c, const Member& member) {
+    return std::visit(Overloaded{
+                          [&](QString Config::*m) -> const char* {
+                              if (!v.isString()) return "text";
+                              c.*m = v.toString();
+                              return nullptr;
+                          },
+                          [&](std::optional<QString> Config::*m) -> const char* {
+                              if (!v.isString()) return "text";
+                              c.*m = v.toString();
+                              return nullptr;
+                          },
+                          [&](double Config::*m) -> const char* {
+                              if (!v.isDouble()) return "a number";
+                              c.*m = v.toDouble();
+                              return nullptr;
+                          },
+                          [&](std::optional<double> Config::*m) -> const char* {
+                              if (!v.isDouble()) return "a number";
+                              c.*m = v.toDouble();
+                              return nullptr;
+                          },
+                          [&](std::optional<bool> Config::*m) -> const char* {
+                              if (!v.isBool()) return "a boolean";
+                              c.*m = v.toBool();
+                              return nullptr;
+                          },
+                          [&](QList<double> Config::*m) -> const char* {
+                              if (!v.isArray()) return "an array of numbers";
+                              QList<double> list;
+                              for (const QJsonValue& e : v.toArray()) {
+                                  if (!e.isDouble()) return "an array of numbers";
+                                  list.append(e.toDouble());
+                              }
+                              c.*m = list;
+                              return nullptr;
+                          },
+                          [&](std::optional<TextMap> Config::*m) -> const char* {
+                              if (!v.isObject()) return "an object of texts";
+                              TextMap map;
+                              const QJsonObject o = v.toObject();
+                              for (auto it = o.begin(); it != o.end(); ++it) {
+                                  if (!it.value().isString()) return "an object of texts";
+                                  map.insert(it.key(), it.value().toString());
+                              }
+                              c.*m = map;
+                              return nullptr;
+                          },
+                      },
+                      member);
+}
 
-    bool number(const char* key, double& out) {
-        const QJsonValue v = obj.value(QLatin1String(key));
-        if (absent(v)) return true;
-        if (!v.isDouble()) return fail(key, "a number", v);
-        out = v.toDouble();
-        return true;
-    }
-    bool number(const char* key, std::optional<double>& out) {
-        double d = out.value_or(0);
-        const QJsonValue v = obj.value(QLatin1String(key));
-        if (absent(v)) return true;
-        if (!number(key, d)) return false;
-        out = d;
-        return true;
-    }
-    bool text(const char* key, QString& out) {
-        const QJsonValue v = obj.value(QLatin1String(key));
-        if (absent(v)) return true;
-        if (!v.isString()) return fail(key, "text", v);
-        out = v.toString();
-        return true;
-    }
-    bool text(const char* key, std::optional<QString>& out) {
-        const QJsonValue v = obj.value(QLatin1String(key));
-        if (absent(v)) return true;
-        if (!v.isString()) return fail(key, "text", v);
-        out = v.toString();
-        return true;
-    }
-    bool flag(const char* key, std::optional<bool>& out) {
-        const QJsonValue v = obj.value(QLatin1String(key));
-        if (absent(v)) return true;
-        if (!v.isBool()) return fail(key, "a boolean", v);
-        out = v.toBool();
-        return true;
-    }
-    bool numbers(const char* key, QList<double>& out) {
-        const QJsonValue v = obj.value(QLatin1String(key));
-        if (absent(v)) return true;
-        if (!v.isArray()) return fail(key, "an array of numbers", v);
-        QList<double> list;
-        for (const QJsonValue& e : v.toArray()) {
-            if (!e.isDouble()) return fail(key, "an array of numbers", e);
-            list.append(e.toDouble());
-        }
-        out = list;
-        return true;
-    }
-    bool textMap(const char* key, std::optional<QMap<QString, QString>>& out) {
-        const QJsonValue v = obj.value(QLatin1String(key));
-        if (absent(v)) return true;
-        if (!v.isObject()) return fail(key, "an object of texts", v);
-        QMap<QString, QString> map;
-        const QJsonObject o = v.toObject();
-        for (auto it = o.begin(); it != o.end(); ++it) {
-            if (!it.value().isString()) return fail(key, "an object of texts", it.value());
-            map.insert(it.key(), it.value().toString());
-        }
-        out = map;
-        return true;
-    }
+// Writes one field unless it is an absent optional; false for a number JSON cannot hold.
+bool encodeField(QJsonObject& o, const Config& c, const Field& f) {
+    const QLatin1String key(f.key);
+    return std::visit(Overloaded{
+                          [&](QString Config::*m) {
+                              o.insert(key, c.*m);
+                              return true;
+                          },
+                          [&](double Config::*m) {
+                              o.insert(key, c.*m);
+                              return std::isfinite(c.*m);
+                          },
+                          [&](QList<double> Config::*m) {
+                              QJsonArray list;
+                              bool finite = true;
+                              for (double v : c.*m) {
+                                  finite = finite && std::isfinite(v);
+                                  list.append(v);
+                              }
+                              o.insert(key, list);
+                              return finite;
+                          },
+                          [&](std::optional<TextMap> Config::*m) {
+                              if (!(c.*m)) return true;
+                              QJsonObject map;
+                              for (auto it = (c.*m)->begin(); it != (c.*m)->end(); ++it)
+                                  map.insert(it.key(), it.value());
+                              o.insert(key, map);
+                              return true;
+                          },
+                          [&](auto m) {
+                              if (!(c.*m)) return true;
+                              o.insert(key, *(c.*m));
+                              if constexpr (std::is_same_v<decltype(*(c.*m)), const double&>)
+                                  return std::isfinite(*(c.*m));
+                              return true;
+                          },
+                      },
+                      f.member);
+}
 
-    QString error;
-
-private:
-    static bool absent(const QJsonValue& v) { return v.isUndefined() || v.isNull(); }
-    bool fail(const char* key, const char* expected, const QJsonValue& found) {
-        error = QStringLiteral("%1: expected %2, found %3")
-                    .arg(QLatin1String(key), QLatin1String(expected), typeName(found));
-        return false;
-    }
-    QJsonObject obj;
-};
+int lineOf(const QByteArray& bytes, qsizetype offset) {
+    return int(bytes.left(offset).count('\n')) + 1;
+}
 
 } // namespace
 
+double Config::lockLength() const {
+    return kLock.apply(lockMinutes);
+}
+double Config::leadMinutes() const {
+    return kLead.apply(lockLeadMinutes.value_or(kLead.fallback));
+}
+double Config::jumuahLock() const {
+    return kJumuahLock.apply(jumuahLockMinutes.value_or(kJumuahLock.fallback));
+}
+double Config::callGrace() const {
+    return kCallGrace.apply(callGraceMinutes.value_or(kCallGrace.fallback));
+}
+double Config::excusedDays() const {
+    return kExcusedDays.apply(excusedMaxDays.value_or(kExcusedDays.fallback));
+}
+QList<double> Config::nudgeOffsets() const {
+    QList<double> kept;
+    for (double v : nudgeOffsetsMinutes)
+        if (std::isfinite(v) && v > 0 && v <= kLongestReminder) kept.append(v);
+    return kept;
+}
+
 std::optional<Config> decodeConfig(const QJsonObject& o, QString* error) {
     Config c;
-    Decoder d(o);
-    const bool ok =
-        d.text("locationName", c.locationName) && d.number("latitude", c.latitude) &&
-        d.number("longitude", c.longitude) && d.text("method", c.method) &&
-        d.number("fajrAngle", c.fajrAngle) && d.number("ishaAngle", c.ishaAngle) &&
-        d.number("ishaMinutes", c.ishaMinutes) && d.number("asrFactor", c.asrFactor) &&
-        d.number("lockMinutes", c.lockMinutes) && d.number("lockLeadMinutes", c.lockLeadMinutes) &&
-        d.numbers("nudgeOffsetsMinutes", c.nudgeOffsetsMinutes) &&
-        d.textMap("prayerOverrides", c.prayerOverrides) &&
-        d.flag("jumuahEnabled", c.jumuahEnabled) && d.text("jumuahTime", c.jumuahTime) &&
-        d.number("jumuahLockMinutes", c.jumuahLockMinutes) &&
-        d.flag("ramadanMode", c.ramadanMode) && d.flag("weeklyReport", c.weeklyReport) &&
-        d.flag("travelMode", c.travelMode) && d.flag("adhanEnabled", c.adhanEnabled) &&
-        d.number("maghribAngle", c.maghribAngle) &&
-        d.number("callGraceMinutes", c.callGraceMinutes) &&
-        d.number("excusedMaxDays", c.excusedMaxDays) && d.flag("calendarSync", c.calendarSync) &&
-        d.text("calendarID", c.calendarID) && d.flag("focusShortcuts", c.focusShortcuts) &&
-        d.flag("strictMode", c.strictMode) &&
-        d.flag("combineWhenTravelling", c.combineWhenTravelling);
-    if (!ok) {
-        if (error) *error = d.error;
-        return std::nullopt;
+    for (const Field& f : kFields) {
+        const QJsonValue v = o.value(QLatin1String(f.key));
+        if (v.isUndefined() || v.isNull()) continue;
+        if (const char* expected = decodeField(v, c, f.member)) {
+            if (error)
+                *error = QStringLiteral("%1: expected %2, found %3")
+                             .arg(QLatin1String(f.key), QLatin1String(expected), typeName(v));
+            return std::nullopt;
+        }
     }
     return c;
 }
@@ -147,81 +238,45 @@ std::optional<Config> decodeConfig(const QByteArray& json, QString* error) {
     const QJsonDocument doc = QJsonDocument::fromJson(json, &parse);
     if (parse.error != QJsonParseError::NoError) {
         if (error)
-            *error = QStringLiteral("%1 at offset %2").arg(parse.errorString()).arg(parse.offset);
+            *error = QStringLiteral("line %1: %2")
+                         .arg(lineOf(json, parse.offset))
+                         .arg(parse.errorString());
         return std::nullopt;
     }
     if (!doc.isObject()) {
         if (error) *error = QStringLiteral("the top level is not an object");
         return std::nullopt;
     }
-    return decodeConfig(doc.object(), error);
+    QString why;
+    auto config = decodeConfig(doc.object(), &why);
+    if (!config && error) {
+        // Name the line of the offending key ("latitude: expected …" starts with the key).
+        const QByteArray quoted = '"' + why.section(u':', 0, 0).toUtf8() + '"';
+        const qsizetype at = json.indexOf(quoted);
+        *error = at < 0 ? why : QStringLiteral("line %1: %2").arg(lineOf(json, at)).arg(why);
+    }
+    return config;
 }
 
 std::optional<QJsonObject> encodeConfig(const Config& c) {
     QJsonObject o;
     bool finite = true;
-    auto num = [&](const char* key, double v) {
-        finite = finite && std::isfinite(v);
-        o.insert(QLatin1String(key), v);
-    };
-    auto optNum = [&](const char* key, const std::optional<double>& v) {
-        if (v) num(key, *v);
-    };
-    auto optFlag = [&](const char* key, const std::optional<bool>& v) {
-        if (v) o.insert(QLatin1String(key), *v);
-    };
-    auto optText = [&](const char* key, const std::optional<QString>& v) {
-        if (v) o.insert(QLatin1String(key), *v);
-    };
-    o.insert(QStringLiteral("locationName"), c.locationName);
-    num("latitude", c.latitude);
-    num("longitude", c.longitude);
-    optText("method", c.method);
-    num("fajrAngle", c.fajrAngle);
-    num("ishaAngle", c.ishaAngle);
-    optNum("ishaMinutes", c.ishaMinutes);
-    num("asrFactor", c.asrFactor);
-    num("lockMinutes", c.lockMinutes);
-    optNum("lockLeadMinutes", c.lockLeadMinutes);
-    QJsonArray offsets;
-    for (double v : c.nudgeOffsetsMinutes) {
-        finite = finite && std::isfinite(v);
-        offsets.append(v);
-    }
-    o.insert(QStringLiteral("nudgeOffsetsMinutes"), offsets);
-    if (c.prayerOverrides) {
-        QJsonObject m;
-        for (auto it = c.prayerOverrides->begin(); it != c.prayerOverrides->end(); ++it)
-            m.insert(it.key(), it.value());
-        o.insert(QStringLiteral("prayerOverrides"), m);
-    }
-    optFlag("jumuahEnabled", c.jumuahEnabled);
-    optText("jumuahTime", c.jumuahTime);
-    optNum("jumuahLockMinutes", c.jumuahLockMinutes);
-    optFlag("ramadanMode", c.ramadanMode);
-    optFlag("weeklyReport", c.weeklyReport);
-    optFlag("travelMode", c.travelMode);
-    optFlag("adhanEnabled", c.adhanEnabled);
-    optNum("maghribAngle", c.maghribAngle);
-    optNum("callGraceMinutes", c.callGraceMinutes);
-    optNum("excusedMaxDays", c.excusedMaxDays);
-    optFlag("calendarSync", c.calendarSync);
-    optText("calendarID", c.calendarID);
-    optFlag("focusShortcuts", c.focusShortcuts);
-    optFlag("strictMode", c.strictMode);
-    optFlag("combineWhenTravelling", c.combineWhenTravelling);
+    for (const Field& f : kFields)
+        finite = encodeField(o, c, f) && finite;
     if (!finite) return std::nullopt;
     return o;
 }
 
 Config loadConfig() {
     const auto bytes = readWholeFile(configURL());
+    lastError().reset();
     if (!bytes) return Config();
     QString error;
     if (auto config = decodeConfig(*bytes, &error)) {
         lastGood() = *config;
         return *config;
     }
+    lastError() = error;
     logLine(QStringLiteral("Tarvanel: config.json is invalid (%1); keeping the last good settings")
                 .arg(error));
     return lastGood().value_or(Config());
@@ -234,11 +289,16 @@ void saveConfig(const Config& config) {
     writeFileAtomically(configURL(), QJsonDocument(*object).toJson(QJsonDocument::Indented));
 }
 
+const std::optional<QString>& lastConfigError() {
+    return lastError();
+}
+
 const std::optional<Config>& lastGoodConfig() {
     return lastGood();
 }
 void resetLastGoodConfigForTesting() {
     lastGood().reset();
+    lastError().reset();
 }
 
 } // namespace tarvanel

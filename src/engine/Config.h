@@ -40,15 +40,16 @@ struct Config {
 
     bool operator==(const Config&) const = default;
 
-    // Readers fall back to the same defaults when an optional is absent. A lead that is not a
-    // usable number of minutes (hand-edited to inf or 1e300) counts as absent too.
-    double leadMinutes() const {
-        const double v = lockLeadMinutes.value_or(5);
-        return std::isfinite(v) && std::fabs(v) <= 1e6 ? v : 5;
-    }
-    double jumuahLock() const { return jumuahLockMinutes.value_or(45); }
-    double callGrace() const { return callGraceMinutes.value_or(20); }
-    double excusedDays() const { return excusedMaxDays.value_or(15); }
+    // Readers never see a hand-edited absurdity: every number a decision uses passes through
+    // the bounds of its entry in the settings table (Config.cpp). Absent optionals read as
+    // their defaults.
+    double lockLength() const;
+    double leadMinutes() const;
+    double jumuahLock() const;
+    double callGrace() const;
+    double excusedDays() const;
+    // The reminder minutes worth keeping: finite, above 0 and at most 120, in file order.
+    QList<double> nudgeOffsets() const;
     bool isOn(const std::optional<bool>& flag, bool whenAbsent) const {
         return flag.value_or(whenAbsent);
     }
@@ -66,6 +67,10 @@ std::optional<QJsonObject> encodeConfig(const Config& config);
 Config loadConfig();
 // Pretty, key-sorted, atomic; failures are swallowed.
 void saveConfig(const Config& config);
+
+// Why the last read of config.json failed ("line 3: latitude: expected a number, found text");
+// absent after a read that decoded or found no file.
+const std::optional<QString>& lastConfigError();
 
 // The last config that decoded in this process (absent until one did).
 const std::optional<Config>& lastGoodConfig();

@@ -20,6 +20,8 @@ void runToolAsync(const ToolRun& run, QObject* context,
         *answer = nullptr;
         callback(result);
     };
+    // The context's children go after destroyed(): a tool killed with them answers no one.
+    QObject::connect(context, &QObject::destroyed, process, [answer] { *answer = nullptr; });
     if (!run.captureOutput) process->setStandardOutputFile(QProcess::nullDevice());
     process->setStandardErrorFile(QProcess::nullDevice());
     process->setStandardInputFile(QProcess::nullDevice());

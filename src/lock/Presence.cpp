@@ -1,12 +1,12 @@
 #include "lock/Presence.h"
 
+#include "app/ToolRunner.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QStandardPaths>
 
 namespace tarvanel {
@@ -19,26 +19,6 @@ Roots& roots() {
 }
 
 namespace {
-
-// With a sound server running, devices stay open while idle; its own list of recording
-// streams is the reliable answer. Absent when there is no server or no tool to ask.
-std::optional<bool> soundServerRecording() {
-    const QString tool = roots().soundServerTool;
-    if (tool.isEmpty()) return std::nullopt;
-    const QString program =
-        QFileInfo(tool).isAbsolute() ? tool : QStandardPaths::findExecutable(tool);
-    if (program.isEmpty()) return std::nullopt;
-    QProcess p;
-    p.start(program,
-            {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("source-outputs")});
-    if (!p.waitForFinished(1000)) {
-        p.kill();
-        p.waitForFinished(200);
-        return std::nullopt;
-    }
-    if (p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0) return std::nullopt;
-    return !p.readAllStandardOutput().trimmed().isEmpty();
-}
 
 // Said once per process: the check runs every second while a lock waits.
 void logSkippedOnce(bool& said, const QString& line) {
@@ -73,7 +53,6 @@ bool alsaCaptureRunning() {
 } // namespace
 
 bool micInUse() {
-    if (const std::optional<bool> server = soundServerRecording()) return *server;
     return alsaCaptureRunning();
 }
 
@@ -99,10 +78,45 @@ bool cameraInUse() {
 }
 
 bool inCall() {
-    return micInUse() || cameraInUse();
+    static auto* monitor = new PresenceMonitor; // lives as long as the process
+    return monitor->inCall();
 }
 
 } // namespace Presence
+
+bool PresenceMonitor::inCall() {
+    if (!asking_ && (!answered_.isValid() || answered_.elapsed() >= 1000)) askSoundServer();
+    // With a sound server running, devices stay open while idle: its own list of recording
+    // streams is the reliable answer once it has given one.
+    const bool mic = server_ == Server::idle        ? false
+                     : server_ == Server::recording ? true
+                                                    : Presence::micInUse();
+    return mic || Presence::cameraInUse();
+}
+
+void PresenceMonitor::askSoundServer() {
+    const QString tool = Presence::roots().soundServerTool;
+    const QString program = tool.isEmpty() || QFileInfo(tool).isAbsolute()
+                                ? tool
+                                : QStandardPaths::findExecutable(tool);
+    if (program.isEmpty()) {
+        server_ = Server::absent;
+        answered_.start();
+        return;
+    }
+    asking_ = true;
+    ToolRun run{program,
+                {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("source-outputs")},
+                Presence::roots().soundServerLimitMs,
+                true};
+    runToolAsync(run, this, [this](const ToolResult& r) {
+        asking_ = false;
+        answered_.start();
+        server_ = r.status != 0                  ? Server::absent
+                  : r.output.trimmed().isEmpty() ? Server::idle
+                                                 : Server::recording;
+    });
+}
 
 std::optional<QString> adhanFileURL() {
     for (const char* ext : {"mp3", "m4a", "aiff", "wav"}) {

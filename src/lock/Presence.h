@@ -1,6 +1,9 @@
 #pragma once
-// Whether the user is in a call: any microphone or camera in use by any process. Answered
-// afresh on every call; any failure counts as "not in use".
+// Whether the user is in a call: any microphone or camera in use by any process. Any failure
+// counts as "not in use". The sound server is asked in the background, so the tick never
+// waits for it: it reads the last answer.
+#include <QElapsedTimer>
+#include <QObject>
 #include <QString>
 #include <optional>
 
@@ -8,7 +11,9 @@ namespace tarvanel {
 
 namespace Presence {
 
+// The process-wide monitor's answer.
 bool inCall();
+// A capture substream records (the answer when no sound server runs).
 bool micInUse();
 bool cameraInUse();
 
@@ -18,10 +23,27 @@ struct Roots {
     QString proc = QStringLiteral("/proc");
     QString asound = QStringLiteral("/proc/asound");
     QString soundServerTool = QStringLiteral("pactl");
+    int soundServerLimitMs = 2000;
 };
 Roots& roots();
 
 } // namespace Presence
+
+class PresenceMonitor : public QObject {
+public:
+    using QObject::QObject;
+    // The camera now, and the microphone as the sound server last said (the devices until it
+    // has answered, or when none runs). Asks the server again when its answer is a second old.
+    bool inCall();
+    bool askingSoundServer() const { return asking_; }
+
+private:
+    void askSoundServer();
+    enum class Server { unknown, absent, idle, recording };
+    Server server_ = Server::unknown;
+    bool asking_ = false;
+    QElapsedTimer answered_;
+};
 
 // The adhan file the user installed: ~/.tarvanel/adhan.{mp3,m4a,aiff,wav}, first that exists.
 std::optional<QString> adhanFileURL();

@@ -1,10 +1,14 @@
 // Call presence over fake /proc trees, and the adhan file's order of preference.
 #include "lock/Presence.h"
+#include "app/ToolRunner.h"
 #include "records/StateFiles.h"
 #include "support/TestEnv.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QThread>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
@@ -53,20 +57,87 @@ TEST_F(PresenceTest, DevicesInUseMeanACall) {
     EXPECT_TRUE(Presence::inCall());
 }
 
-TEST_F(PresenceTest, SoundServerAnswerWinsOverDevices) {
-    file("/pactl", "#!/bin/sh\necho '7\t1\t12\tprotocol-native.c\ts16le 1ch 48000Hz'\n");
-    Presence::roots().soundServerTool = root + "/pactl";
-    EXPECT_TRUE(Presence::micInUse());
-
-    file("/pactl", "#!/bin/sh\nexit 0\n");
+// The sound server is asked beside the event loop: the devices answer until it has, a slow
+// server never holds the tick, and a hung one is killed at the limit.
+TEST_F(PresenceTest, SoundServerAnswersLaterAndWinsOverDevices) {
+    const auto settle = [](PresenceMonitor& m) {
+        QElapsedTimer t;
+        t.start();
+        while (m.askingSoundServer() && t.elapsed() < 10000)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    };
     file("/asound/card0/pcm0c/sub0/status", "state: RUNNING\n");
-    EXPECT_FALSE(Presence::micInUse());
+    file("/pactl", "#!/bin/sh\nsleep 0.3\nexit 0\n"); // running, nobody records
+    Presence::roots().soundServerTool = root + "/pactl";
+    PresenceMonitor m;
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(m.inCall()); // the devices, until the server has answered
+    EXPECT_LT(clock.elapsed(), 200);
+    settle(m);
+    EXPECT_FALSE(m.inCall());
 
-    // A failing tool (no server) falls back to the devices.
-    file("/pactl", "#!/bin/sh\nexit 1\n");
-    EXPECT_TRUE(Presence::micInUse());
-    Presence::roots().soundServerTool = root + "/missing-tool";
-    EXPECT_TRUE(Presence::micInUse());
+    file("/pactl", "#!/bin/sh\necho '7\t1\t12\tprotocol-native.c\ts16le 1ch 48000Hz'\n");
+    QThread::msleep(1000);
+    m.inCall(); // a second-old answer: ask again
+    settle(m);
+    EXPECT_TRUE(m.inCall());
+
+    // A hung server is killed at the limit and the devices answer again.
+    file("/pactl", "#!/bin/sh\nexec sleep 30\n");
+    Presence::roots().soundServerLimitMs = 300;
+    QThread::msleep(1000);
+    clock.restart();
+    m.inCall();
+    EXPECT_LT(clock.elapsed(), 200);
+    settle(m);
+    EXPECT_LT(clock.elapsed(), 3000);
+    QFile::remove(root + "/asound/card0/pcm0c/sub0/status");
+    EXPECT_FALSE(m.inCall());
+}
+
+TEST(ToolRunnerTest, AnswersThroughTheEventLoopOnceWhateverHappens) {
+    struct Case {
+        QString program;
+        QStringList args;
+        int limitMs;
+        int status;
+        bool timedOut;
+        QByteArray output;
+    };
+    for (const Case& c : {Case{"/bin/sh", {"-c", "echo hi; exit 3"}, 5000, 3, false, "hi\n"},
+                          Case{"/nonexistent/tool", {}, 5000, -1, false, ""},
+                          Case{"/bin/sh", {"-c", "kill -9 $$"}, 5000, -1, false, ""},
+                          Case{"/bin/sleep", {"30"}, 200, -1, true, ""}}) {
+        SCOPED_TRACE(c.program.toStdString());
+        QObject context;
+        int answers = 0;
+        ToolResult got;
+        runToolAsync({c.program, c.args, c.limitMs, true}, &context, [&](const ToolResult& r) {
+            ++answers;
+            got = r;
+        });
+        EXPECT_EQ(answers, 0); // never synchronously
+        QElapsedTimer t;
+        t.start();
+        while (t.elapsed() < 3000 && answers == 0)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        QThread::msleep(100); // a second answer would be queued by now
+        QCoreApplication::processEvents();
+        EXPECT_EQ(answers, 1);
+        EXPECT_EQ(got.status, c.status);
+        EXPECT_EQ(got.timedOut, c.timedOut);
+        EXPECT_EQ(got.output, c.output);
+    }
+    // A context that goes first takes its tool along and is never called back.
+    int answers = 0;
+    {
+        QObject context;
+        runToolAsync({"/bin/sleep", {"5"}, 5000, false}, &context,
+                     [&](const ToolResult&) { ++answers; });
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(answers, 0);
 }
 
 TEST_F(PresenceTest, AdhanFilePrefersMp3ThenM4aAiffWav) {

@@ -47,7 +47,6 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     platform.tray().setMenuProvider([&delegate] { return delegate.buildMenu(); });
 
     SystemEvents system;
-    system.watchSignals();
     QObject::connect(&system, &SystemEvents::terminateRequested, &app,
                      [&delegate](int) { delegate.terminateRequested(); });
     QObject::connect(&system, &SystemEvents::poweringOff, &app,
@@ -60,13 +59,16 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     QObject::connect(&tick, &QTimer::timeout, &app, [&delegate] { delegate.tick(); });
 
     QTimer::singleShot(0, &app, [&] {
+        // The hand-off and the single-instance lock come first: a copy that ends there has
+        // shown nothing and watched nothing. The title set meanwhile waits in the tray.
+        delegate.launchFinished();
+        system.watchSignals();
         const bool testRun = cl.testLockSeconds.has_value() || cl.testNudge;
         if (!testRun) {
             system.watchPowerOff();
             system.watchShowSettings();
             platform.tray().ensureCreated();
         }
-        delegate.launchFinished();
         tick.start();
     });
     return app.exec();

@@ -226,7 +226,7 @@ std::optional<QString> weeklyReportDue(const Config& cfg, const QDateTime& now,
     for (int i = 0; i < 7; ++i)
         kept += history.value(dayKey(now.addSecs(-86400LL * i))).size();
     const int streak = streakDays(now, cfg.excusedDays(), history, Excused::load());
-    return QStringLiteral("\U0001F4FF  This week: %1/35 prayers at the Mac \u2022 streak %2 day%3")
+    return QStringLiteral("\U0001F4FF  This week: %1/35 prayers at the computer \u2022 streak %2 day%3")
         .arg(kept)
         .arg(streak)
         .arg(streak == 1 ? QString() : QStringLiteral("s"));

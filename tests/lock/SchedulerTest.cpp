@@ -426,7 +426,7 @@ TEST_F(SchedulerTest, WeeklyReportOnSundayEveningOnce) {
     sim.runUntil(at("21:30", sunday));
     EXPECT_EQ(
         sim.timeline("banner: 📿"),
-        QStringList{"21:00:00 banner: 📿  This week: 0/35 prayers at the Mac • streak 0 days"});
+        QStringList{"21:00:00 banner: 📿  This week: 0/35 prayers at the computer • streak 0 days"});
     EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::normal);
 }
 

@@ -160,7 +160,7 @@ TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfTheLocalSundayNine)
     EXPECT_TRUE(fired.isEmpty());
     // 23 February is a week back and not counted.
     EXPECT_EQ(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 5), "2025-03-02", fired),
-              QStringLiteral("\U0001F4FF  This week: 4/35 prayers at the Mac \u2022 "
+              QStringLiteral("\U0001F4FF  This week: 4/35 prayers at the computer \u2022 "
                              "streak 2 days"));
     EXPECT_TRUE(fired.contains("2025-03-02-weekly"));
     EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 6), "2025-03-02", fired));

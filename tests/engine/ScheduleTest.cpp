@@ -104,6 +104,7 @@ TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverride) {
     cfg.jumuahEnabled = false;
     EXPECT_EQ(fridayDhuhr(), Dhuhr(false, "12:15"));
     cfg.jumuahEnabled.reset(); // absent counts as enabled
+    EXPECT_EQ(fridayDhuhr(), Dhuhr(true, "13:30"));
     cfg.jumuahTime = "13:75";
     EXPECT_EQ(fridayDhuhr(), Dhuhr(false, "12:15"));
     cfg.jumuahTime.reset();

@@ -41,6 +41,12 @@ Config fixedTimesConfig(const QString& fajr, const QString& dhuhr, const QString
 DaySimulator::DaySimulator(const std::optional<Config>& cfg, const QDateTime& start,
                            const CommandLine& cl)
     : now(start) {
+    platform.whileModal = [this] {
+        for (int i = 0; i < modalTicks; ++i) {
+            now = now.addSecs(1);
+            app->tick();
+        }
+    };
     setLogSink([this](const QString& line) { logs << line; });
     if (cfg) saveConfig(*cfg);
     makeApp(cl);

@@ -48,6 +48,7 @@ public:
     bool inCall = false;
     int callChecks = 0;
     std::deque<std::optional<bool>> didPrayAnswers; // empty: the question goes to the alert
+    int modalTicks = 2; // seconds that tick by while each modal question is open
 
     // The launch callback at the current instant.
     void launch();

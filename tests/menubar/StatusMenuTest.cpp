@@ -97,7 +97,8 @@ TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
     EXPECT_EQ(loadHistory(), before);
 }
 
-// The mode lines and commands, each showing at once in the title.
+// The mode lines and commands, each showing at once in the title. Every question runs ticks
+// while it is open, as the desktop's nested event loop does; the answer still takes effect.
 TEST_F(StatusMenuTest, ModeLinesAndCommands) {
     Config cfg = fixedTimesConfig();
     cfg.combineWhenTravelling = true;
@@ -123,6 +124,7 @@ TEST_F(StatusMenuTest, ModeLinesAndCommands) {
 
     pick("Resume Locks").action();
     EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
+    EXPECT_TRUE(sim.logs.contains("Tarvanel: resumed"));
     pick("Stop Travelling").action();
     EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
     EXPECT_FALSE(has("⏸"));
@@ -137,21 +139,42 @@ TEST_F(StatusMenuTest, ModeLinesAndCommands) {
               QStringList({"For the Rest of Today", "For 3 Days", "For a Week"}));
     EXPECT_EQ(pause.submenu[2].tag, 7);
 
+    // Paused for the rest of today: Dhuhr's lock does not come.
     sim.platform.answerAlert(1000);
     pause.submenu[0].action();
+    EXPECT_EQ(sim.platform.alerts.last().info,
+              "No reminders and no locks until Thursday 15 January at midnight. You can resume "
+              "any time from the menu.");
     EXPECT_EQ(sim.platform.title, "🕌 Paused");
+    EXPECT_TRUE(sim.logs.contains("Tarvanel: paused until 2026-01-15 00:00:00 +0000"));
+    sim.runUntil(at("13:20"));
+    EXPECT_EQ(sim.whats(""), QStringList{"alert: Pause Tarvanel?"}); // no reminder, no lock
+
     pick("Resume Locks").action();
     sim.platform.dateAnswers.push_back(kDay);
     pick("I'm Travelling…").action();
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
+    EXPECT_EQ(sim.platform.alerts.last().info,
+              "Dhuhr and Asr become one lock, and so do Maghrib and Isha, through the end of "
+              "this day.");
+    EXPECT_EQ(sim.platform.title, "🕌 Maghrib & Isha in 3h 9m");
+    EXPECT_TRUE(has("Stop Travelling"));
+    EXPECT_FALSE(has("I'm Travelling…"));
 
     sim.platform.answerAlert(1000);
     pick("I'm Excused…").action();
+    EXPECT_EQ(sim.platform.alerts.last().info,
+              "They come back when you choose No Longer Excused, or after 15 days. Your streak "
+              "is kept.");
     EXPECT_EQ(sim.platform.title, "🕌");
     EXPECT_EQ(sim.platform.titleColor, TitleColor::Secondary);
     EXPECT_TRUE(has("Excused · reminders and locks are off"));
     pick("No Longer Excused").action();
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr & Asr in 1h 0m");
+    EXPECT_EQ(sim.platform.title, "🕌 Maghrib & Isha in 3h 9m");
+
+    // A pause written by hand shows at the next tick.
+    writeFile(UserDefaults::defaultPath(), "[General]\npausedUntil=2026-01-14T20:00:00Z\n");
+    sim.step();
+    EXPECT_EQ(sim.platform.title, "🕌 Paused");
 }
 
 TEST_F(StatusMenuTest, MarkingTheWaitingPrayerDropsItsLock) {

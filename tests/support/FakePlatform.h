@@ -39,6 +39,9 @@ public:
     std::deque<std::optional<QDate>> dateAnswers;
     std::deque<std::optional<QString>> savePathAnswers;
 
+    // Runs while a modal question is open, as the desktop's nested event loop keeps ticking.
+    std::function<void()> whileModal;
+
     void answerAlert(int response, bool checkBox = false) {
         alertAnswers.push_back({response, checkBox});
     }
@@ -74,13 +77,16 @@ public:
     }
     AlertAnswer showAlert(const AlertRequest& request) override {
         alerts << request;
+        modal();
         return next(alertAnswers, AlertAnswer{1001, false});
     }
     std::optional<QDate> askDate(const AlertRequest& request, const QDate&, const QDate&) override {
         alerts << request;
+        modal();
         return next(dateAnswers, std::optional<QDate>());
     }
     std::optional<QString> askSavePath(const QString&) override {
+        modal();
         return next(savePathAnswers, std::optional<QString>());
     }
     void openUrl(const QString& url) override { openedUrls << url; }
@@ -97,6 +103,14 @@ public:
     void exitProcess(int status) override { exitStatus = status; }
 
 private:
+    void modal() {
+        if (!whileModal || inModal_) return;
+        inModal_ = true;
+        whileModal();
+        inModal_ = false;
+    }
+    bool inModal_ = false;
+
     template <typename T> static T next(std::deque<T>& answers, T fallback) {
         if (answers.empty()) return fallback;
         T a = answers.front();

@@ -144,4 +144,11 @@ QStringList DaySimulator::logsContaining(const QString& part) const {
     return out;
 }
 
+QStringList DaySimulator::menuTexts() const {
+    QStringList out;
+    for (const MenuItem& item : app->buildMenu())
+        out << item.text;
+    return out;
+}
+
 } // namespace tarvanel::test

@@ -69,6 +69,8 @@ public:
     QStringList times(const QString& prefix) const { return listed(prefix, true, false); }
     QStringList timeline(const QString& prefix = {}) const { return listed(prefix, true, true); }
     QStringList logsContaining(const QString& part) const;
+    // The texts of the status menu's top level, as it would open now.
+    QStringList menuTexts() const;
 
 private:
     void makeApp(const CommandLine& cl);

@@ -28,7 +28,7 @@ TEST_F(LockSessionTest, ClockJumpsInsideALockKeepTheStateConsistent) {
     EXPECT_EQ(sim.app->lockState()->countdown(), "Screen unlocks in 10:00");
     sim.runUntil(at("13:01"));
     EXPECT_EQ(sim.times("unlock"), QStringList{"13:00:01"});
-    EXPECT_EQ(sim.eventsStarting("lock:").size(), 1); // Dhuhr's window is open again, but done
+    EXPECT_EQ(sim.whats("lock:").size(), 1); // Dhuhr's window is open again, but done
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
 
     sim.runUntil(at("15:00"));

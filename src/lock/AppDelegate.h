@@ -126,8 +126,7 @@ private:
     void recordKept(const QString& key, const std::optional<QString>& partner);
     void setStatusTitle(const QString& title, TitleColor color);
     void updateStatusTitle(const QDateTime& now);
-    // Runs `command` unless the controller is gone (menu items outlive nothing, but a posted
-    // or queued call might).
+    // `command` holding the controller weakly, as every callback handed out does.
     std::function<void()> weak(void (AppDelegate::*command)());
 
     Platform& platform_;

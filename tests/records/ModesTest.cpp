@@ -4,7 +4,6 @@
 #include "records/Log.h"
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
-#include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 
 #include <QDir>
@@ -21,7 +20,6 @@ protected:
         setLogSink([this](const QString& line) { logs << line; });
     }
     QStringList logs;
-    test::FakePlatform platform;
 };
 class ExcusedTest : public ModesTest {};
 

@@ -1,5 +1,6 @@
 // The controller's per-second cost: an idle tick, the evening title, the menu, a whole day.
 #include "engine/Config.h"
+#include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "lock/AppDelegate.h"
@@ -109,6 +110,19 @@ void BM_TomorrowScheduleUncached(benchmark::State& state) {
         benchmark::DoNotOptimize(effectiveTimes(now.addSecs(86400), cfg));
 }
 BENCHMARK(BM_TomorrowScheduleUncached);
+
+// The per-day answers the controller keeps (lock/TodaySchedule.h), had they been made every
+// tick: with the schedule itself (BM_TomorrowScheduleUncached) they would not fit in 20 µs.
+void BM_DayAnswersUncached(benchmark::State& state) {
+    const QDateTime now = localTime(21, 0);
+    for (auto _ : state) {
+        const QDate date = localDate(now);
+        benchmark::DoNotOptimize(dayKey(date));
+        benchmark::DoNotOptimize(startOfLocalDay(date.addDays(1)));
+        benchmark::DoNotOptimize(isRamadan(now));
+    }
+}
+BENCHMARK(BM_DayAnswersUncached);
 
 void BM_BuildMenu(benchmark::State& state) {
     Fixture f(localTime(12, 0));

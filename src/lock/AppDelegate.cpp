@@ -1,32 +1,26 @@
 // The controller's life: creation, launch, settings reload and apply, termination, and the
-// small schedule helpers the tick, the title and the menu share.
+// schedule helpers the tick, the title and the menu share.
 #include "lock/AppDelegate.h"
 
 #include "app/Agent.h"
-#include "engine/Hijri.h"
 #include "engine/LocalTime.h"
-#include "engine/Schedule.h"
-#include "guardian/Guardian.h"
+#include "lock/DayRules.h"
 #include "lock/Presence.h"
-#include "records/Excused.h"
 #include "records/History.h"
 #include "records/LockState.h"
 #include "records/Log.h"
-#include "records/Modes.h"
 #include "records/StateFiles.h"
 #include "records/TravelLocator.h"
-#include "records/UserDefaults.h"
 
 #include <QFile>
-#include <cmath>
 
 namespace tarvanel {
 
 AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* parent)
     : QObject(parent), clock(systemNow), callCheck(Presence::inCall), platform_(platform),
-      lockState_(new LockScreenState(this)), config_(loadConfig()),
-      defaults_(std::make_unique<UserDefaults>()), travel_(new TravelLocator(this)),
-      configPath_(QFile::encodeName(configURL())), completedLocks_(loadCompletedLocks()) {
+      config_(loadConfig()), configPath_(QFile::encodeName(configURL())),
+      travel_(new TravelLocator(this)), session_(platform, this), reminders_(platform),
+      completedLocks_(loadCompletedLocks()) {
     travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
         if (self) self->invalidateSchedule();
     };
@@ -35,10 +29,6 @@ AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* par
 }
 
 AppDelegate::~AppDelegate() = default;
-
-LockScreenState* AppDelegate::lockState() {
-    return lockState_;
-}
 
 void AppDelegate::launchFinished() {
     if (launched_) return;
@@ -65,7 +55,7 @@ void AppDelegate::launchFinished() {
         return;
     }
     if (testNudge_) {
-        showNudge(QStringLiteral("Asr"), 10, 10);
+        reminders_.showNudge(QStringLiteral("Asr"), 10, 10);
         platform_.singleShot(17000, [self = QPointer<AppDelegate>(this)] {
             if (self) self->platform_.exitProcess(0);
         });
@@ -80,7 +70,7 @@ void AppDelegate::launchFinished() {
 }
 
 void AppDelegate::screensChanged() {
-    if (lockEnd_) buildLockWindows();
+    if (session_.isLocked()) session_.rebuildWindows();
 }
 
 void AppDelegate::showSettingsRequested() {
@@ -105,7 +95,7 @@ bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
     if (stamp == configStamp_) return false;
     configStamp_ = stamp;
     config_ = loadConfig();
-    cachedDayKey_.clear();
+    today_.invalidate();
     logLine(QStringLiteral("Tarvanel: config reloaded"));
     return true;
 }
@@ -113,26 +103,11 @@ bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
 void AppDelegate::applyConfig(const Config& cfg) {
     saveConfig(cfg);
     config_ = cfg;
-    // Calendar blocking is a separate piece of work; nothing to sync here yet.
+    // Calendar blocking is a separate piece of work; its sync on save goes here.
     configStamp_ = FileStamp::of(configPath_); // our own write is not an outside change
-    cachedDayKey_.clear();
-    clearTravelLocation();
+    today_.invalidate();
+    travel_->clear();
     tick();
-}
-
-const QString& AppDelegate::dayKeyOf(const QDateTime& now) {
-    if (dayKeyCache_.isEmpty() || now < dayStart_ || now >= nextDayStart_) {
-        const QDate date = localDate(now);
-        dayKeyCache_ = dayKey(date);
-        dayStart_ = startOfLocalDay(date);
-        nextDayStart_ = startOfLocalDay(date.addDays(1));
-        if (!dayStart_.isValid() || !nextDayStart_.isValid()) {
-            // A day the zone cannot represent: never trust the cache for it.
-            dayStart_ = now;
-            nextDayStart_ = now;
-        }
-    }
-    return dayKeyCache_;
 }
 
 const DayTimes& AppDelegate::todaysTimes() {
@@ -141,43 +116,24 @@ const DayTimes& AppDelegate::todaysTimes() {
 }
 
 const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {
-    const QString& today = dayKeyOf(now);
-    if (today != cachedDayKey_) {
-        const EffectiveTimes eff = effectiveTimes(now, activeConfig());
-        cachedWaqt_ = eff.waqt;
-        cachedTimes_ = eff.final;
-        cachedJumuah_ = eff.jumuah;
-        cachedDayKey_ = today;
-        ++scheduleGeneration_;
-        for (int i = 0; i < int(slots_.size()); ++i) {
-            PrayerSlot& slot = slots_[size_t(i)];
-            slot.name = prayerNames()[i];
-            slot.lockKey = today + QLatin1Char('-') + slot.name;
-            slot.nudgeKeys.clear();
-            for (double offset : config_.nudgeOffsetsMinutes)
-                slot.nudgeKeys << slot.lockKey + QLatin1Char('-') +
-                                      QString::number(qint64(std::trunc(offset)));
-            const std::optional<QDateTime> t = cachedTimes_.value(slot.name);
-            slot.valid = t && t->isValid();
-            slot.at = slot.valid ? t->toMSecsSinceEpoch() : 0;
-        }
-        // Keys of earlier days go. Keys of a later day stay: the clock went back over midnight
-        // (NTP, a hand correction) and those prayers are done all the same.
+    if (today_.update(now, activeConfig())) {
+        // Only keys of today stay: a clock that ran a day ahead and was put back must not
+        // keep that day's real locks from happening.
+        const QString& today = today_.dayKey();
         auto keepToday = [&today](QSet<QString>& keys) {
             for (auto it = keys.begin(); it != keys.end();)
-                it = QStringView(*it).left(10) >= QStringView(today) ? std::next(it)
-                                                                     : keys.erase(it);
+                it = it->startsWith(today) ? std::next(it) : keys.erase(it);
         };
         keepToday(firedNudges_);
         keepToday(completedLocks_);
-        saveLocks();
+        saveCompletedLocks(completedLocks_);
     }
-    return cachedTimes_;
+    return today_.times();
 }
 
 Config AppDelegate::activeConfig() const {
     Config cfg = config_;
-    if (const auto coords = travelCoords()) {
+    if (const auto& coords = travel_->travelCoords()) {
         cfg.latitude = coords->lat;
         cfg.longitude = coords->lon;
         cfg.locationName = coords->name;
@@ -185,116 +141,35 @@ Config AppDelegate::activeConfig() const {
     return cfg;
 }
 
-bool AppDelegate::combiningPrayers(const QDateTime& now) {
-    if (!config_.isOn(config_.combineWhenTravelling, false)) return false;
-    const auto until = travellingUntil();
-    return (until && *until > now) || travelCoords().has_value();
+bool AppDelegate::travelLocationKnown() const {
+    return travel_->travelCoords().has_value();
 }
 
-std::optional<QString> AppDelegate::combinedPartner(const QString& name) const {
-    if (name == QLatin1String("Dhuhr") && !cachedJumuah_) return QStringLiteral("Asr");
-    if (name == QLatin1String("Maghrib")) return QStringLiteral("Isha");
-    return std::nullopt;
-}
-
-bool AppDelegate::isCombinedAway(const QString& name) const {
-    return (name == QLatin1String("Asr") && !cachedJumuah_) || name == QLatin1String("Isha");
-}
-
-QString AppDelegate::lockName(const QString& name, bool combining) const {
-    const bool dhuhr = name == QLatin1String("Dhuhr");
-    if (dhuhr && cachedJumuah_) return QStringLiteral("Jumu'ah");
-    if (combining && dhuhr) return name + QStringLiteral(" & Asr");
-    if (combining && name == QLatin1String("Maghrib")) return name + QStringLiteral(" & Isha");
-    return name;
-}
-
-double AppDelegate::lockDuration(const QString& name) const {
-    if (name == QLatin1String("Dhuhr") && cachedJumuah_) return config_.jumuahLock();
-    return config_.lockMinutes;
-}
-
-// The Hijri month of a local day never changes within it.
-bool AppDelegate::ramadanToday(const QDateTime& now) {
-    const QString& today = dayKeyOf(now);
-    if (!ramadanCache_ || ramadanDay_ != today) {
-        ramadanCache_ = isRamadan(now);
-        ramadanDay_ = today;
-    }
-    return *ramadanCache_;
-}
-
-bool AppDelegate::configExists() const {
-    return QFile::exists(configURL());
-}
-
-void AppDelegate::saveLocks() {
-    saveCompletedLocks(completedLocks_);
+bool AppDelegate::combiningPrayers(const QDateTime& now) const {
+    return config_.isOn(config_.combineWhenTravelling, false) &&
+           modes_.isTravelling(now, travelLocationKnown());
 }
 
 void AppDelegate::recordKept(const QString& key, const std::optional<QString>& partner) {
     logKept(key, partner, completedLocks_);
 }
 
-bool AppDelegate::guardianIsSet() const {
-    return Guardian::isSet();
+void AppDelegate::setStatusTitle(const QString& title, TitleColor color) {
+    if (titleSet_ && title == lastTitle_ && color == lastTitleColor_) return;
+    titleSet_ = true;
+    lastTitle_ = title;
+    lastTitleColor_ = color;
+    platform_.setStatusTitle(title, color);
 }
 
-AppDelegate::GuardianAnswer AppDelegate::verifyGuardian(const QString& code, const QDateTime& at) {
-    switch (Guardian::verify(code, at)) {
-    case Guardian::Check::ok:
-        return GuardianAnswer::ok;
-    case Guardian::Check::tooManyTries:
-        return GuardianAnswer::tooManyTries;
-    case Guardian::Check::wrong:
-        break;
-    }
-    return GuardianAnswer::wrong;
-}
-
-bool AppDelegate::excusedNow(const QDateTime& now) {
-    return Excused::current(config_.excusedDays(), now).has_value();
-}
-
-// Only this process writes the two mode instants (the running copy is the only one), so they
-// are read at the first need and again after each of our own writes, not on every tick.
-void AppDelegate::refreshModes() {
-    if (modesFresh_) return;
-    modesFresh_ = true;
-    pausedCache_ = defaults_->pausedUntil();
-    travellingCache_ = defaults_->travellingUntil();
-}
-
-std::optional<QDateTime> AppDelegate::pausedUntil() {
-    refreshModes();
-    return pausedCache_;
-}
-void AppDelegate::clearPause() {
-    defaults_->setPausedUntil(std::nullopt);
-    modesFresh_ = false;
-}
-std::optional<QDateTime> AppDelegate::travellingUntil() {
-    refreshModes();
-    return travellingCache_;
-}
-void AppDelegate::clearTravellingUntil() {
-    defaults_->setTravellingUntil(std::nullopt);
-    modesFresh_ = false;
-}
-
-std::optional<TravelCoords> AppDelegate::travelCoords() const {
-    return travel_->travelCoords();
-}
-void AppDelegate::checkTravelLocation(const QDateTime& now) {
-    travel_->check(config_, now);
-}
-void AppDelegate::clearTravelLocation() {
-    travel_->clear();
-}
-
-void AppDelegate::checkWeeklyReport(const QDateTime& now, const QString& dayKey) {
-    if (const std::optional<QString> text = weeklyReportDue(config_, now, dayKey, firedNudges_))
-        showBanner(*text, std::nullopt, BannerStyle::normal);
+void AppDelegate::updateStatusTitle(const QDateTime& now) {
+    const std::optional<Title> title = tarvanel::statusTitle(TitleView{
+        now, today_.times(),
+        session_.isLocked() ? std::optional<QString>(session_.prayer()) : std::nullopt,
+        combiningPrayers(now), today_.jumuah(),
+        today_.ramadan() && config_.isOn(config_.ramadanMode, true), config_.leadMinutes(),
+        [this, &now] { return today_.tomorrowsFajr(now, activeConfig()); }});
+    if (title) setStatusTitle(title->text, title->color);
 }
 
 } // namespace tarvanel

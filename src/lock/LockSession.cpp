@@ -1,83 +1,74 @@
-// Starting and ending a lock, its windows and the guardian code typed on them.
+#include "lock/LockSession.h"
+
 #include "engine/Quotes.h"
-#include "lock/AppDelegate.h"
+#include "guardian/Guardian.h"
 #include "lock/Presence.h"
 #include "records/Log.h"
 #include "records/Modes.h"
 
 namespace tarvanel {
 
-void AppDelegate::startLock(const QString&, const QString& displayName, const QDateTime& until) {
-    if (lockEnd_) return; // the first lock's end stands
-    lockPrayer_ = displayName;
-    lockEnd_ = until;
-    lockLastSeen_ = QDateTime();
+LockSession::LockSession(Platform& platform, QObject* owner)
+    : platform_(platform), state_(new LockScreenState(owner)) {}
+
+bool LockSession::start(const QString& displayName, const QDateTime& until,
+                        const std::optional<QString>& key, const std::optional<QString>& partner,
+                        const Config& cfg) {
+    if (end_) return false;
+    prayer_ = displayName;
+    end_ = until;
+    key_ = key;
+    partner_ = partner;
+    lastSeen_ = QDateTime();
     guardianBuffer_.clear();
     guardianMessage_.clear();
     logLine(QStringLiteral("Tarvanel: locked for ") + displayName + QStringLiteral(" until ") +
             defaultDescription(until));
     platform_.closeBanner();
     platform_.activateApp();
-    buildLockWindows();
-
+    rebuildWindows();
     const std::optional<QString> adhan =
-        config_.isOn(config_.adhanEnabled, true) ? adhanFileURL() : std::nullopt;
+        cfg.isOn(cfg.adhanEnabled, true) ? adhanFileURL() : std::nullopt;
     if (!adhan || !platform_.playSoundFile(*adhan))
         platform_.playNamedSound(QStringLiteral("Blow"));
-
-    if (config_.isOn(config_.focusShortcuts, false) && completedLocksKeyPending_) {
-        // Focus shortcuts are a separate piece of work; remember that this lock asked for one.
-        focusOn_ = true;
-    }
+    return true;
 }
 
-void AppDelegate::buildLockWindows() {
-    lockState_->setGuardian(guardianIsSet() ? guardianLine() : QString());
+bool LockSession::tick(const QDateTime& now) {
+    if (lastSeen_.isValid() && now < lastSeen_) end_ = end_->addMSecs(-now.msecsTo(lastSeen_));
+    lastSeen_ = now;
+    if (now >= *end_) return true;
+    platform_.activateApp();
+    platform_.raiseLockWindows(Guardian::isSet());
+    const qint64 s = now.msecsTo(*end_) / 1000;
+    state_->setCountdown(QString::asprintf("Screen unlocks in %lld:%02lld", s / 60, s % 60));
+    return false;
+}
+
+LockSession::Ended LockSession::close() {
+    platform_.closeLockWindows();
+    state_->setCountdown(QString());
+    state_->setGuardian(QString());
+    guardianBuffer_.clear();
+    end_.reset();
+    lastSeen_ = QDateTime();
+    Ended ended{prayer_, key_, partner_};
+    prayer_.clear();
+    key_.reset();
+    partner_.reset();
+    return ended;
+}
+
+void LockSession::rebuildWindows() {
+    state_->setGuardian(Guardian::isSet() ? guardianLine() : QString());
     QList<LockWindowContent> perScreen;
     const int screens = std::max(platform_.screenCount(), 1);
     for (int i = 0; i < screens; ++i)
-        perScreen << LockWindowContent{lockPrayer_, pickQuote(lockPrayer_)};
-    platform_.showLockWindows(perScreen, lockState_);
+        perScreen << LockWindowContent{prayer_, pickQuote(prayer_)};
+    platform_.showLockWindows(perScreen, state_);
 }
 
-void AppDelegate::endLock(bool early) {
-    platform_.closeLockWindows();
-    lockState_->setCountdown(QString());
-    lockState_->setGuardian(QString());
-    guardianBuffer_.clear();
-    lockEnd_.reset();
-    lockLastSeen_ = QDateTime();
-    focusOn_ = false; // Focus shortcuts would be switched off here.
-
-    const QString name = lockPrayer_;
-    lockPrayer_.clear();
-    if (completedLocksKeyPending_) {
-        const QString key = *completedLocksKeyPending_;
-        const std::optional<QString> partner = combinedPending_;
-        completedLocksKeyPending_.reset();
-        combinedPending_.reset();
-        if (!early) {
-            if (config_.isOn(config_.strictMode, false)) {
-                strict_ = StrictPending{key, partner, name};
-                platform_.post([self = QPointer<AppDelegate>(this)] {
-                    if (self) self->askStrict();
-                });
-            } else {
-                recordKept(key, partner);
-            }
-        } else {
-            completedLocks_.insert(key);
-            saveLocks();
-            logLine(QStringLiteral("Tarvanel: ") + name +
-                    QStringLiteral(" lock ended early with the guardian code"));
-        }
-    }
-    platform_.playNamedSound(QStringLiteral("Glass"));
-    logLine(QStringLiteral("Tarvanel: unlocked after ") + name);
-    if (exitAfterTest_) platform_.exitProcess(0);
-}
-
-QString AppDelegate::guardianLine() const {
+QString LockSession::guardianLine() const {
     const qsizetype n = guardianBuffer_.size();
     if (n > 0) {
         QStringList symbols;
@@ -89,44 +80,34 @@ QString AppDelegate::guardianLine() const {
     return QStringLiteral("Emergency? Type your guardian's 6-digit code");
 }
 
-void AppDelegate::lockKey(LockKey key, const QString& text) {
-    switch (key) {
-    case LockKey::Escape:
+bool LockSession::keyInput(LockKey key, const QString& text, const QDateTime& now) {
+    if (key == LockKey::Escape) {
         guardianBuffer_.clear();
         guardianMessage_.clear();
-        lockState_->setGuardian(guardianLine());
-        break;
-    case LockKey::Backspace:
-        guardianKeyInput(QString(), true);
-        break;
-    case LockKey::Other:
-        guardianKeyInput(text, false);
-        break;
+        state_->setGuardian(guardianLine());
+        return false;
     }
-}
-
-void AppDelegate::guardianKeyInput(const QString& text, bool del) {
-    if (!guardianIsSet() || !lockEnd_) return;
-    if (del && !guardianBuffer_.isEmpty()) guardianBuffer_.chop(1);
+    if (!Guardian::isSet() || !end_) return false;
+    if (key == LockKey::Backspace && !guardianBuffer_.isEmpty()) guardianBuffer_.chop(1);
     for (const QChar c : text)
         if (c.isNumber()) guardianBuffer_ += c;
     guardianMessage_.clear();
     if (guardianBuffer_.size() >= 6) {
         const QString code = guardianBuffer_.left(6);
         guardianBuffer_.clear();
-        switch (verifyGuardian(code, currentTime())) {
-        case GuardianAnswer::ok:
-            endLock(true);
-            return;
-        case GuardianAnswer::wrong:
+        switch (Guardian::verify(code, now)) {
+        case Guardian::Check::ok:
+            return true;
+        case Guardian::Check::wrong:
             guardianMessage_ = QStringLiteral("That code didn't work");
             break;
-        case GuardianAnswer::tooManyTries:
+        case Guardian::Check::tooManyTries:
             guardianMessage_ = QStringLiteral("Too many tries. Try again in 5 minutes");
             break;
         }
     }
-    lockState_->setGuardian(guardianLine());
+    state_->setGuardian(guardianLine());
+    return false;
 }
 
 } // namespace tarvanel

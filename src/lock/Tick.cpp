@@ -1,21 +1,16 @@
-// The one-second tick: the single decision point of the running program.
+// The one-second tick, the single decision point of the running program, and the road of a
+// lock from its start to what its end records.
 #include "app/Agent.h"
 #include "lock/AppDelegate.h"
+#include "lock/DayRules.h"
+#include "lock/Scheduler.h"
+#include "records/Excused.h"
+#include "records/LockState.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
-
-#include <QFile>
-#include <cmath>
+#include "records/TravelLocator.h"
 
 namespace tarvanel {
-
-namespace {
-
-qint64 minutesMs(double minutes) {
-    return qint64(std::llround(minutes * 60000.0));
-}
-
-} // namespace
 
 void AppDelegate::tick() {
     const QDateTime now = currentTime();
@@ -23,20 +18,23 @@ void AppDelegate::tick() {
 
     // 1. Not set up. One stat of the settings file serves this check and the reload.
     const FileStamp configStamp = FileStamp::of(configPath_);
-    if (!lockEnd_ && !testLockSeconds_ && !configStamp.exists) {
+    if (!session_.isLocked() && !testLockSeconds_ && !configStamp.exists) {
         setStatusTitle(QStringLiteral("🕌 Set up"), TitleColor::Orange);
         return;
     }
-    // 2–4. Keep the schedule and its inputs current.
-    checkTravelLocation(now);
+    // 2–4. Keep the schedule and its inputs current: one stat each for the settings and the
+    // pause/travel file.
+    travel_->check(config_, now);
     reloadIfChanged(configStamp);
-    const DayTimes& times = scheduleFor(now);
-    const QString dayKey = cachedDayKey_;
-    // Calendar blocking is a separate piece of work; no daily sync here yet.
+    modes_.refresh();
+    scheduleFor(now);
+    const QString dayKey = today_.dayKey();
+    // Calendar blocking is a separate piece of work; its once-a-day sync of dayKey goes here.
 
     // 5. A running lock wins over everything.
-    if (lockEnd_) {
-        runLockTick(times, now);
+    if (session_.isLocked()) {
+        if (session_.tick(now)) endLock(false);
+        updateStatusTitle(now);
         return;
     }
     // 6. An open "Did you pray?" holds everything, the title included.
@@ -49,16 +47,16 @@ void AppDelegate::tick() {
         return;
     }
     // 8. Pause.
-    if (const auto paused = pausedUntil()) {
+    if (const auto paused = modes_.pausedUntil(now)) {
         if (now < *paused) {
             setStatusTitle(QStringLiteral("🕌 Paused"), TitleColor::Secondary);
             return;
         }
-        clearPause();
+        modes_.setPausedUntil(std::nullopt);
     }
     // 9. Travel expiry.
-    if (const auto travelling = travellingUntil(); travelling && now >= *travelling)
-        clearTravellingUntil();
+    if (const auto travelling = modes_.travellingUntil(now); travelling && now >= *travelling)
+        modes_.setTravellingUntil(std::nullopt);
 
     // 10. A lock waiting for a call.
     if (deferred_) {
@@ -72,94 +70,104 @@ void AppDelegate::tick() {
         }
         const DeferredLock d = *deferred_;
         deferred_.reset();
-        completedLocksKeyPending_ = d.key;
-        combinedPending_ = combiningPrayers(now) ? combinedPartner(d.prayer) : std::nullopt;
-        startLock(d.prayer, d.displayName, now.addMSecs(minutesMs(lockDuration(d.prayer))));
-        updateStatusTitle(times, now);
+        const bool jumuah = today_.jumuah();
+        startDueLock(d, combiningPrayers(now) ? combinedPartner(d.prayer, jumuah) : std::nullopt,
+                     now.addMSecs(minutesMs(lockDuration(d.prayer, jumuah, config_))));
+        updateStatusTitle(now);
         return;
     }
     // 11. Excused.
-    if (excusedNow(now)) {
+    if (Excused::current(config_.excusedDays(), now)) {
         setStatusTitle(QStringLiteral("🕌"), TitleColor::Secondary);
         return;
     }
-    // 12–13. The five prayers.
-    walkPrayers(now);
-
-    // 14. The day's one-off banners, only while nothing locks.
-    if (!lockEnd_) {
-        checkFajrEndWarning(now, dayKey);
-        checkTarawihNudge(now, dayKey, times);
-        checkWeeklyReport(now, dayKey);
-    }
-    // 15.
-    updateStatusTitle(times, now);
-}
-
-void AppDelegate::runLockTick(const DayTimes& times, const QDateTime& now) {
-    // A clock that went backwards (NTP, a manual change) would stretch the lock; keep the
-    // time that was left at the previous tick instead.
-    if (lockLastSeen_.isValid() && now < lockLastSeen_)
-        lockEnd_ = lockEnd_->addMSecs(now.msecsTo(lockLastSeen_) * -1);
-    lockLastSeen_ = now;
-
-    if (now >= *lockEnd_) {
-        endLock(false);
-    } else {
-        platform_.activateApp();
-        platform_.raiseLockWindows(guardianIsSet());
-        const qint64 s = now.msecsTo(*lockEnd_) / 1000;
-        lockState_->setCountdown(
-            QString::asprintf("Screen unlocks in %lld:%02lld", s / 60, s % 60));
-    }
-    updateStatusTitle(times, now);
-}
-
-// The slots made with the schedule carry the same instants as `times`.
-bool AppDelegate::walkPrayers(const QDateTime& now) {
-    const bool combining = combiningPrayers(now);
-    const qint64 nowMs = now.toMSecsSinceEpoch();
-    const qint64 leadMs = minutesMs(config_.leadMinutes());
-    const QList<double>& offsets = config_.nudgeOffsetsMinutes;
-    for (const PrayerSlot& slot : slots_) {
-        if (!slot.valid) continue;
-        const QString& name = slot.name;
-        if (combining && isCombinedAway(name)) continue;
-        const QString& key = slot.lockKey;
-        if (completedLocks_.contains(key)) continue;
-        const qint64 t = slot.at;
-
-        if (nowMs < t) {
-            for (qsizetype i = 0; i < offsets.size() && i < slot.nudgeKeys.size(); ++i) {
-                const qint64 due = t - minutesMs(offsets[i]);
-                if (nowMs < due) continue;
-                const QString& nkey = slot.nudgeKeys[i];
-                if (firedNudges_.contains(nkey)) continue;
-                firedNudges_.insert(nkey);
-                if (nowMs - due < 90000)
-                    showNudge(lockName(name, combining), int((t - nowMs) / 60000) + 1, offsets[i]);
-            }
-        }
-
-        const qint64 start = t - leadMs;
-        const qint64 windowEnd = start + minutesMs(lockDuration(name));
-        if (nowMs < start || nowMs >= windowEnd) continue;
-        const QString display = lockName(name, combining);
+    // 12–13. The five prayers: due reminders, then at most one lock started or put off.
+    const PrayerDecision decision =
+        decidePrayers(today_, config_, now, combiningPrayers(now), completedLocks_, firedNudges_);
+    for (const Nudge& n : decision.nudges)
+        reminders_.showNudge(n.prayer, n.minutesLeft, n.offset);
+    if (const std::optional<DueLock>& due = decision.lock) {
+        const DeferredLock lock{due->key, due->prayer, due->displayName, now};
         if (config_.callGrace() > 0 && callCheck && callCheck()) {
-            deferred_ = DeferredLock{key, name, display, now};
-            showBanner(QStringLiteral("🕌  ") + display +
-                           QStringLiteral(" locks when your call ends"),
-                       std::nullopt, BannerStyle::urgent);
-            logLine(QStringLiteral("Tarvanel: ") + display +
+            deferred_ = lock;
+            reminders_.showBanner(QStringLiteral("🕌  ") + due->displayName +
+                                      QStringLiteral(" locks when your call ends"),
+                                  std::nullopt, BannerStyle::urgent);
+            logLine(QStringLiteral("Tarvanel: ") + due->displayName +
                     QStringLiteral(" lock waiting for a call to end"));
-            return true;
+        } else {
+            startDueLock(lock, due->partner, due->windowEnd);
         }
-        completedLocksKeyPending_ = key;
-        combinedPending_ = combining ? combinedPartner(name) : std::nullopt;
-        startLock(name, display, QDateTime::fromMSecsSinceEpoch(windowEnd, Qt::UTC));
-        return true;
     }
-    return false;
+    // 14. The day's one-off banners, only while nothing locks.
+    if (!session_.isLocked())
+        reminders_.checkDay(config_, now, dayKey, today_.waqt(), today_.times(), today_.ramadan(),
+                            completedLocks_, firedNudges_);
+    // 15.
+    updateStatusTitle(now);
+}
+
+void AppDelegate::startDueLock(const DeferredLock& due, const std::optional<QString>& partner,
+                               const QDateTime& until) {
+    if (!session_.start(due.displayName, until, due.key, partner, config_)) return;
+    // Focus shortcuts are a separate piece of work; switching Focus on goes here.
+    focusOn_ = config_.isOn(config_.focusShortcuts, false);
+}
+
+void AppDelegate::startLock(const QString&, const QString& displayName, const QDateTime& until) {
+    session_.start(displayName, until, std::nullopt, std::nullopt, config_);
+}
+
+void AppDelegate::endLock(bool early) {
+    const LockSession::Ended ended = session_.close();
+    focusOn_ = false; // Focus shortcuts would be switched off here.
+    if (ended.key) {
+        if (early) {
+            completedLocks_.insert(*ended.key);
+            saveCompletedLocks(completedLocks_);
+            logLine(QStringLiteral("Tarvanel: ") + ended.displayName +
+                    QStringLiteral(" lock ended early with the guardian code"));
+        } else if (config_.isOn(config_.strictMode, false)) {
+            strict_ = StrictPending{*ended.key, ended.partner, ended.displayName};
+            platform_.post([self = QPointer<AppDelegate>(this)] {
+                if (self) self->askStrict();
+            });
+        } else {
+            recordKept(*ended.key, ended.partner);
+        }
+    }
+    platform_.playNamedSound(QStringLiteral("Glass"));
+    logLine(QStringLiteral("Tarvanel: unlocked after ") + ended.displayName);
+    if (exitAfterTest_) platform_.exitProcess(0);
+}
+
+void AppDelegate::lockKey(LockKey key, const QString& text) {
+    if (session_.keyInput(key, text, currentTime())) endLock(true);
+}
+
+// "Did you pray?": yes records the lock as kept; "Not yet" locks again for five minutes.
+void AppDelegate::askStrict() {
+    if (!strict_) return;
+    const StrictPending pending = *strict_;
+    std::optional<bool> yes;
+    if (askDidPray) yes = askDidPray(pending.displayName);
+    if (!yes) {
+        const AlertAnswer answer = platform_.showAlert(AlertRequest{
+            QStringLiteral("Did you pray ") + pending.displayName + QStringLiteral("?"),
+            QStringLiteral("“Not yet” locks the screen again for 5 minutes."),
+            {QStringLiteral("Yes, I Prayed"), QStringLiteral("Not Yet")},
+            {},
+            false});
+        yes = answer.response == 1000;
+    }
+    strict_.reset();
+    if (*yes) {
+        recordKept(pending.key, pending.partner);
+        return;
+    }
+    const QString prayer = pending.key.mid(pending.key.lastIndexOf(QLatin1Char('-')) + 1);
+    startDueLock({pending.key, prayer, pending.displayName, {}}, pending.partner,
+                 currentTime().addSecs(300));
 }
 
 } // namespace tarvanel

@@ -1,19 +1,13 @@
-// The status menu, built afresh each time it opens, and the commands it carries.
-#include "app/Agent.h"
+// The status menu, built afresh each time it opens from the view the controller hands over.
 #include "engine/CalcMethods.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
-#include "lock/AppDelegate.h"
+#include "menubar/StatusView.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "records/Log.h"
-#include "records/Modes.h"
 #include "records/StateFiles.h"
-#include "records/TravelLocator.h"
-#include "records/UserDefaults.h"
 
-#include <QFile>
 #include <cmath>
 
 namespace tarvanel {
@@ -43,41 +37,33 @@ MenuItem gridRow(const QString& text) {
 
 } // namespace
 
-MenuModel AppDelegate::buildMenu() {
-    QPointer<AppDelegate> self(this);
-    auto command = [self](const QString& text, void (AppDelegate::*action)(), int tag = 0) {
-        return MenuItem::command(
-            text,
-            [self, action] {
-                if (self) (self.data()->*action)();
-            },
-            tag);
-    };
+MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands) {
     MenuModel menu;
-    if (!configExists()) {
+    if (!view.setUp) {
         menu << MenuItem::info(QStringLiteral("Tarvanel isn't set up yet"))
-             << command(QStringLiteral("Set Up Tarvanel…"), &AppDelegate::openSettings);
+             << MenuItem::command(QStringLiteral("Set Up Tarvanel…"), commands.openSettings);
         return menu;
     }
 
-    const QDateTime now = currentTime();
-    const Config display = activeConfig();
-    const DayTimes times = todaysTimes();
-    const double maxDays = config_.excusedDays();
+    const QDateTime& now = view.now;
+    const Config& config = view.config;
+    const Config& display = view.display;
+    const DayTimes& times = view.times;
+    const DayTimes& waqt = view.waqt;
+    const double maxDays = config.excusedDays();
     const QList<ExcusedRange> excusedRanges = Excused::load();
-    const bool excused = Excused::current(maxDays, now).has_value();
-    const std::optional<TravelCoords> coords = travelCoords();
-    const bool combining = config_.isOn(config_.combineWhenTravelling, false) &&
-                           isTravelling(now, *defaults_, coords.has_value());
-    const bool ramadan = isRamadan(now);
-    const std::optional<QDateTime> paused = pausedUntil();
-    const std::optional<QDateTime> travelling = travellingUntil();
+    const bool excused = view.excused;
+    const bool combining = view.combining;
+    const bool ramadan = view.ramadan;
+    const bool jumuah = view.jumuah;
+    const std::optional<QDateTime>& paused = view.pausedUntil;
+    const std::optional<QDateTime>& travelling = view.travellingUntil;
     const bool pausedNow = paused && *paused > now;
     const bool travellingNow = travelling && *travelling > now;
 
     // Header lines.
-    menu << MenuItem::info((coords ? QStringLiteral("✈️ ") : QString()) + display.locationName +
-                           QStringLiteral(" — ") + methodSummary(display));
+    menu << MenuItem::info((view.travelLocation ? QStringLiteral("✈️ ") : QString()) +
+                           display.locationName + QStringLiteral(" — ") + methodSummary(display));
     menu << MenuItem::info(hijriString(now) +
                            (ramadan ? QStringLiteral("  •  🌙 Ramadan") : QString()));
     if (pausedNow)
@@ -88,8 +74,8 @@ MenuModel AppDelegate::buildMenu() {
         menu << MenuItem::info(QStringLiteral("✈️ Travelling until ") +
                                formatLocal(travelling->addSecs(-1), QStringLiteral("dddd d MMM")) +
                                (combining ? QStringLiteral(" · combining prayers") : QString()));
-    if (deferred_)
-        menu << MenuItem::info(QStringLiteral("📞 ") + deferred_->displayName +
+    if (view.waitingForCall)
+        menu << MenuItem::info(QStringLiteral("📞 ") + *view.waitingForCall +
                                QStringLiteral(" locks when your call ends"));
     menu << MenuItem::separator();
 
@@ -105,23 +91,21 @@ MenuModel AppDelegate::buildMenu() {
     for (const QString& name : dayRowNames()) {
         const auto t = times.value(name);
         if (!t) continue;
-        QString text =
-            name == QLatin1String("Dhuhr") && cachedJumuah_ ? QStringLiteral("Jumu'ah") : name;
-        if (combining && name == QLatin1String("Asr") && !cachedJumuah_)
+        QString text = name == QLatin1String("Dhuhr") && jumuah ? QStringLiteral("Jumu'ah") : name;
+        if (combining && name == QLatin1String("Asr") && !jumuah)
             text += QStringLiteral(" (with Dhuhr)");
         if (combining && name == QLatin1String("Isha")) text += QStringLiteral(" (with Maghrib)");
         text += QLatin1Char('\t') + timeText(*t);
-        if (const auto waqt = cachedWaqt_.value(name);
-            waqt && std::llabs(waqt->msecsTo(*t)) > 30000)
-            text += QStringLiteral("  (waqt ") + timeText(*waqt) + QLatin1Char(')');
+        if (const auto w = waqt.value(name); w && std::llabs(w->msecsTo(*t)) > 30000)
+            text += QStringLiteral("  (waqt ") + timeText(*w) + QLatin1Char(')');
         if (name == next) text += QStringLiteral("  ◀ next");
         menu << MenuItem::info(text);
     }
 
     // Ramadan times.
-    const auto fajrWaqt = cachedWaqt_.value(u"Fajr");
-    const auto maghribWaqt = cachedWaqt_.value(u"Maghrib");
-    if (ramadan && config_.isOn(config_.ramadanMode, true) && fajrWaqt && maghribWaqt) {
+    const auto fajrWaqt = waqt.value(u"Fajr");
+    const auto maghribWaqt = waqt.value(u"Maghrib");
+    if (ramadan && config.isOn(config.ramadanMode, true) && fajrWaqt && maghribWaqt) {
         menu << MenuItem::separator();
         menu << MenuItem::info(QStringLiteral("🌙 Suhoor ends ") + timeText(*fajrWaqt) +
                                QStringLiteral("  •  Iftar ") + timeText(*maghribWaqt));
@@ -157,37 +141,34 @@ MenuModel AppDelegate::buildMenu() {
     const QStringList kept = history.value(dayKey(now));
     for (int i = 0; i < prayerNames().size(); ++i) {
         const QString& prayer = prayerNames()[i];
-        const auto begun = cachedWaqt_.value(prayer);
+        const auto begun = waqt.value(prayer);
         if (!begun || now < *begun) continue;
         const QString label =
-            prayer == QLatin1String("Dhuhr") && cachedJumuah_ ? QStringLiteral("Jumu'ah") : prayer;
+            prayer == QLatin1String("Dhuhr") && jumuah ? QStringLiteral("Jumu'ah") : prayer;
         if (kept.contains(prayer)) {
             mark.submenu << MenuItem::info(QStringLiteral("✓ ") + label);
             continue;
         }
         const std::optional<QString> endName = windowEnd(prayer);
-        const auto end = endName ? cachedWaqt_.value(*endName) : std::nullopt;
+        const auto end = endName ? waqt.value(*endName) : std::nullopt;
         const bool late = end && now >= *end;
         const int tag = late ? i + 100 : i;
         mark.submenu << MenuItem::command(
             label + (late ? QStringLiteral(": Prayed Late (Qada)")
                           : QStringLiteral(": Prayed Elsewhere")),
-            [self, tag] {
-                if (self) self->markPrayed(tag);
-            },
-            tag);
+            [markPrayed = commands.markPrayed, tag] { markPrayed(tag); }, tag);
     }
     if (mark.submenu.isEmpty())
         mark.submenu << MenuItem::info(QStringLiteral("Nothing to mark yet"));
     menu << mark;
 
-    menu << (excused ? command(QStringLiteral("No Longer Excused"), &AppDelegate::endExcused)
-                     : command(QStringLiteral("I'm Excused…"), &AppDelegate::startExcused));
+    menu << (excused ? MenuItem::command(QStringLiteral("No Longer Excused"), commands.endExcused)
+                     : MenuItem::command(QStringLiteral("I'm Excused…"), commands.startExcused));
     menu << (travellingNow
-                 ? command(QStringLiteral("Stop Travelling"), &AppDelegate::stopTravelling)
-                 : command(QStringLiteral("I'm Travelling…"), &AppDelegate::startTravelling));
+                 ? MenuItem::command(QStringLiteral("Stop Travelling"), commands.stopTravelling)
+                 : MenuItem::command(QStringLiteral("I'm Travelling…"), commands.startTravelling));
     if (pausedNow) {
-        menu << command(QStringLiteral("Resume Locks"), &AppDelegate::resumeLocks);
+        menu << MenuItem::command(QStringLiteral("Resume Locks"), commands.resumeLocks);
     } else {
         MenuItem pause = MenuItem::info(QStringLiteral("Pause Locks"));
         pause.enabled = true;
@@ -195,94 +176,14 @@ MenuModel AppDelegate::buildMenu() {
                                          std::pair{"For 3 Days", 3}, std::pair{"For a Week", 7}})
             pause.submenu << MenuItem::command(
                 QString::fromUtf8(text),
-                [self, d = days] {
-                    if (self) self->pauseLocks(d);
-                },
-                days);
+                [pauseLocks = commands.pauseLocks, d = days] { pauseLocks(d); }, days);
         menu << pause;
     }
-    menu << command(QStringLiteral("Preview Lock (10 s)"), &AppDelegate::previewLock);
-    MenuItem settings = command(QStringLiteral("Settings…"), &AppDelegate::openSettings);
+    menu << MenuItem::command(QStringLiteral("Preview Lock (10 s)"), commands.previewLock);
+    MenuItem settings = MenuItem::command(QStringLiteral("Settings…"), commands.openSettings);
     settings.shortcut = QStringLiteral(",");
     menu << settings;
     return menu;
-}
-
-void AppDelegate::markPrayed(int tag) {
-    const int i = tag % 100;
-    if (tag < 0 || i >= prayerNames().size()) return;
-    const QString prayer = prayerNames()[i];
-    const bool elsewhere = tag < 100;
-    markKept({prayer}, dayKey(currentTime()),
-             elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"), completedLocks_);
-    if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
-    logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
-            (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
-    tick();
-}
-
-void AppDelegate::previewLock() {
-    // The controller's clock, like every other instant, so the tick that ends it agrees.
-    startLock(QStringLiteral("Preview"), QStringLiteral("Preview"), currentTime().addSecs(10));
-}
-
-void AppDelegate::openSettings() {
-    if (lockEnd_ && !exitAfterTest_) return;
-    platform_.openSettingsWindow(!configExists());
-}
-
-void AppDelegate::exportHistory() {
-    platform_.activateApp();
-    const std::optional<QString> path =
-        platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
-    if (!path) return;
-    writeFileAtomically(*path, historyCSV(config_, currentTime()).toUtf8());
-}
-
-void AppDelegate::uninstall() {
-    if (lockEnd_) return;
-    const std::optional<bool> deleteData =
-        confirmUninstall(platform_, QStringLiteral("Your prayer times stop locking the screen."));
-    if (!deleteData) return;
-    if (*deleteData) {
-        defaults_->removeAll();
-        modesFresh_ = false;
-    }
-    uninstallApp(platform_, *deleteData);
-}
-
-void AppDelegate::startExcused() {
-    if (!askStartExcused(platform_, config_, currentTime())) return;
-    deferred_.reset();
-    tick();
-}
-
-void AppDelegate::endExcused() {
-    tarvanel::endExcused(currentTime());
-    tick();
-}
-
-void AppDelegate::startTravelling() {
-    modesFresh_ = false;
-    if (askTravel(platform_, *defaults_, config_, currentTime())) tick();
-}
-
-void AppDelegate::stopTravelling() {
-    tarvanel::stopTravelling(*defaults_);
-    modesFresh_ = false;
-    tick();
-}
-
-void AppDelegate::pauseLocks(int days) {
-    if (lockEnd_) return;
-    modesFresh_ = false;
-    if (askPause(platform_, *defaults_, days, currentTime())) tick();
-}
-
-void AppDelegate::resumeLocks() {
-    resume(*defaults_);
-    modesFresh_ = false;
-    tick();
 }
 
 } // namespace tarvanel

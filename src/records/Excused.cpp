@@ -1,5 +1,4 @@
 #include "records/Excused.h"
-#include "platform/Platform.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
 
@@ -125,19 +124,6 @@ long long excusedWholeDays(const Config& cfg) {
     // No whole-day form for these; the default reads better than a nonsense number.
     if (!std::isfinite(days) || std::fabs(days) >= 9.2e18) return 15;
     return static_cast<long long>(std::trunc(days));
-}
-
-bool askStartExcused(Platform& platform, const Config& cfg, const QDateTime& now) {
-    AlertRequest request;
-    request.message = QStringLiteral("Turn off reminders and locks?");
-    request.info = QStringLiteral("They come back when you choose No Longer Excused, or after ") +
-                   QString::number(excusedWholeDays(cfg)) +
-                   QStringLiteral(" days. Your streak is kept.");
-    request.buttons = {QStringLiteral("Turn Off"), QStringLiteral("Cancel")};
-    if (platform.showAlert(request).response != 1000) return false;
-    Excused::begin(now);
-    logLine(QStringLiteral("Tarvanel: excused"));
-    return true;
 }
 
 void endExcused(const QDateTime& now) {

@@ -8,8 +8,6 @@
 
 namespace tarvanel {
 
-class Platform;
-
 struct ExcusedRange {
     QDateTime start;
     std::optional<QDateTime> end; // absent while the period is open
@@ -44,9 +42,6 @@ bool touchesDay(const QDateTime& dayStart, const QList<ExcusedRange>& ranges, do
 // Whole days of `excusedMaxDays` for the alert text.
 long long excusedWholeDays(const Config& cfg);
 
-// "I'm Excused…": asks, and on "Turn Off" begins a period and logs. True when a period was
-// begun (the caller drops any deferred lock and ticks).
-bool askStartExcused(Platform& platform, const Config& cfg, const QDateTime& now);
 // "No Longer Excused": closes the open period at `now` and logs.
 void endExcused(const QDateTime& now);
 

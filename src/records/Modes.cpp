@@ -1,9 +1,7 @@
 #include "records/Modes.h"
 #include "engine/LocalTime.h"
-#include "platform/Platform.h"
-#include "records/Log.h"
-#include "records/UserDefaults.h"
 
+#include <QFile>
 #include <QtMath>
 #include <algorithm>
 #include <cmath>
@@ -11,77 +9,75 @@
 namespace tarvanel {
 namespace {
 constexpr qint64 daySeconds = 86400;
+constexpr int maxPauseDays = 8;
+constexpr int maxTravelDays = 366;
+
+std::optional<QDateTime> within(const std::optional<QDateTime>& t, const QDateTime& now, int days) {
+    if (!t || *t > now.addSecs(days * daySeconds)) return std::nullopt;
+    return t;
+}
 } // namespace
+
+ModeStore::ModeStore() : ModeStore(UserDefaults::defaultPath()) {}
+
+ModeStore::ModeStore(const QString& iniPath)
+    : defaults_(iniPath), path_(QFile::encodeName(iniPath)) {}
+
+void ModeStore::refresh() {
+    const FileStamp now = FileStamp::of(path_);
+    if (stamp_ && *stamp_ == now) return;
+    stamp_ = now;
+    paused_ = defaults_.pausedUntil();
+    travelling_ = defaults_.travellingUntil();
+}
+
+std::optional<QDateTime> ModeStore::pausedUntil(const QDateTime& now) const {
+    return within(paused_, now, maxPauseDays);
+}
+std::optional<QDateTime> ModeStore::travellingUntil(const QDateTime& now) const {
+    return within(travelling_, now, maxTravelDays);
+}
+
+bool ModeStore::isPaused(const QDateTime& now) const {
+    const auto p = pausedUntil(now);
+    return p && now < *p;
+}
+
+bool ModeStore::isTravelling(const QDateTime& now, bool hasTravelCoords) const {
+    if (hasTravelCoords) return true;
+    const auto t = travellingUntil(now);
+    return t && now < *t;
+}
+
+void ModeStore::setPausedUntil(const std::optional<QDateTime>& until) {
+    defaults_.setPausedUntil(until);
+    stamp_.reset();
+    refresh();
+}
+
+void ModeStore::setTravellingUntil(const std::optional<QDateTime>& until) {
+    defaults_.setTravellingUntil(until);
+    stamp_.reset();
+    refresh();
+}
+
+void ModeStore::removeAll() {
+    defaults_.removeAll();
+    stamp_.reset();
+    refresh();
+}
+
+QDateTime pauseEnd(int days, const QDateTime& now) {
+    return startOfLocalDay(localDate(now).addDays(days));
+}
+
+QDateTime travelEnd(const QDate& picked, const QDateTime& now) {
+    return startOfLocalDay(std::max(picked, localDate(now)).addDays(1));
+}
 
 QString defaultDescription(const QDateTime& instant) {
     return instant.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) +
            QStringLiteral(" +0000");
-}
-
-bool askPause(Platform& platform, UserDefaults& defaults, int days, const QDateTime& now) {
-    // Local midnight `days` days on; counted in calendar days so that a week across a clock
-    // change still ends at midnight rather than at 23:00 or 01:00.
-    const QDateTime until = startOfLocalDay(localDate(now).addDays(days));
-    if (!until.isValid()) return false;
-    AlertRequest request;
-    request.message = QStringLiteral("Pause Tarvanel?");
-    request.info = QStringLiteral("No reminders and no locks until ") +
-                   formatLocal(until, QStringLiteral("dddd d MMMM")) +
-                   QStringLiteral(" at midnight. You can resume any time from the menu.");
-    request.buttons = {QStringLiteral("Pause"), QStringLiteral("Cancel")};
-    if (platform.showAlert(request).response != 1000) return false;
-    defaults.setPausedUntil(until);
-    logLine(QStringLiteral("Tarvanel: paused until ") + defaultDescription(until));
-    return true;
-}
-
-void resume(UserDefaults& defaults) {
-    defaults.setPausedUntil(std::nullopt);
-    logLine(QStringLiteral("Tarvanel: resumed"));
-}
-
-bool askTravel(Platform& platform, UserDefaults& defaults, const Config& cfg,
-               const QDateTime& now) {
-    AlertRequest request;
-    request.message = QStringLiteral("Travelling until\u2026");
-    request.info =
-        cfg.isOn(cfg.combineWhenTravelling, false)
-            ? QStringLiteral("Dhuhr and Asr become one lock, and so do Maghrib and Isha, through "
-                             "the end of this day.")
-            : QStringLiteral("Turn on \u201CCombine prayers while travelling\u201D in Settings if "
-                             "your school permits it.");
-    request.buttons = {QStringLiteral("Start"), QStringLiteral("Cancel")};
-    platform.activateApp();
-    const std::optional<QDate> picked =
-        platform.askDate(request, localDate(now), localDate(now.addSecs(3 * daySeconds)));
-    if (!picked || !picked->isValid()) return false;
-    // The midnight that ends the picked day; the picker cannot go before today.
-    const QDate day = std::max(*picked, localDate(now));
-    const QDateTime until = startOfLocalDay(day.addDays(1));
-    if (!until.isValid()) return false;
-    defaults.setTravellingUntil(until);
-    logLine(QStringLiteral("Tarvanel: travelling until ") + defaultDescription(until));
-    return true;
-}
-
-void stopTravelling(UserDefaults& defaults) {
-    defaults.setTravellingUntil(std::nullopt);
-}
-
-void dropExpiredModes(UserDefaults& defaults, const QDateTime& now) {
-    if (const auto p = defaults.pausedUntil(); p && now >= *p) defaults.setPausedUntil({});
-    if (const auto t = defaults.travellingUntil(); t && now >= *t) defaults.setTravellingUntil({});
-}
-
-bool isPaused(const QDateTime& date, const UserDefaults& defaults) {
-    const auto p = defaults.pausedUntil();
-    return p && date < *p;
-}
-
-bool isTravelling(const QDateTime& date, const UserDefaults& defaults, bool hasTravelCoords) {
-    if (hasTravelCoords) return true;
-    const auto t = defaults.travellingUntil();
-    return t && date < *t;
 }
 
 double distanceKm(double lat1, double lon1, double lat2, double lon2) {

@@ -1,33 +1,52 @@
 #pragma once
-// Pause and declared travel: the menu commands and the checks the tick makes.
-#include "engine/Config.h"
+// Pause and declared travel: the store of their two instants and the rules that make them.
+#include "records/FileStamp.h"
+#include "records/UserDefaults.h"
 
+#include <QDate>
 #include <QDateTime>
 #include <QString>
+#include <optional>
 
 namespace tarvanel {
 
-class Platform;
-class UserDefaults;
+// The user-defaults instants as the program sees them. The file is read again only when its
+// stamp changed (one stat per refresh), so a hand edit shows at the next tick and our own
+// writes take the same road: each setter writes and then refreshes.
+class ModeStore {
+public:
+    ModeStore();                                // the per-user file
+    explicit ModeStore(const QString& iniPath); // any file (tests)
 
-// "Pause Locks" for 1, 3 or 7 days: until local midnight `days` days after today's start.
-// The caller does nothing while a lock runs. True when the pause was stored (then tick).
-bool askPause(Platform& platform, UserDefaults& defaults, int days, const QDateTime& now);
-// "Resume Locks": removes the pause and logs (then tick).
-void resume(UserDefaults& defaults);
+    // The single invalidation point of the two values below.
+    void refresh();
 
-// "I'm Travelling…": the day picker; on "Start" stores the midnight that ends the picked day.
-// True when travel was stored (then tick).
-bool askTravel(Platform& platform, UserDefaults& defaults, const Config& cfg, const QDateTime& now);
-// "Stop Travelling": removes the declared travel; nothing is logged.
-void stopTravelling(UserDefaults& defaults);
+    // Absent, or so far ahead that no menu command could have set it (a pause lasts at most
+    // a week, a declared trip at most a year): a hand-set 9999-12-31 must not stop every lock.
+    std::optional<QDateTime> pausedUntil(const QDateTime& now) const;
+    std::optional<QDateTime> travellingUntil(const QDateTime& now) const;
+    bool isPaused(const QDateTime& now) const;
+    // Declared travel until a later instant, or a detected travel location.
+    bool isTravelling(const QDateTime& now, bool hasTravelCoords) const;
 
-// The tick's clean-up: removes "pausedUntil" and "travellingUntil" once `now` reached them.
-void dropExpiredModes(UserDefaults& defaults, const QDateTime& now);
+    // Absent removes the key.
+    void setPausedUntil(const std::optional<QDateTime>& until);
+    void setTravellingUntil(const std::optional<QDateTime>& until);
+    // Uninstall with "delete data".
+    void removeAll();
 
-bool isPaused(const QDateTime& date, const UserDefaults& defaults);
-// Declared travel until a future instant, or a detected travel location.
-bool isTravelling(const QDateTime& date, const UserDefaults& defaults, bool hasTravelCoords);
+private:
+    UserDefaults defaults_;
+    QByteArray path_;
+    std::optional<FileStamp> stamp_; // absent: never read, or our own write just happened
+    std::optional<QDateTime> paused_, travelling_;
+};
+
+// "Pause Locks" for `days` days: local midnight `days` calendar days after today's start, so a
+// week across a clock change still ends at midnight. Invalid when the zone has no such instant.
+QDateTime pauseEnd(int days, const QDateTime& now);
+// "I'm Travelling…": the midnight that ends the picked day (never before today).
+QDateTime travelEnd(const QDate& picked, const QDateTime& now);
 
 // Great-circle distance on a sphere of diameter 12 742 km.
 double distanceKm(double lat1, double lon1, double lat2, double lon2);

@@ -41,6 +41,12 @@ Config fixedTimesConfig(const QString& fajr, const QString& dhuhr, const QString
 DaySimulator::DaySimulator(const std::optional<Config>& cfg, const QDateTime& start,
                            const CommandLine& cl)
     : now(start) {
+    platform.whileModal = [this] {
+        for (int i = 0; i < modalTicks; ++i) {
+            now = now.addSecs(1);
+            app->tick();
+        }
+    };
     setLogSink([this](const QString& line) { logs << line; });
     if (cfg) saveConfig(*cfg);
     makeApp(cl);
@@ -100,34 +106,30 @@ void DaySimulator::runUntil(const QDateTime& end, const std::function<void()>& c
 }
 
 void DaySimulator::record() {
+    auto add = [this](const QString& what) {
+        events << localText(now).mid(11, 8) + QLatin1Char(' ') + what;
+    };
     for (; seenBanners_ < platform.banners.size(); ++seenBanners_)
-        events << Event{now, QStringLiteral("banner: ") + platform.banners[seenBanners_].message};
+        add(QStringLiteral("banner: ") + platform.banners[seenBanners_].message);
     for (; seenShows_ < platform.lockShows.size(); ++seenShows_)
-        events << Event{now,
-                        QStringLiteral("lock: ") + platform.lockShows[seenShows_].value(0).prayer};
+        add(QStringLiteral("lock: ") + platform.lockShows[seenShows_].value(0).prayer);
     for (; seenCloses_ < platform.closes; ++seenCloses_)
-        events << Event{now, QStringLiteral("unlock")};
+        add(QStringLiteral("unlock"));
     for (; seenAlerts_ < platform.alerts.size(); ++seenAlerts_)
-        events << Event{now, QStringLiteral("alert: ") + platform.alerts[seenAlerts_].message};
-    if (platform.exitStatus && !seenExit_) {
-        seenExit_ = true;
-        events << Event{now, QStringLiteral("exit: ") + QString::number(*platform.exitStatus)};
-    }
+        add(QStringLiteral("alert: ") + platform.alerts[seenAlerts_].message);
 }
 
-QList<DaySimulator::Event> DaySimulator::eventsStarting(const QString& prefix) const {
-    QList<Event> out;
-    for (const Event& e : events)
-        if (e.what.startsWith(prefix)) out << e;
+QStringList DaySimulator::timeline(const QString& prefix) const {
+    QStringList out;
+    for (const QString& e : events)
+        if (QStringView(e).mid(9).startsWith(prefix)) out << e;
     return out;
 }
 
-QStringList DaySimulator::listed(const QString& prefix, bool time, bool what) const {
+QStringList DaySimulator::column(const QString& prefix, int from, int length) const {
     QStringList out;
-    for (const Event& e : eventsStarting(prefix)) {
-        const QString at = localText(e.at).mid(11, 8);
-        out << (time && what ? at + QLatin1Char(' ') + e.what : time ? at : e.what);
-    }
+    for (const QString& e : timeline(prefix))
+        out << e.mid(from, length);
     return out;
 }
 
@@ -135,6 +137,13 @@ QStringList DaySimulator::logsContaining(const QString& part) const {
     QStringList out;
     for (const QString& line : logs)
         if (line.contains(part)) out << line;
+    return out;
+}
+
+QStringList DaySimulator::menuTexts() const {
+    QStringList out;
+    for (const MenuItem& item : app->buildMenu())
+        out << item.text;
     return out;
 }
 

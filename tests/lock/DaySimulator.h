@@ -30,11 +30,6 @@ Config fixedTimesConfig(const QString& fajr = QStringLiteral("06:30"),
 
 class DaySimulator {
 public:
-    struct Event {
-        QDateTime at;
-        QString what; // "banner: …", "lock: …", "unlock", "exit: n", "alert: …"
-    };
-
     // Writes cfg as config.json unless absent; the controller is created at `start`.
     DaySimulator(const std::optional<Config>& cfg, const QDateTime& start,
                  const CommandLine& cl = {});
@@ -44,10 +39,11 @@ public:
     std::unique_ptr<AppDelegate> app;
     QDateTime now;
     QStringList logs;
-    QList<Event> events;
+    QStringList events; // "HH:mm:ss banner: …", "… lock: …", "… unlock", "… alert: …"
     bool inCall = false;
     int callChecks = 0;
     std::deque<std::optional<bool>> didPrayAnswers; // empty: the question goes to the alert
+    int modalTicks = 2; // seconds that tick by while each modal question is open
 
     // The launch callback at the current instant.
     void launch();
@@ -61,21 +57,20 @@ public:
     // Ends this controller and starts a new one at the current instant (a restart).
     void restart(const CommandLine& cl = {});
 
-    // Events whose text starts with `prefix`: their texts, their local times ("HH:mm:ss"), and
-    // both ("HH:mm:ss text").
-    QList<Event> eventsStarting(const QString& prefix) const;
-    QStringList whats(const QString& prefix) const { return listed(prefix, false, true); }
-    QStringList times(const QString& prefix) const { return listed(prefix, true, false); }
-    QStringList timeline(const QString& prefix = {}) const { return listed(prefix, true, true); }
+    // Events whose text starts with `prefix`: as recorded, their texts, their local times.
+    QStringList timeline(const QString& prefix = {}) const;
+    QStringList whats(const QString& prefix) const { return column(prefix, 9, -1); }
+    QStringList times(const QString& prefix) const { return column(prefix, 0, 8); }
     QStringList logsContaining(const QString& part) const;
+    // The texts of the status menu's top level, as it would open now.
+    QStringList menuTexts() const;
 
 private:
     void makeApp(const CommandLine& cl);
-    QStringList listed(const QString& prefix, bool time, bool what) const;
+    QStringList column(const QString& prefix, int from, int length) const;
     void record();
 
     qsizetype seenBanners_ = 0, seenShows_ = 0, seenCloses_ = 0, seenAlerts_ = 0;
-    bool seenExit_ = false;
 };
 
 // Fixture: a scratch home and Wednesday 14 January 2026 in London, an ordinary winter weekday.

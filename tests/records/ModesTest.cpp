@@ -4,7 +4,6 @@
 #include "records/Log.h"
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
-#include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 
 #include <QDir>
@@ -21,7 +20,6 @@ protected:
         setLogSink([this](const QString& line) { logs << line; });
     }
     QStringList logs;
-    test::FakePlatform platform;
 };
 class ExcusedTest : public ModesTest {};
 
@@ -127,28 +125,15 @@ TEST_F(ExcusedTest, ContainsAndTouchesDayEdges) {
             << range.start.toString().toStdString() << " " << maxDays;
 }
 
-TEST_F(ExcusedTest, StartAsksWithTheWholeNumberOfDaysAndLogs) {
+TEST_F(ExcusedTest, EndingLogsAndTheAlertNamesWholeDays) {
     Config cfg;
     cfg.excusedMaxDays = 7.5;
-    EXPECT_FALSE(askStartExcused(platform, cfg, utc(2025, 3, 1, 18)));
-    ASSERT_EQ(platform.alerts.size(), 1);
-    EXPECT_EQ(platform.alerts[0].message, "Turn off reminders and locks?");
-    EXPECT_EQ(platform.alerts[0].info,
-              "They come back when you choose No Longer Excused, or after 7 days. "
-              "Your streak is kept.");
-    EXPECT_EQ(platform.alerts[0].buttons, QStringList({"Turn Off", "Cancel"}));
-    EXPECT_TRUE(Excused::load().isEmpty());
-    EXPECT_TRUE(logs.isEmpty());
-
-    platform.answerAlert(1000);
+    EXPECT_EQ(excusedWholeDays(cfg), 7);
     cfg.excusedMaxDays = std::nullopt;
-    EXPECT_TRUE(askStartExcused(platform, cfg, utc(2025, 3, 1, 18)));
-    EXPECT_TRUE(platform.alerts[1].info.contains("after 15 days."));
-    EXPECT_EQ(logs, QStringList({"Tarvanel: excused"}));
-    EXPECT_TRUE(Excused::current(15, utc(2025, 3, 2)).has_value());
-
+    EXPECT_EQ(excusedWholeDays(cfg), 15);
+    Excused::begin(utc(2025, 3, 1, 18));
     endExcused(utc(2025, 3, 3, 7));
-    EXPECT_EQ(logs.last(), "Tarvanel: no longer excused");
+    EXPECT_EQ(logs, QStringList{"Tarvanel: no longer excused"});
     EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 3, 7));
 }
 
@@ -187,76 +172,32 @@ TEST_F(ModesTest, DefaultsLiveInTheUsersConfigFolderAndUnreadableValuesAreAbsent
     }
 }
 
-TEST_F(ModesTest, PauseRunsToTheMidnightAfterTheChosenDays) {
-    UserDefaults d;
-    // 23:59 on Saturday 1 March (GMT): one day ends a minute later.
-    EXPECT_FALSE(askPause(platform, d, 1, utc(2025, 3, 1, 23, 59)));
-    ASSERT_EQ(platform.alerts.size(), 1);
-    EXPECT_EQ(platform.alerts[0].message, QStringLiteral("Pause Tarvanel?"));
-    EXPECT_EQ(platform.alerts[0].info,
-              QStringLiteral("No reminders and no locks until Sunday 2 March at midnight. You can "
-                             "resume any time from the menu."));
-    EXPECT_EQ(platform.alerts[0].buttons, QStringList({"Pause", "Cancel"}));
-    EXPECT_FALSE(d.pausedUntil().has_value());
-    EXPECT_TRUE(logs.isEmpty());
+TEST_F(ModesTest, PauseAndTravelEndAtMidnightsAndFarInstantsReadAsAbsent) {
+    // 23:59 on Saturday 1 March (GMT): one day ends a minute later. Three days from Friday
+    // 24 October run across the end of summer time to Monday's midnight.
+    EXPECT_EQ(pauseEnd(1, utc(2025, 3, 1, 23, 59)), utc(2025, 3, 2));
+    EXPECT_EQ(pauseEnd(3, utc(2025, 10, 24, 9)), utc(2025, 10, 27));
+    // The picker's default at 10:00 on 1 March (4 March) ends with 4 March; no day before today.
+    EXPECT_EQ(travelEnd(QDate(2025, 3, 4), utc(2025, 3, 1, 10)), utc(2025, 3, 5));
+    EXPECT_EQ(travelEnd(QDate(2025, 2, 1), utc(2025, 3, 1, 10)), utc(2025, 3, 2));
 
-    platform.answerAlert(1000);
-    EXPECT_TRUE(askPause(platform, d, 1, utc(2025, 3, 1, 23, 59)));
-    EXPECT_EQ(d.pausedUntil(), utc(2025, 3, 2));
-    EXPECT_EQ(logs, QStringList({"Tarvanel: paused until 2025-03-02 00:00:00 +0000"}));
-    EXPECT_TRUE(isPaused(utc(2025, 3, 1, 23, 59, 59), d));
-    EXPECT_FALSE(isPaused(utc(2025, 3, 2), d));
-
-    // Three days from Friday 24 October run across the end of summer time to Monday's midnight.
-    platform.answerAlert(1000);
-    EXPECT_TRUE(askPause(platform, d, 3, utc(2025, 10, 24, 9)));
-    EXPECT_EQ(d.pausedUntil(), utc(2025, 10, 27, 0));
-    EXPECT_TRUE(platform.alerts.last().info.contains(QStringLiteral("until Monday 27 October")));
-
-    resume(d);
-    EXPECT_FALSE(d.pausedUntil().has_value());
-    EXPECT_EQ(logs.last(), QStringLiteral("Tarvanel: resumed"));
-}
-
-TEST_F(ModesTest, TravelEndsAtTheMidnightAfterThePickedDay) {
-    UserDefaults d;
-    Config cfg;
-    platform.dateAnswers.push_back(QDate(2025, 3, 4));
-    EXPECT_TRUE(askTravel(platform, d, cfg, utc(2025, 3, 1, 10)));
-    ASSERT_EQ(platform.alerts.size(), 1);
-    EXPECT_EQ(platform.alerts[0].message, QStringLiteral("Travelling until\u2026"));
-    EXPECT_EQ(platform.alerts[0].info,
-              QStringLiteral("Turn on \u201CCombine prayers while travelling\u201D in Settings if "
-                             "your school permits it."));
-    EXPECT_EQ(platform.alerts[0].buttons, QStringList({"Start", "Cancel"}));
-    EXPECT_EQ(platform.activations, 1);
-    EXPECT_EQ(d.travellingUntil(), utc(2025, 3, 5));
-    EXPECT_EQ(logs, QStringList({"Tarvanel: travelling until 2025-03-05 00:00:00 +0000"}));
-    EXPECT_TRUE(isTravelling(utc(2025, 3, 4, 23, 59), d, false));
-    EXPECT_FALSE(isTravelling(utc(2025, 3, 5), d, false));
-    EXPECT_TRUE(isTravelling(utc(2025, 3, 5), d, true));
-
-    cfg.combineWhenTravelling = true;
-    EXPECT_FALSE(askTravel(platform, d, cfg, utc(2025, 3, 1, 10))); // cancelled
-    EXPECT_EQ(platform.alerts[1].info,
-              QStringLiteral("Dhuhr and Asr become one lock, and so do Maghrib and Isha, through "
-                             "the end of this day."));
-    EXPECT_EQ(d.travellingUntil(), utc(2025, 3, 5));
-
-    stopTravelling(d);
-    EXPECT_FALSE(d.travellingUntil().has_value());
-    EXPECT_EQ(logs.size(), 1); // stopping logs nothing
-}
-
-TEST_F(ModesTest, ExpiredModesAreDroppedAtTheirInstant) {
-    UserDefaults d;
-    d.setPausedUntil(utc(2025, 3, 2));
-    d.setTravellingUntil(utc(2025, 3, 5));
-    dropExpiredModes(d, utc(2025, 3, 1, 23, 59, 59));
-    EXPECT_TRUE(d.pausedUntil().has_value());
-    dropExpiredModes(d, utc(2025, 3, 2));
-    EXPECT_FALSE(d.pausedUntil().has_value());
-    EXPECT_TRUE(d.travellingUntil().has_value());
-    dropExpiredModes(d, utc(2025, 3, 6));
-    EXPECT_FALSE(d.travellingUntil().has_value());
+    const QDateTime now = utc(2025, 3, 1, 10);
+    ModeStore store;
+    store.setPausedUntil(now.addDays(8));
+    store.setTravellingUntil(now.addDays(366));
+    EXPECT_TRUE(store.isPaused(now));
+    EXPECT_FALSE(store.isPaused(now.addDays(8)));
+    EXPECT_TRUE(store.isTravelling(now, false));
+    // A hand edit shows at the next refresh; further ahead than any command sets is absent.
+    test::writeFile(UserDefaults::defaultPath(), "[General]\npausedUntil=9999-12-31T00:00:00Z\n"
+                                                 "travellingUntil=2026-03-03T10:00:00Z\n");
+    store.refresh();
+    EXPECT_FALSE(store.pausedUntil(now).has_value());
+    EXPECT_FALSE(store.isTravelling(now, false));
+    EXPECT_TRUE(store.isTravelling(now, true)); // a detected location
+    store.setTravellingUntil(now.addDays(2));
+    EXPECT_EQ(store.travellingUntil(now), now.addDays(2));
+    store.removeAll();
+    EXPECT_FALSE(QDir(UserDefaults::folder()).exists());
+    EXPECT_FALSE(store.travellingUntil(now).has_value());
 }

@@ -1,5 +1,6 @@
 #pragma once
-// A Platform that records what the core showed and answers questions from scripts.
+// A Platform that records what the core showed and answers questions from scripts. While a
+// question is open, `whileModal` runs, as the desktop's nested event loop keeps ticking.
 #include "platform/Platform.h"
 
 #include <QList>
@@ -10,29 +11,21 @@ namespace tarvanel::test {
 
 class FakePlatform : public Platform {
 public:
-    // What was shown.
     int screens = 1;
     QList<QList<LockWindowContent>> lockShows; // every showLockWindows call
-    bool lockWindowsUp = false;
-    int raises = 0;
-    int closes = 0;
-    int activations = 0;
+    bool lockWindowsUp = false, bannerUp = false, settingsFirstRun = false, settingsOpen = false;
+    bool soundFilesPlay = true;
+    int raises = 0, closes = 0, activations = 0, settingsOpened = 0;
     QList<BannerContent> banners;
-    bool bannerUp = false;
-    bool hasMainScreen = true;
     QString title;
     TitleColor titleColor = TitleColor::Label;
     QStringList titles; // every distinct title in order
     QStringList sounds; // named sounds, and "file:<path>" for played files
-    bool soundFilesPlay = true;
     QList<AlertRequest> alerts;
-    QStringList openedUrls;
-    int settingsOpened = 0;
-    bool settingsFirstRun = false;
-    bool settingsOpen = false;
     std::optional<int> exitStatus;
     QList<std::function<void()>> posted;
     QList<std::pair<int, std::function<void()>>> timers;
+    std::function<void()> whileModal;
 
     // Scripted answers, consumed in order; when empty the second button (cancel) is chosen.
     std::deque<AlertAnswer> alertAnswers;
@@ -43,7 +36,10 @@ public:
         alertAnswers.push_back({response, checkBox});
     }
     // Runs the work posted so far (after the current event).
-    void runPosted();
+    void runPosted() {
+        while (!posted.isEmpty())
+            posted.takeFirst()();
+    }
 
     int screenCount() const override { return screens; }
     void showLockWindows(const QList<LockWindowContent>& perScreen, LockScreenState*) override {
@@ -57,7 +53,6 @@ public:
     }
     void activateApp() override { ++activations; }
     bool showBanner(const BannerContent& banner) override {
-        if (!hasMainScreen) return false;
         banners << banner;
         return bannerUp = true;
     }
@@ -74,16 +69,16 @@ public:
     }
     AlertAnswer showAlert(const AlertRequest& request) override {
         alerts << request;
-        return next(alertAnswers, AlertAnswer{1001, false});
+        return modal(alertAnswers, AlertAnswer{1001, false});
     }
     std::optional<QDate> askDate(const AlertRequest& request, const QDate&, const QDate&) override {
         alerts << request;
-        return next(dateAnswers, std::optional<QDate>());
+        return modal(dateAnswers, std::optional<QDate>());
     }
     std::optional<QString> askSavePath(const QString&) override {
-        return next(savePathAnswers, std::optional<QString>());
+        return modal(savePathAnswers, std::optional<QString>());
     }
-    void openUrl(const QString& url) override { openedUrls << url; }
+    void openUrl(const QString&) override {}
     void openSettingsWindow(bool firstRun) override {
         ++settingsOpened;
         settingsFirstRun = firstRun;
@@ -97,12 +92,19 @@ public:
     void exitProcess(int status) override { exitStatus = status; }
 
 private:
-    template <typename T> static T next(std::deque<T>& answers, T fallback) {
+    // The next scripted answer, after the ticks of the open question (not nested).
+    template <typename T> T modal(std::deque<T>& answers, T fallback) {
+        if (whileModal && !inModal_) {
+            inModal_ = true;
+            whileModal();
+            inModal_ = false;
+        }
         if (answers.empty()) return fallback;
         T a = answers.front();
         answers.pop_front();
         return a;
     }
+    bool inModal_ = false;
 };
 
 } // namespace tarvanel::test

@@ -1,0 +1,173 @@
+// The menu's commands and the view the title and menu are built from. A command that changes
+// a mode asks through the platform, writes the store, and ticks so that the title follows.
+#include "app/Agent.h"
+#include "engine/LocalTime.h"
+#include "lock/AppDelegate.h"
+#include "records/Excused.h"
+#include "records/History.h"
+#include "records/Log.h"
+#include "records/StateFiles.h"
+#include "records/TravelLocator.h"
+
+#include <QFile>
+
+namespace tarvanel {
+
+std::function<void()> AppDelegate::weak(void (AppDelegate::*command)()) {
+    return [self = QPointer<AppDelegate>(this), command] {
+        if (self) (self.data()->*command)();
+    };
+}
+
+StatusView AppDelegate::statusView() {
+    const QDateTime now = currentTime();
+    const bool setUp = QFile::exists(configURL());
+    if (setUp) {
+        modes_.refresh();
+        todaysTimes();
+    }
+    return StatusView{now,
+                      setUp,
+                      config_,
+                      activeConfig(),
+                      travelLocationKnown(),
+                      today_.times(),
+                      today_.waqt(),
+                      today_.jumuah(),
+                      today_.ramadan(),
+                      combiningPrayers(now),
+                      setUp && Excused::current(config_.excusedDays(), now).has_value(),
+                      modes_.pausedUntil(now),
+                      modes_.travellingUntil(now),
+                      deferred_ ? std::optional(deferred_->displayName) : std::nullopt};
+}
+
+MenuModel AppDelegate::buildMenu() {
+    QPointer<AppDelegate> self(this);
+    StatusCommands commands;
+    commands.openSettings = weak(&AppDelegate::openSettings);
+    commands.previewLock = weak(&AppDelegate::previewLock);
+    commands.startExcused = weak(&AppDelegate::startExcused);
+    commands.endExcused = weak(&AppDelegate::endExcused);
+    commands.startTravelling = weak(&AppDelegate::startTravelling);
+    commands.stopTravelling = weak(&AppDelegate::stopTravelling);
+    commands.resumeLocks = weak(&AppDelegate::resumeLocks);
+    commands.markPrayed = [self](int tag) {
+        if (self) self->markPrayed(tag);
+    };
+    commands.pauseLocks = [self](int days) {
+        if (self) self->pauseLocks(days);
+    };
+    return buildStatusMenu(statusView(), commands);
+}
+
+void AppDelegate::markPrayed(int tag) {
+    const int i = tag % 100;
+    if (tag < 0 || i >= prayerNames().size()) return;
+    const QString prayer = prayerNames()[i];
+    const bool elsewhere = tag < 100;
+    markKept({prayer}, dayKey(currentTime()),
+             elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"), completedLocks_);
+    if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
+    logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
+            (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
+    tick();
+}
+
+void AppDelegate::previewLock() {
+    // The controller's clock, like every other instant, so the tick that ends it agrees.
+    startLock(QStringLiteral("Preview"), QStringLiteral("Preview"), currentTime().addSecs(10));
+}
+
+void AppDelegate::openSettings() {
+    if (session_.isLocked() && !exitAfterTest_) return;
+    platform_.openSettingsWindow(!QFile::exists(configURL()));
+}
+
+void AppDelegate::exportHistory() {
+    platform_.activateApp();
+    const std::optional<QString> path =
+        platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
+    if (!path) return;
+    writeFileAtomically(*path, historyCSV(config_, currentTime()).toUtf8());
+}
+
+void AppDelegate::uninstall() {
+    if (session_.isLocked()) return;
+    const std::optional<bool> deleteData =
+        confirmUninstall(platform_, QStringLiteral("Your prayer times stop locking the screen."));
+    if (!deleteData) return;
+    if (*deleteData) modes_.removeAll();
+    uninstallApp(platform_, *deleteData);
+}
+
+void AppDelegate::startExcused() {
+    AlertRequest request;
+    request.message = QStringLiteral("Turn off reminders and locks?");
+    request.info = QStringLiteral("They come back when you choose No Longer Excused, or after ") +
+                   QString::number(excusedWholeDays(config_)) +
+                   QStringLiteral(" days. Your streak is kept.");
+    request.buttons = {QStringLiteral("Turn Off"), QStringLiteral("Cancel")};
+    if (platform_.showAlert(request).response != 1000) return;
+    Excused::begin(currentTime());
+    logLine(QStringLiteral("Tarvanel: excused"));
+    deferred_.reset();
+    tick();
+}
+
+void AppDelegate::endExcused() {
+    tarvanel::endExcused(currentTime());
+    tick();
+}
+
+void AppDelegate::startTravelling() {
+    AlertRequest request;
+    request.message = QStringLiteral("Travelling until\u2026");
+    request.info =
+        config_.isOn(config_.combineWhenTravelling, false)
+            ? QStringLiteral("Dhuhr and Asr become one lock, and so do Maghrib and Isha, through "
+                             "the end of this day.")
+            : QStringLiteral("Turn on \u201CCombine prayers while travelling\u201D in Settings if "
+                             "your school permits it.");
+    request.buttons = {QStringLiteral("Start"), QStringLiteral("Cancel")};
+    platform_.activateApp();
+    const QDateTime asked = currentTime();
+    const std::optional<QDate> picked =
+        platform_.askDate(request, localDate(asked), localDate(asked.addSecs(3 * 86400)));
+    if (!picked || !picked->isValid()) return;
+    // The clock moved on while the picker was open.
+    const QDateTime until = travelEnd(*picked, currentTime());
+    if (!until.isValid()) return;
+    modes_.setTravellingUntil(until);
+    logLine(QStringLiteral("Tarvanel: travelling until ") + defaultDescription(until));
+    tick();
+}
+
+void AppDelegate::stopTravelling() {
+    modes_.setTravellingUntil(std::nullopt);
+    tick();
+}
+
+void AppDelegate::pauseLocks(int days) {
+    if (session_.isLocked()) return;
+    const QDateTime until = pauseEnd(days, currentTime());
+    if (!until.isValid()) return;
+    AlertRequest request;
+    request.message = QStringLiteral("Pause Tarvanel?");
+    request.info = QStringLiteral("No reminders and no locks until ") +
+                   formatLocal(until, QStringLiteral("dddd d MMMM")) +
+                   QStringLiteral(" at midnight. You can resume any time from the menu.");
+    request.buttons = {QStringLiteral("Pause"), QStringLiteral("Cancel")};
+    if (platform_.showAlert(request).response != 1000) return;
+    modes_.setPausedUntil(until);
+    logLine(QStringLiteral("Tarvanel: paused until ") + defaultDescription(until));
+    tick();
+}
+
+void AppDelegate::resumeLocks() {
+    modes_.setPausedUntil(std::nullopt);
+    logLine(QStringLiteral("Tarvanel: resumed"));
+    tick();
+}
+
+} // namespace tarvanel

@@ -1,0 +1,45 @@
+#pragma once
+// What the five prayers ask for at one second: the reminders due now and at most one lock.
+// Decides only; the controller shows, starts or puts off what it is handed.
+#include "engine/Config.h"
+#include "lock/TodaySchedule.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QSet>
+#include <QString>
+#include <optional>
+
+namespace tarvanel {
+
+struct Nudge {
+    QString prayer; // display name
+    int minutesLeft = 0;
+    double offset = 0;
+};
+
+// A lock whose window is open now, for the first prayer (in order) that has one.
+struct DueLock {
+    QString key;
+    QString prayer;
+    QString displayName;
+    std::optional<QString> partner; // the prayer combined into it
+    QDateTime windowEnd;
+};
+
+struct PrayerDecision {
+    QList<Nudge> nudges;
+    std::optional<DueLock> lock;
+};
+
+// Walks the prayers of `today` in order, skipping those in `completedLocks` and, while
+// `combining`, the ones prayed with a partner. Every reminder whose moment has come enters
+// `firedNudges`; it is shown only when less than 90 s late.
+PrayerDecision decidePrayers(const TodaySchedule& today, const Config& cfg, const QDateTime& now,
+                             bool combining, const QSet<QString>& completedLocks,
+                             QSet<QString>& firedNudges);
+
+// Minutes as whole milliseconds.
+qint64 minutesMs(double minutes);
+
+} // namespace tarvanel

@@ -259,15 +259,9 @@ TEST_F(StatusTitleTest, CountdownAndColourByMinutesToTheLockStart) {
         EXPECT_EQ(sim.platform.title, c.title);
         EXPECT_EQ(sim.platform.titleColor, c.color);
     }
-}
-
-TEST_F(StatusTitleTest, APrayerAtThisVeryInstantIsNotNext) {
-    Config cfg = fixedTimesConfig();
-    cfg.lockLeadMinutes = 0;
-    cfg.nudgeOffsetsMinutes = {};
-    DaySimulator sim(cfg, at("14:59:59"));
-    sim.launch();
+    // A prayer at this very instant is no longer next.
     sim.app->markPrayed(2);
+    sim.sleepUntil(at("14:59:59"));
     sim.step(); // 15:00:00, Asr's time, Asr done
     EXPECT_EQ(sim.platform.title, "🕌 Maghrib in 1h 30m");
 }

@@ -72,8 +72,9 @@ bool ensureSupportDir() {
     if (::mkdir(native.constData(), 0700) != 0 && errno != EEXIST) return false;
     struct stat st {};
     if (::stat(native.constData(), &st) != 0 || !S_ISDIR(st.st_mode)) return false;
-    if ((st.st_mode & 07777) != 0700 && ::chmod(native.constData(), 0700) == 0)
-        logLine(QStringLiteral("Tarvanel: %1 was mode %2; made owner-only (0700)")
+    // Only the bits of others go: a folder its owner made read-only stays read-only.
+    if ((st.st_mode & 077) && ::chmod(native.constData(), st.st_mode & 0700) == 0)
+        logLine(QStringLiteral("Tarvanel: %1 was mode %2; made owner-only")
                     .arg(dir, QString::number(st.st_mode & 07777, 8)));
     return true;
 }

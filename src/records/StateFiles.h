@@ -19,7 +19,7 @@ QString supportPath(const QString& name);
 // Tests point every path at a scratch home; the cached paths follow.
 void setHomeDirForTesting(const QString& home);
 
-// Creates supportDir (0700) with its parents, and tightens an existing one to 0700.
+// Creates supportDir (0700) with its parents; an existing one loses any bits of others.
 bool ensureSupportDir();
 // Makes a file owner-only (0600) when others may read or write it, with a log line.
 void makeOwnerOnly(const QString& path);

@@ -63,14 +63,16 @@ void StoreFile::reject(const QString& reason) {
 
 void StoreFile::setAside(const QString& reason) {
     const QString p = path();
-    if (tarvanel::setAside(p, reason))
-        stamp_ = StoreStamp::of(p);
+    stuck_ = !tarvanel::setAside(p, reason);
+    if (stuck_)
+        stuckReason_ = reason;
     else
-        stuck_ = true;
+        stamp_ = StoreStamp::of(p);
 }
 
 bool StoreFile::write(const QJsonDocument& doc) {
     const QString p = path();
+    if (stuck_) setAside(stuckReason_); // the folder may take the renamed file by now
     if (stuck_) {
         logOncePerCause(p, QStringLiteral("stuck"),
                         QStringLiteral("Tarvanel: could not save %1 (an unreadable file is in "

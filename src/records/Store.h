@@ -37,7 +37,7 @@ public:
 private:
     void setAside(const QString& reason);
 
-    QString name_, knownPath_;
+    QString name_, knownPath_, stuckReason_;
     QJsonDocument::JsonFormat format_;
     bool createsFolder_;
     bool known_ = false, stuck_ = false;
@@ -77,8 +77,14 @@ public:
     // succeeds carries it; a change to the file by someone else still wins.
     bool save(const T& value) {
         load(); // an unreadable file is moved aside before anything replaces it
-        doc_ = update_ && !doc_.isNull() ? update_(value_, std::move(doc_), value) : encode_(value);
-        value_ = value;
+        if (update_ && !doc_.isNull()) {
+            doc_ = update_(value_, std::move(doc_), value);
+            value_ = value; // stores with an update encode without loss
+        } else {
+            doc_ = encode_(value);
+            // What a read of the file would give (an encoding may drop a fraction of a second).
+            value_ = decode_(doc_).value_or(value);
+        }
         return file_.write(doc_);
     }
 

@@ -141,6 +141,13 @@ TEST_F(GuardianTest, FiveFailuresLockOutUntilTheOldestIsFiveMinutesOld) {
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(Guardian::verify("123456", epoch(1740000000)), Check::wrong);
     EXPECT_EQ(Guardian::verify("123456", epoch(1740000000)), Check::tooManyTries);
+    // The times live in an owner-only file: a new process reading it is still locked out.
+    const QString failures = supportPath(".guardian-failures");
+    EXPECT_EQ(fileMode(failures), 0600u);
+    const QByteArray kept = readWholeFile(failures).value_or("");
+    Guardian::resetFailuresForTesting();
+    test::writeSupportFile(".guardian-failures", kept);
+    EXPECT_EQ(Guardian::verify("123456", epoch(1740000299)), Check::tooManyTries);
 
     Guardian::resetFailuresForTesting();
     Guardian::save(rfcKey);

@@ -48,6 +48,7 @@ TEST_F(HistoryTest, MarkingAndLoggingKeepOneEntryInRecordOrder) {
     EXPECT_EQ(fileBytes("marks.json"), marks);
     markKept({"Isha", "Fajr"}, "2025-03-01", std::nullopt, locks);
     EXPECT_EQ(fileBytes("marks.json"), marks); // unmarked keeping writes no marks
+    EXPECT_EQ(fileBytes("history.json"), QByteArray(R"({"2025-03-01":["Fajr","Isha"]})"));
     EXPECT_EQ(loadCompletedLocks(), QSet<QString>({"2025-03-01-Isha", "2025-03-01-Fajr"}));
     EXPECT_EQ(loadCompletedLocks(), locks);
 

@@ -11,8 +11,10 @@
 #include <QJsonParseError>
 #include <QMutex>
 #include <QSaveFile>
+#include <QScopeGuard>
 #include <QSet>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <sys/stat.h>
@@ -129,6 +131,12 @@ bool writeFile(const QString& path, const QByteArray& bytes,
     // Unbuffered on purpose: a buffered QSaveFile flushes a short write (file-size limit, full
     // disk) without noticing and commits a truncated file. Unbuffered, write() reports the
     // short count and the temporary file is discarded.
+    // Past a file-size limit the kernel would kill the program; ignored, the write just fails.
+    struct sigaction ignore {
+    }, previous{};
+    ignore.sa_handler = SIG_IGN;
+    sigaction(SIGXFSZ, &ignore, &previous);
+    const auto restore = qScopeGuard([&] { sigaction(SIGXFSZ, &previous, nullptr); });
     QSaveFile f(path);
     // Applies to the temporary file, so no byte ever sits in a file others can read.
     bool ok = f.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&

@@ -34,16 +34,14 @@ protected:
     QSet<QString> locks;
 };
 
-// Runs `write` while no file may grow past `bytes`; writes past it fail with EFBIG.
+// Runs `write` while no file may grow past `bytes`: the writer must not die of SIGXFSZ.
 void withFileSizeLimit(rlim_t bytes, const std::function<void()>& write) {
     rlimit old{}, limited{};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
-    auto* oldHandler = std::signal(SIGXFSZ, SIG_IGN);
     limited = {bytes, old.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
     write();
     setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, oldHandler);
 }
 
 // Runs `write` with this thread's permission override dropped, so a read-only folder stops

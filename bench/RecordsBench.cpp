@@ -75,6 +75,63 @@ void BM_GuardianVerify(benchmark::State& state) {
 }
 BENCHMARK(BM_GuardianVerify)->Unit(benchmark::kMicrosecond);
 
+// Twenty years of every prayer kept, a qada mark every tenth day and an excused week each
+// month: the size a long-time user's files reach.
+void writeTwentyYears() {
+    HistoryMap history;
+    Marks::Map marks;
+    QList<ExcusedRange> ranges;
+    const QDate last = localDate(now);
+    for (QDate d = last.addYears(-20); d <= last; d = d.addDays(1)) {
+        if (d.day() < 8) continue; // the excused days keep nothing
+        history[dayKey(d)] = {"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"};
+        if (d.day() % 10 == 0) marks[dayKey(d)] = {{"Fajr", "qada"}};
+        if (d.day() == 28) { // so the streak runs unbroken to the walk's limit
+            const QDate first = d.addMonths(1).addDays(1 - d.day());
+            ranges.append({startOfLocalDay(first), startOfLocalDay(first.addDays(7))});
+        }
+    }
+    saveHistory(history);
+    Marks::save(marks);
+    Excused::save(ranges);
+}
+
+// What the menu reads each time it opens: the stores, the streak and the seven-day grid.
+void BM_MenuReadsTwentyYears(benchmark::State& state) {
+    ScratchHome home;
+    writeTwentyYears();
+    int streak = 0;
+    for (auto _ : state) {
+        const QList<ExcusedRange> excused = Excused::load();
+        benchmark::DoNotOptimize(Excused::current(15, now));
+        const HistoryMap history = loadHistory();
+        const Marks::Map marks = Marks::load();
+        streak = streakDays(now, 15, history, excused);
+        for (int k = 0; k < 7; ++k)
+            for (const char* prayer : {"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"})
+                benchmark::DoNotOptimize(gridMark(QString::fromLatin1(prayer),
+                                                  dayKey(now.addDays(-k)), history, marks,
+                                                  Excused::contains(now, excused, 15)));
+    }
+    state.counters["streak"] = streak;
+}
+BENCHMARK(BM_MenuReadsTwentyYears)->Unit(benchmark::kMillisecond);
+
+// The write at the end of a lock, each on a new day after the twenty years.
+void BM_LogKeptTwentyYears(benchmark::State& state) {
+    ScratchHome home;
+    writeTwentyYears();
+    QSet<QString> completed;
+    QDate day = localDate(now);
+    for (auto _ : state) {
+        day = day.addDays(1);
+        completed.clear();
+        logKept(dayKey(day) + QStringLiteral("-Fajr"), std::nullopt, completed);
+    }
+    state.counters["days"] = double(loadHistory().size());
+}
+BENCHMARK(BM_LogKeptTwentyYears)->Unit(benchmark::kMillisecond);
+
 void BM_StreakDaysFiveYears(benchmark::State& state) {
     ScratchHome home;
     writeFiveYears(false);

@@ -1,7 +1,10 @@
 #include "guardian/Guardian.h"
 #include "records/StateFiles.h"
+#include "records/Store.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
 #include <QList>
 #include <QMessageAuthenticationCode>
 #include <QRandomGenerator>
@@ -17,9 +20,29 @@ constexpr qint64 stepSeconds = 30;
 constexpr qint64 lockoutMs = 300 * 1000;
 constexpr int maxFailures = 5;
 
-QList<QDateTime>& failures() {
-    static QList<QDateTime> list;
-    return list;
+std::optional<QList<QDateTime>> decodeFailures(const QJsonDocument& doc) {
+    if (!doc.isArray()) return std::nullopt;
+    QList<QDateTime> times;
+    for (const QJsonValue& v : doc.array()) {
+        const auto t = parseIso(v.toString());
+        if (!t) return std::nullopt;
+        times << *t;
+    }
+    return times;
+}
+
+QJsonDocument encodeFailures(const QList<QDateTime>& times) {
+    QJsonArray array;
+    for (const QDateTime& t : times)
+        array.append(t.toUTC().toString(Qt::ISODateWithMs));
+    return QJsonDocument(array);
+}
+
+// Beside the secret, so a restart does not reset the lock-out.
+JsonStore<QList<QDateTime>>& failures() {
+    static JsonStore<QList<QDateTime>> store(QStringLiteral(".guardian-failures"), decodeFailures,
+                                             encodeFailures);
+    return store;
 }
 
 // Numeric characters only, by code point, as typed (separators dropped).
@@ -65,9 +88,17 @@ std::optional<QByteArray> decodeSecret(const QByteArray& text) {
 }
 
 std::optional<QByteArray> secret() {
-    const auto bytes = readWholeFile(fileURL());
-    if (!bytes) return std::nullopt;
-    return decodeSecret(*bytes);
+    const QString path = fileURL();
+    makeOwnerOnly(path);
+    QString error;
+    const auto bytes = readWholeFile(path, &error);
+    if (!bytes) {
+        if (QFileInfo(path).isFile()) setAside(path, error);
+        return std::nullopt;
+    }
+    auto decoded = decodeSecret(*bytes);
+    if (!decoded) setAside(path, QStringLiteral("not a base64 secret"));
+    return decoded;
 }
 
 bool isSet() {
@@ -126,16 +157,23 @@ bool matches(const QByteArray& secret, const QString& input, const QDateTime& at
 }
 
 Check verify(const QString& input, const QDateTime& at) {
-    QList<QDateTime>& failed = failures();
-    failed.removeIf([&](const QDateTime& t) { return t.msecsTo(at) >= lockoutMs; });
-    if (failed.size() >= maxFailures) return Check::tooManyTries;
+    QList<QDateTime> failed = failures().load();
+    // Times far ahead (a clock set back, a hand edit) must not lock out for ever.
+    const qsizetype expired = failed.removeIf([&](const QDateTime& t) {
+        return t.msecsTo(at) >= lockoutMs || at.msecsTo(t) >= lockoutMs;
+    });
+    if (failed.size() >= maxFailures) {
+        if (expired) failures().save(failed);
+        return Check::tooManyTries;
+    }
     const QList<char32_t> digits = numerals(input);
     const auto key = secret();
     if (key && digits.size() == 6 && windowMatches(*key, digits, at)) {
-        failed.clear();
+        if (!failed.isEmpty() || expired) failures().save({});
         return Check::ok;
     }
     failed.append(at);
+    failures().save(failed);
     return Check::wrong;
 }
 
@@ -166,7 +204,7 @@ std::optional<QrMatrix> qrMatrix(const QString& text) {
 }
 
 void resetFailuresForTesting() {
-    failures().clear();
+    failures().remove();
 }
 
 } // namespace tarvanel::Guardian

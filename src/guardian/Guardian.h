@@ -24,10 +24,11 @@ inline constexpr const char* appDisplayName = "Tarvanel";
 
 QString fileURL();      // supportDir()/.guardian
 QByteArray newSecret(); // 20 bytes from the system's secure generator
-// Atomic write of the base64 text, mode 0600 from the start. Failures are silent.
+// Atomic write of the base64 text, mode 0600 from the start; a failure is logged.
 void save(const QByteArray& secret);
 void remove();
-// Absent when the file is missing or not strict base64 (surrounding white space allowed).
+// Absent when the file is missing or not strict base64 (surrounding white space allowed); such
+// a file is moved aside. A file others may read is made owner-only first.
 std::optional<QByteArray> secret();
 bool isSet();
 // Strict standard base64 (with padding) in UTF-8 text, white space at either end allowed;
@@ -39,7 +40,8 @@ QString code(const QByteArray& secret, const QDateTime& at);
 // The three-step window (at − 30 s, at, at + 30 s) on the digits of `input`; no bookkeeping.
 // The settings window checks an unsaved secret with it.
 bool matches(const QByteArray& secret, const QString& input, const QDateTime& at);
-// The stored secret, the window and the lock-out of 5 failures within 300 s.
+// The stored secret, the window and the lock-out of 5 failures within 300 s; the failure times
+// are kept in .guardian-failures (0600) so a restart does not reset them.
 Check verify(const QString& input, const QDateTime& at);
 QString otpauthURL(const QByteArray& secret);
 // Error-correction level M; absent when the text cannot be encoded.

@@ -1,6 +1,7 @@
 #include "records/Excused.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
+#include "records/Store.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -36,35 +37,49 @@ QDateTime ExcusedRange::effectiveEnd(double maxDays) const {
 
 namespace Excused {
 
-QList<ExcusedRange> load() {
-    const auto doc = jsonLoad(fileName);
-    if (!doc || !doc->isArray()) return {};
+namespace {
+std::optional<QList<ExcusedRange>> decode(const QJsonDocument& doc) {
+    if (!doc.isArray()) return std::nullopt;
     QList<ExcusedRange> ranges;
-    for (const QJsonValue& element : doc->array()) {
+    for (const QJsonValue& element : doc.array()) {
         // Any element that does not decode spoils the list, as a strict decoder would.
-        if (!element.isObject()) return {};
+        if (!element.isObject()) return std::nullopt;
         const QJsonObject object = element.toObject();
         const auto start = parseInstant(object.value(QLatin1String("start")));
-        if (!start) return {};
+        if (!start) return std::nullopt;
         ExcusedRange range{*start, std::nullopt};
         const QJsonValue end = object.value(QLatin1String("end"));
         if (!end.isUndefined() && !end.isNull()) {
             range.end = parseInstant(end);
-            if (!range.end) return {};
+            if (!range.end) return std::nullopt;
         }
         ranges.append(range);
     }
     return ranges;
 }
 
-void save(const QList<ExcusedRange>& ranges) {
+QJsonDocument encode(const QList<ExcusedRange>& ranges) {
     QJsonArray array;
     for (const ExcusedRange& r : ranges) {
         QJsonObject object{{QStringLiteral("start"), isoString(r.start)}};
         if (r.end) object.insert(QStringLiteral("end"), isoString(*r.end));
         array.append(object);
     }
-    jsonSave(QJsonDocument(array), fileName);
+    return QJsonDocument(array);
+}
+
+JsonStore<QList<ExcusedRange>>& store() {
+    static JsonStore<QList<ExcusedRange>> s(fileName, decode, encode);
+    return s;
+}
+} // namespace
+
+QList<ExcusedRange> load() {
+    return store().load();
+}
+
+void save(const QList<ExcusedRange>& ranges) {
+    store().save(ranges);
 }
 
 namespace {

@@ -19,7 +19,7 @@ struct ExcusedRange {
 
 namespace Excused {
 
-// Missing, unreadable or malformed: empty. Elements without a valid "start" are skipped.
+// Missing: empty. Unreadable, or any element malformed: moved aside, then empty.
 QList<ExcusedRange> load();
 // ISO 8601 UTC without fractional seconds; an absent end is omitted. Atomic.
 void save(const QList<ExcusedRange>& ranges);

@@ -4,6 +4,7 @@
 #include "engine/Schedule.h"
 #include "records/LockState.h"
 #include "records/StateFiles.h"
+#include "records/Store.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,19 +16,42 @@ namespace {
 const QString historyFile = QStringLiteral("history.json");
 const QString marksFile = QStringLiteral("marks.json");
 constexpr int maxStreakSteps = 5000;
+
+struct Span {
+    QDateTime start, end;
+};
+
+// The union of the excused periods as sorted, disjoint spans.
+QList<Span> mergedSpans(const QList<ExcusedRange>& excused, double maxDays) {
+    QList<Span> spans;
+    for (const ExcusedRange& r : excused) {
+        const QDateTime end = r.effectiveEnd(maxDays);
+        if (r.start < end) spans.append({r.start, end});
+    }
+    std::sort(spans.begin(), spans.end(),
+              [](const Span& a, const Span& b) { return a.start < b.start; });
+    QList<Span> merged;
+    for (const Span& span : spans) {
+        if (!merged.isEmpty() && span.start <= merged.last().end)
+            merged.last().end = std::max(merged.last().end, span.end);
+        else
+            merged.append(span);
+    }
+    return merged;
+}
 } // namespace
 
-HistoryMap loadHistory() {
-    const auto doc = jsonLoad(historyFile);
-    if (!doc || !doc->isObject()) return {};
+namespace {
+std::optional<HistoryMap> decodeHistory(const QJsonDocument& doc) {
+    if (!doc.isObject()) return std::nullopt;
     HistoryMap history;
-    const QJsonObject root = doc->object();
+    const QJsonObject root = doc.object();
     for (auto it = root.begin(); it != root.end(); ++it) {
         // A wrong shape anywhere makes the whole file unreadable, as a strict decoder would.
-        if (!it.value().isArray()) return {};
+        if (!it.value().isArray()) return std::nullopt;
         QStringList prayers;
         for (const QJsonValue& v : it.value().toArray()) {
-            if (!v.isString()) return {};
+            if (!v.isString()) return std::nullopt;
             prayers << v.toString();
         }
         history.insert(it.key(), prayers);
@@ -35,23 +59,63 @@ HistoryMap loadHistory() {
     return history;
 }
 
-void saveHistory(const HistoryMap& history) {
+QJsonDocument encodeHistory(const HistoryMap& history) {
     QJsonObject root;
     for (auto it = history.begin(); it != history.end(); ++it)
         root.insert(it.key(), QJsonArray::fromStringList(it.value()));
-    writeFilePlain(supportPath(historyFile), QJsonDocument(root).toJson(QJsonDocument::Compact));
+    return QJsonDocument(root);
+}
+
+// Touches only the days that differ: a lock end changes one day of thousands.
+QJsonDocument updateHistory(const HistoryMap& before, QJsonDocument doc, const HistoryMap& after) {
+    QJsonObject root = doc.object();
+    doc = QJsonDocument(); // root is the only owner now, so editing it copies nothing
+    auto a = before.begin();
+    auto b = after.begin();
+    while (a != before.end() || b != after.end()) {
+        if (b == after.end() || (a != before.end() && a.key() < b.key())) {
+            root.remove((a++).key());
+        } else if (a == before.end() || b.key() < a.key()) {
+            root.insert(b.key(), QJsonArray::fromStringList(b.value()));
+            ++b;
+        } else {
+            if (a.value() != b.value()) root.insert(b.key(), QJsonArray::fromStringList(b.value()));
+            ++a;
+            ++b;
+        }
+    }
+    return QJsonDocument(root);
+}
+
+// History is compact and, unlike the other stores, does not create supportDir.
+JsonStore<HistoryMap>& historyStore() {
+    static JsonStore<HistoryMap> store(historyFile, decodeHistory, encodeHistory,
+                                       QJsonDocument::Compact, false, updateHistory);
+    return store;
+}
+
+JsonStore<Marks::Map>& marksStore() {
+    static JsonStore<Marks::Map> store(marksFile, decodeNestedTextMap, encodeNestedTextMap);
+    return store;
+}
+} // namespace
+
+HistoryMap loadHistory() {
+    return historyStore().load();
+}
+
+void saveHistory(const HistoryMap& history) {
+    historyStore().save(history);
 }
 
 namespace Marks {
 
 Map load() {
-    const auto doc = jsonLoad(marksFile);
-    if (!doc) return {};
-    return decodeNestedTextMap(*doc).value_or(Map());
+    return marksStore().load();
 }
 
 void save(const Map& marks) {
-    jsonSave(encodeNestedTextMap(marks), marksFile);
+    marksStore().save(marks);
 }
 
 } // namespace Marks
@@ -89,6 +153,9 @@ int streakDays(const QDateTime& now, double maxDays, const HistoryMap& history,
     // Walks local calendar days, so a 23-hour day is neither skipped nor counted twice.
     QDate day = localDate(now);
     if (history.value(dayKey(day)).isEmpty()) day = day.addDays(-1);
+    // The walk goes back in time, so one index moving down finds the span that may touch a day.
+    const QList<Span> spans = mergedSpans(excused, maxDays);
+    qsizetype span = spans.size() - 1;
     int count = 0;
     for (int step = 0; step < maxStreakSteps && day.isValid(); ++step, day = day.addDays(-1)) {
         const auto it = history.constFind(dayKey(day));
@@ -96,8 +163,11 @@ int streakDays(const QDateTime& now, double maxDays, const HistoryMap& history,
             ++count;
             continue;
         }
-        if (excused.isEmpty() || !Excused::touchesDay(startOfLocalDay(day), excused, maxDays))
-            break;
+        const QDateTime dayStart = startOfLocalDay(day);
+        const QDateTime dayEnd = dayStart.addSecs(86400);
+        while (span >= 0 && spans[span].start >= dayEnd)
+            --span;
+        if (span < 0 || spans[span].end <= dayStart) break;
     }
     return count;
 }
@@ -143,27 +213,12 @@ QString historyCSV(const Config& cfg, const QDateTime& now) {
     }
 
     if (!excused.isEmpty()) {
-        // The union of the periods as sorted, disjoint spans: membership is a binary search and
-        // the walk can jump over the long stretches that no period comes near.
-        struct Span {
-            QDateTime start, end;
-        };
-        QList<Span> spans;
+        // Membership is a binary search over the spans, and the walk can jump over the long
+        // stretches that no period comes near.
+        const QList<Span> merged = mergedSpans(excused, maxDays);
         QDateTime earliest = excused.first().start;
-        for (const ExcusedRange& r : excused) {
+        for (const ExcusedRange& r : excused)
             earliest = std::min(earliest, r.start);
-            const QDateTime end = r.effectiveEnd(maxDays);
-            if (r.start < end) spans.append({r.start, end});
-        }
-        std::sort(spans.begin(), spans.end(),
-                  [](const Span& a, const Span& b) { return a.start < b.start; });
-        QList<Span> merged;
-        for (const Span& span : spans) {
-            if (!merged.isEmpty() && span.start <= merged.last().end)
-                merged.last().end = std::max(merged.last().end, span.end);
-            else
-                merged.append(span);
-        }
         auto inside = [&](const QDateTime& t) {
             auto it =
                 std::upper_bound(merged.cbegin(), merged.cend(), t,

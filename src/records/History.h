@@ -16,9 +16,10 @@ namespace tarvanel {
 // Day key → prayer names kept that day, in the order they were recorded.
 using HistoryMap = QMap<QString, QStringList>;
 
-// Missing, unreadable or of the wrong shape anywhere: empty.
+// Missing: empty. Unreadable or of the wrong shape anywhere: moved aside, then empty.
+// Read again only when the file changed.
 HistoryMap loadHistory();
-// Compact, plain write; does not create supportDir; failures are silent.
+// Compact, atomic; does not create supportDir; a failure is logged and keeps the old file.
 void saveHistory(const HistoryMap& history);
 
 namespace Marks {

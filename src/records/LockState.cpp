@@ -1,5 +1,5 @@
 #include "records/LockState.h"
-#include "records/StateFiles.h"
+#include "records/Store.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -7,25 +7,33 @@
 namespace tarvanel {
 namespace {
 const QString fileName = QStringLiteral("state.json");
-} // namespace
 
-QSet<QString> loadCompletedLocks() {
-    const auto doc = jsonLoad(fileName);
-    if (!doc || !doc->isArray()) return {};
+std::optional<QSet<QString>> decode(const QJsonDocument& doc) {
+    if (!doc.isArray()) return std::nullopt;
     QSet<QString> keys;
-    for (const QJsonValue& v : doc->array()) {
-        if (!v.isString()) return {}; // one wrong element spoils the whole array
+    for (const QJsonValue& v : doc.array()) {
+        if (!v.isString()) return std::nullopt; // one wrong element spoils the whole array
         keys.insert(v.toString());
     }
     return keys;
 }
 
+QJsonDocument encode(const QSet<QString>& keys) {
+    return QJsonDocument(QJsonArray::fromStringList(QStringList(keys.begin(), keys.end())));
+}
+
+JsonStore<QSet<QString>>& store() {
+    static JsonStore<QSet<QString>> s(fileName, decode, encode, QJsonDocument::Compact);
+    return s;
+}
+} // namespace
+
+QSet<QString> loadCompletedLocks() {
+    return store().load();
+}
+
 void saveCompletedLocks(const QSet<QString>& completedLocks) {
-    ensureSupportDir();
-    QJsonArray array;
-    for (const QString& key : completedLocks)
-        array.append(key);
-    writeFilePlain(supportPath(fileName), QJsonDocument(array).toJson(QJsonDocument::Compact));
+    store().save(completedLocks);
 }
 
 } // namespace tarvanel

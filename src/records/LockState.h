@@ -5,9 +5,9 @@
 
 namespace tarvanel {
 
-// A missing, unreadable or malformed file gives the empty set.
+// A missing file gives the empty set; an unreadable or malformed one is moved aside first.
 QSet<QString> loadCompletedLocks();
-// Compact JSON array, one plain write; creates supportDir. Failures are silent.
+// Compact JSON array, atomic; creates supportDir. A failure is logged and keeps the old file.
 void saveCompletedLocks(const QSet<QString>& completedLocks);
 
 } // namespace tarvanel

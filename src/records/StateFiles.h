@@ -19,19 +19,30 @@ QString supportPath(const QString& name);
 // Tests point every path at a scratch home; the cached paths follow.
 void setHomeDirForTesting(const QString& home);
 
-// Creates supportDir with its parents; true when it exists afterwards.
+// Creates supportDir (0700) with its parents; an existing one loses any bits of others.
 bool ensureSupportDir();
+// Makes a file owner-only (0600) when others may read or write it, with a log line.
+void makeOwnerOnly(const QString& path);
 
-// Whole-file helpers. The atomic writer leaves the previous file intact on any failure.
-std::optional<QByteArray> readWholeFile(const QString& path);
+// Whole-file helpers. `error`, when given, receives the reason of a failed read.
+std::optional<QByteArray> readWholeFile(const QString& path, QString* error = nullptr);
+// The one way the program writes a file: a temporary file in the same folder, flushed and
+// renamed over the old one. Files in supportDir are owner-only from the first byte. A failure
+// leaves the previous file whole and logs one line naming the file and the reason, once per
+// file and cause.
 bool writeFileAtomically(const QString& path, const QByteArray& bytes);
-// Same, with the new file holding `permissions` before any byte is written (secrets).
 bool writeFileAtomically(const QString& path, const QByteArray& bytes,
                          QFileDevice::Permissions permissions);
-bool writeFilePlain(const QString& path, const QByteArray& bytes);
 
-// JSON stores in supportDir: pretty-printed, keys sorted, atomic. A missing, unreadable or
-// unparsable file loads as absent.
+// A file that exists but cannot be read is never replaced: it is renamed to
+// "<name>.unreadable-<yyyyMMdd-HHmmss>" with a log line. False when the rename failed (logged).
+bool setAside(const QString& path, const QString& reason);
+
+// Logs `line` unless the same cause was already logged for `file` since its last good write.
+void logOncePerCause(const QString& file, const QString& cause, const QString& line);
+
+// JSON documents in supportDir, pretty-printed with sorted keys. A missing file loads as
+// absent; one that does not read or parse is moved aside (see Store.h) and loads as absent.
 std::optional<QJsonDocument> jsonLoad(const QString& name);
 bool jsonSave(const QJsonDocument& doc, const QString& name);
 

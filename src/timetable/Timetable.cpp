@@ -1,8 +1,8 @@
 #include "timetable/Timetable.h"
 #include "engine/LocalTime.h"
 #include "records/StateFiles.h"
+#include "records/Store.h"
 
-#include <QFileInfo>
 #include <QJsonObject>
 #include <QLocale>
 #include <QStringList>
@@ -18,29 +18,9 @@ namespace Timetable {
 namespace {
 const QString fileName = QStringLiteral("timetable.json");
 
-// Modification time plus size: a rewrite within one time-stamp tick usually changes the size.
-struct Stamp {
-    QDateTime modified;
-    qint64 size = 0;
-    bool operator==(const Stamp&) const = default;
-};
-
-struct Cache {
-    DayTable table;
-    std::optional<Stamp> stamp;
-};
-
-Cache& cache() {
-    static Cache c;
-    return c;
-}
-
-std::optional<Stamp> currentStamp() {
-    const QFileInfo info(url());
-    if (!info.exists()) return std::nullopt;
-    const QDateTime m = info.fileTime(QFileDevice::FileModificationTime);
-    if (!m.isValid()) return std::nullopt;
-    return Stamp{m.toUTC(), info.size()};
+JsonStore<DayTable>& store() {
+    static JsonStore<DayTable> s(fileName, decodeNestedTextMap, encodeNestedTextMap);
+    return s;
 }
 
 } // namespace
@@ -50,15 +30,7 @@ QString url() {
 }
 
 DayTable all() {
-    Cache& c = cache();
-    const std::optional<Stamp> stamp = currentStamp();
-    if (stamp == c.stamp) return c.table;
-    c.stamp = stamp;
-    c.table.clear();
-    if (!stamp) return c.table;
-    if (const auto doc = jsonLoad(fileName))
-        if (auto table = decodeNestedTextMap(*doc)) c.table = std::move(*table);
-    return c.table;
+    return store().load();
 }
 
 QMap<QString, QString> day(const QDateTime& date) {
@@ -69,11 +41,11 @@ void merge(const DayTable& days) {
     DayTable table = all();
     for (auto it = days.begin(); it != days.end(); ++it)
         table.insert(it.key(), it.value());
-    jsonSave(encodeNestedTextMap(table), fileName);
+    store().save(table);
 }
 
 void clear() {
-    QFile::remove(url());
+    store().remove();
 }
 
 std::optional<QString> summary() {
@@ -93,7 +65,7 @@ std::optional<QString> summary() {
 }
 
 void resetCacheForTesting() {
-    cache() = Cache{};
+    store().forget();
 }
 
 } // namespace Timetable

@@ -13,7 +13,7 @@ using DayTable = QMap<QString, QMap<QString, QString>>;
 namespace Timetable {
 
 QString url();
-DayTable all();                                    // cached by the file's modification time
+DayTable all();                                    // read again only when the file changed
 QMap<QString, QString> day(const QDateTime& date); // empty when nothing covers the date
 void merge(const DayTable& days);                  // replaces the given days whole
 void clear();

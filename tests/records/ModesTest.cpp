@@ -32,7 +32,7 @@ QByteArray excusedBytes() {
 }
 } // namespace
 
-TEST_F(ExcusedTest, FileHoldsUtcSecondsAndOmitsAnOpenEnd) {
+TEST_F(ExcusedTest, FileHoldsUtcSecondsReadsOffsetsAndNothingElse) {
     EXPECT_TRUE(Excused::load().isEmpty());
     const QDateTime start = utc(2025, 3, 1, 18, 2, 11).addMSecs(750);
     Excused::save({{utc(2025, 2, 1), utc(2025, 2, 3, 6)}, {start, std::nullopt}});
@@ -43,9 +43,8 @@ TEST_F(ExcusedTest, FileHoldsUtcSecondsAndOmitsAnOpenEnd) {
     // The fraction is gone.
     EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 2, 1), utc(2025, 2, 3, 6)},
                                                     {utc(2025, 3, 1, 18, 2, 11), std::nullopt}}));
-}
 
-TEST_F(ExcusedTest, OffsetsAndNullEndsAreReadOtherFormsSpoilTheFile) {
+    // Offsets and null ends are read; any other form spoils the file.
     test::writeSupportFile("excused.json",
                            R"([{"start": "2025-03-01T20:00:00+02:00", "end": null}])");
     EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 3, 1, 18), std::nullopt}}));

@@ -170,18 +170,7 @@ TEST_F(TravelLocatorTest, BadRepliesAndNoServerChangeNothingAndWaitSixHours) {
     EXPECT_TRUE(logs.isEmpty());
 }
 
-TEST_F(TravelLocatorTest, FiftyKilometresIsStillHome) {
-    const double kmPerDegree = 12742 * M_PI / 360;
-    locator->check(Config{}, at(0)); // travel mode off: only takes the home coordinates
-    locator->applyLocation({49.9 / kmPerDegree, 0, "Near"});
-    EXPECT_FALSE(locator->travelCoords().has_value());
-    locator->applyLocation({50.1 / kmPerDegree, 0, "Far"});
-    EXPECT_TRUE(locator->travelCoords().has_value());
-    locator->applyLocation({49.9 / kmPerDegree, 0, "Near"});
-    EXPECT_FALSE(locator->travelCoords().has_value());
-}
-
-TEST_F(TravelLocatorTest, TravelModeOffNeverAsksAndDropsALocation) {
+TEST_F(TravelLocatorTest, TravelModeOffNeverAsksAndFiftyKilometresIsHome) {
     server.body = paris;
     ASSERT_TRUE(checkAndWait(at(0)));
     cfg.travelMode = false; // drops the location without a log line
@@ -193,6 +182,14 @@ TEST_F(TravelLocatorTest, TravelModeOffNeverAsksAndDropsALocation) {
     QEventLoop().processEvents();
     EXPECT_EQ(server.requestLines.size(), 1);
     EXPECT_EQ(logs.size(), 1);
+
+    // Fifty kilometres from home (here 0° N 0° E) is still home.
+    locator->check(Config{}, at(24));
+    const double kmPerDegree = 12742 * M_PI / 360;
+    for (double km : {49.9, 50.1, 49.9}) {
+        locator->applyLocation({km / kmPerDegree, 0, "Near"});
+        EXPECT_EQ(locator->travelCoords().has_value(), km > 50) << km;
+    }
 }
 
 TEST_F(TravelLocatorTest, AReplyAfterTheLocatorIsGoneDoesNothing) {

@@ -1,90 +1,219 @@
-// A write that fails part-way must leave the previous file whole. Tests run as root, where
-// permissions stop nothing, so the failure comes from a file-size limit instead.
+// Failed writes keep the previous file whole and say so; unreadable files are set aside, never
+// overwritten; a process killed at any moment loses no confirmed record.
 #include "guardian/Guardian.h"
 #include "records/Excused.h"
 #include "records/History.h"
+#include "records/LockState.h"
+#include "records/Log.h"
 #include "records/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QRandomGenerator>
 #include <csignal>
 #include <functional>
+#include <linux/capability.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace tarvanel;
 
 namespace {
 class WriteFailureTest : public test::ScratchTest {
 protected:
-    // Runs `write` while no file may grow past `bytes`; writes past it fail with EFBIG.
-    static void withFileSizeLimit(rlim_t bytes, const std::function<void()>& write) {
-        rlimit old{};
-        ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
-        auto* oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limited = old;
-        limited.rlim_cur = bytes;
-        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
-        write();
-        setrlimit(RLIMIT_FSIZE, &old);
-        std::signal(SIGXFSZ, oldHandler);
+    void SetUp() override {
+        ScratchTest::SetUp();
+        ensureSupportDir();
+        setLogSink([this](const QString& line) { log << line; });
     }
-
-    static QByteArray bytesOf(const QString& name) {
-        return readWholeFile(supportPath(name)).value_or(QByteArray("<missing>"));
-    }
-
-    static int leftovers() {
-        return int(QDir(supportDir()).entryList(QDir::Files | QDir::Hidden).size());
-    }
+    QStringList log;
+    QSet<QString> locks;
 };
+
+// Runs `write` while no file may grow past `bytes`: the writer must not die of SIGXFSZ.
+void withFileSizeLimit(rlim_t bytes, const std::function<void()>& write) {
+    rlimit old{}, limited{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
+    limited = {bytes, old.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
+    write();
+    setrlimit(RLIMIT_FSIZE, &old);
+}
+
+// Runs `write` with this thread's permission override dropped, so a read-only folder stops
+// root too.
+void withoutOverride(const std::function<void()>& write) {
+    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct caps[2]{}, dropped[2]{};
+    ASSERT_EQ(syscall(SYS_capget, &header, caps), 0);
+    std::copy(caps, caps + 2, dropped);
+    dropped[0].effective &= ~((1u << CAP_DAC_OVERRIDE) | (1u << CAP_DAC_READ_SEARCH));
+    ASSERT_EQ(syscall(SYS_capset, &header, dropped), 0);
+    write();
+    syscall(SYS_capset, &header, caps);
+}
+
+QByteArray bytesOf(const QString& name) {
+    return readWholeFile(supportPath(name)).value_or(QByteArray("<missing>"));
+}
+
+QStringList filesIn(const QString& pattern) {
+    return QDir(supportDir()).entryList({pattern}, QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+QString day(int i) {
+    return dayKey(QDate(2000, 1, 1).addDays(i));
+}
 
 QDateTime utc(int y, int m, int d) {
     return QDateTime(QDate(y, m, d), QTime(0, 0), Qt::UTC);
 }
 } // namespace
 
-TEST_F(WriteFailureTest, AtomicStoresKeepThePreviousFileWhole) {
-    Marks::save({{"2025-03-01", {{"Fajr", "qada"}}}});
+TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
+    logKept(day(0) + "-Fajr", std::nullopt, locks);
+    Marks::save({{day(0), {{"Fajr", "qada"}}}});
     Excused::save({{utc(2025, 3, 1), utc(2025, 3, 2)}});
-    Timetable::merge({{"2025-03-01", {{"Fajr", "05:45"}}}});
+    Timetable::merge({{day(0), {{"Fajr", "05:45"}}}});
     const QByteArray secret = Guardian::newSecret();
     Guardian::save(secret);
-    const QByteArray marks = bytesOf("marks.json");
-    const QByteArray excused = bytesOf("excused.json");
-    const QByteArray timetable = bytesOf("timetable.json");
-    const int files = leftovers();
+    const QStringList names{"history.json", "state.json",     "marks.json",
+                            "excused.json", "timetable.json", ".guardian"};
+    QList<QByteArray> before;
+    std::transform(names.begin(), names.end(), std::back_inserter(before), bytesOf);
+    const qsizetype files = filesIn("*").size();
 
-    Marks::Map bigMarks;
-    QList<ExcusedRange> bigExcused;
-    DayTable bigTable;
-    for (int i = 0; i < 400; ++i) {
-        const QString day = dayKey(QDate(2025, 1, 1).addDays(i));
-        bigMarks[day] = {{"Fajr", "elsewhere"}, {"Isha", "qada"}};
-        bigExcused.append({utc(2025, 1, 1).addDays(i), utc(2025, 1, 1).addDays(i + 1)});
-        bigTable[day] = {{"Fajr", "05:45"}, {"Isha", "20:50"}};
-    }
-    withFileSizeLimit(1024, [&] {
-        Marks::save(bigMarks);
-        Excused::save(bigExcused);
-        Timetable::merge(bigTable);
-        EXPECT_FALSE(writeFileAtomically(supportPath("marks.json"), QByteArray(4096, 'x')));
+    // Every file grows past the limit below (the base64 secret is 28 bytes).
+    auto saveAll = [&] {
+        for (int i = 1; i <= 3; ++i)
+            logKept(day(i) + "-Isha", QStringLiteral("Maghrib"), locks);
+        Marks::save({{day(1), {{"Isha", "elsewhere"}}}});
+        Excused::save({{utc(2025, 3, 1), utc(2025, 3, 2)}, {utc(2025, 3, 3), std::nullopt}});
+        Timetable::merge({{day(1), {{"Isha", "20:50"}}}});
+        Guardian::save(Guardian::newSecret());
+    };
+    withFileSizeLimit(20, saveAll);
+    withoutOverride([&] {
+        ASSERT_EQ(chmod(QFile::encodeName(supportDir()).constData(), 0500), 0);
+        saveAll();
+        chmod(QFile::encodeName(supportDir()).constData(), 0700);
     });
-    // The base64 secret is 28 bytes: a limit of 10 stops its replacement part-way.
-    withFileSizeLimit(10, [] { Guardian::save(Guardian::newSecret()); });
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        SCOPED_TRACE(names[i].toStdString());
+        EXPECT_EQ(bytesOf(names[i]), before[i]);
+        // One line per file and cause, however many saves failed.
+        for (const char* cause : {"File too large", "Permission denied"})
+            EXPECT_EQ(log.filter(supportPath(names[i]) + " (").filter(cause).size(), 1) << cause;
+    }
+    EXPECT_EQ(log.size(), 2 * names.size()) << log.join('\n').toStdString();
+    EXPECT_EQ(filesIn("*").size(), files); // no temporary files left behind
+
+    // Nothing is lost: the next write that succeeds carries what could not be saved.
+    Guardian::resetFailuresForTesting();
     EXPECT_EQ(Guardian::secret(), secret);
-    EXPECT_EQ(bytesOf("marks.json"), marks);
-    EXPECT_EQ(bytesOf("excused.json"), excused);
-    EXPECT_EQ(bytesOf("timetable.json"), timetable);
-    EXPECT_EQ(Marks::load()["2025-03-01"]["Fajr"], QStringLiteral("qada"));
-    EXPECT_EQ(Excused::load().size(), 1);
-    EXPECT_EQ(leftovers(), files); // no temporary files left behind
+    logKept(day(4) + "-Fajr", std::nullopt, locks);
+    EXPECT_EQ(QJsonDocument::fromJson(bytesOf("history.json")).object().size(), 5);
+    EXPECT_EQ(loadCompletedLocks().size(), 1 + 3 * 2 + 1);
 }
 
-TEST_F(WriteFailureTest, AFolderWhereTheFileMustGoFailsQuietly) {
-    ASSERT_TRUE(QDir().mkpath(supportPath("excused.json")));
-    Excused::begin(utc(2025, 3, 1));
-    EXPECT_TRUE(Excused::load().isEmpty());
-    EXPECT_TRUE(QFileInfo(supportPath("excused.json")).isDir());
+TEST_F(WriteFailureTest, UnreadableFilesAreSetAsideNotReplaced) {
+    const QString bad = R"({"2025-03-01": ["Fajr", 3]})";
+    const struct {
+        const char* name;
+        QByteArray bytes;
+        std::function<bool()> readsEmpty;
+    } cases[] = {
+        {"history.json", R"({"2025-03-01": ["Fajr"], "2025-03-02": ["Fa)",
+         [] { return loadHistory().isEmpty(); }},
+        {"history.json", bad.toUtf8(), [] { return loadHistory().isEmpty(); }},
+        {"state.json", R"(["2025-03-01-Fajr", null])",
+         [] { return loadCompletedLocks().isEmpty(); }},
+        {"marks.json", R"({"2025-03-01": {"Fajr": 1}})", [] { return Marks::load().isEmpty(); }},
+        {"excused.json", R"([{"start": "2025-03-01T00:00:00Z"}, {}])",
+         [] { return Excused::load().isEmpty(); }},
+        {"timetable.json", "", [] { return Timetable::all().isEmpty(); }},
+        {".guardian", "not base64!", [] { return !Guardian::isSet(); }},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        test::writeSupportFile(c.name, c.bytes);
+        log.clear();
+        EXPECT_TRUE(c.readsEmpty());
+        const QStringList aside = filesIn(QString::fromLatin1(c.name) + ".unreadable-*");
+        ASSERT_EQ(aside.size(), 1);
+        EXPECT_EQ(bytesOf(aside[0]), c.bytes);
+        ASSERT_EQ(log.filter("moved aside").size(), 1) << log.join('\n').toStdString();
+        EXPECT_TRUE(log.filter("moved aside")[0].contains(supportPath(aside[0])));
+        QFile::remove(supportPath(aside[0]));
+    }
+    // A folder that cannot take the renamed file keeps the bad one and refuses to replace it.
+    test::writeSupportFile("history.json", bad.toUtf8());
+    withoutOverride([&] {
+        ASSERT_EQ(chmod(QFile::encodeName(supportDir()).constData(), 0500), 0);
+        logKept(day(0) + "-Fajr", std::nullopt, locks);
+        chmod(QFile::encodeName(supportDir()).constData(), 0700);
+    });
+    EXPECT_EQ(bytesOf("history.json"), bad.toUtf8());
+    logKept(day(0) + "-Fajr", std::nullopt, locks); // now it moves aside and starts anew
+    EXPECT_EQ(filesIn("history.json.unreadable-*").size(), 1);
+    EXPECT_EQ(loadHistory().keys(), QStringList{day(0)});
+}
+
+TEST_F(WriteFailureTest, KilledAtAnyMomentNoConfirmedRecordIsLost) {
+    // A child records a kept prayer on one day after another and reports each confirmed day
+    // through a pipe; it is killed at random moments, and the next child carries on.
+    int confirmed = -1;
+    for (int kill = 0; kill < 300; ++kill) {
+        int fds[2];
+        ASSERT_EQ(pipe(fds), 0);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            close(fds[0]);
+            for (int i = confirmed + 1;; ++i) {
+                logKept(day(i) + "-Fajr", std::nullopt, locks);
+                if (write(fds[1], &i, sizeof i) != sizeof i) _exit(1);
+            }
+        }
+        close(fds[1]);
+        // Killed at a random moment after its first confirmed record, mostly mid-write.
+        ASSERT_EQ(read(fds[0], &confirmed, sizeof confirmed), ssize_t(sizeof confirmed));
+        usleep(QRandomGenerator::global()->bounded(1000));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        for (int i; read(fds[0], &i, sizeof i) == sizeof i;)
+            confirmed = i;
+        close(fds[0]);
+        const HistoryMap history = loadHistory();
+        ASSERT_GE(history.size(), confirmed + 1) << "after kill " << kill;
+        ASSERT_TRUE(confirmed < 0 || history.contains(day(confirmed))) << "after kill " << kill;
+        ASSERT_FALSE(loadCompletedLocks().isEmpty() && confirmed >= 0);
+    }
+    EXPECT_GE(confirmed, 299); // one record at least per child
+    EXPECT_EQ(filesIn("*.unreadable-*"), QStringList());
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(WriteFailureTest, TheFolderAndItsFilesAreOwnerOnly) {
+    ASSERT_EQ(chmod(QFile::encodeName(supportDir()).constData(), 0755), 0);
+    test::writeSupportFile(".guardian", QByteArray("12345678901234567890").toBase64());
+    test::writeSupportFile("history.json", R"({"2025-03-01": ["Fajr"]})");
+    chmod(QFile::encodeName(supportPath(".guardian")).constData(), 0644);
+    chmod(QFile::encodeName(supportPath("history.json")).constData(), 0664);
+    ensureSupportDir();
+    EXPECT_TRUE(Guardian::isSet());
+    EXPECT_EQ(loadHistory().size(), 1);
+    Marks::save({});
+    for (const QString& path : {supportDir(), supportPath(".guardian"), supportPath("history.json"),
+                                supportPath("marks.json")}) {
+        struct stat st {};
+        ASSERT_EQ(stat(QFile::encodeName(path).constData(), &st), 0);
+        EXPECT_EQ(st.st_mode & 0777, path == supportDir() ? 0700u : 0600u) << path.toStdString();
+    }
+    EXPECT_EQ(log.size(), 3) << log.join('\n').toStdString(); // the folder and two files
 }

@@ -59,9 +59,14 @@ bool Sounds::start(QMediaPlayer*& player, QAudioOutput*& output, const QString& 
         output = new QAudioOutput(this);
         player->setAudioOutput(output);
         connect(player, &QMediaPlayer::errorOccurred, this,
-                [player](QMediaPlayer::Error, const QString& message) {
-                    logLine(QStringLiteral("Tarvanel: cannot play ") +
-                            player->source().toLocalFile() + QStringLiteral(": ") + message);
+                [this, player](QMediaPlayer::Error, const QString& message) {
+                    failed(player, message);
+                });
+        // Some undecodable files end as invalid media without an error.
+        connect(player, &QMediaPlayer::mediaStatusChanged, this,
+                [this, player](QMediaPlayer::MediaStatus status) {
+                    if (status == QMediaPlayer::InvalidMedia)
+                        failed(player, QStringLiteral("not playable"));
                 });
     }
     player->stop();
@@ -85,7 +90,19 @@ void Sounds::playNamed(const QString& name) {
 
 bool Sounds::playFile(const QString& path) {
     if (!looksLikeAudio(path)) return false;
+    adhanPending_ = true;
     return start(adhan_, adhanOut_, path);
+}
+
+void Sounds::failed(QMediaPlayer* player, const QString& why) {
+    const bool adhan = player == adhan_;
+    if (adhan && !adhanPending_) return; // the error and the status both report one file
+    logLine(QStringLiteral("Tarvanel: cannot play ") + player->source().toLocalFile() +
+            QStringLiteral(": ") + why);
+    if (!adhan) return;
+    adhanPending_ = false;
+    // The same sound the lock plays when there is no adhan file at all.
+    playNamed(QStringLiteral("Blow"));
 }
 
 } // namespace tarvanel

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QPainter>
 #include <gtest/gtest.h>
 
 using namespace tarvanel;
@@ -43,7 +44,7 @@ TEST(TrayIcon, MinutesAreReadOnlyFromAShortCountdown) {
         EXPECT_EQ(titleMinutes(title), minutes) << title.toStdString();
 }
 
-TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFit) {
+TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFitReadableOnAnyPanel) {
     const QImage orange = trayImage("🕌 Dhuhr in 23m", TitleColor::Orange, 64);
     const QImage red = trayImage("🕌 Dhuhr in 4m", TitleColor::Red, 64);
     const QImage plain = trayImage("🕌 Fajr at 5:12 AM", TitleColor::Label, 64);
@@ -57,8 +58,31 @@ TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFit) {
     EXPECT_GT(count(orange, opaque, 32, 64), 200);
     EXPECT_GT(count(plain, opaque, 56, 62), 150); // the mosque's base at the bottom
     EXPECT_LT(count(orange, opaque, 60, 64), count(plain, opaque, 60, 64));
-    EXPECT_EQ(trayImage("🕌", TitleColor::Secondary, 22).size(), QSize(22, 22));
     EXPECT_NE(trayImage("🌙 Iftar in 34m", TitleColor::Orange, 64), orange);
+
+    // At panel size, on light and dark panels alike, a good part of the icon stands out from
+    // the panel's colour (the light emblem once vanished on light grey).
+    for (const char* panel : {"#ffffff", "#d6d6d6", "#9a9a9a", "#3c3c3c", "#000000"})
+        for (const auto& [title, colour] : {std::pair{"🕌 Fajr at 5:12 AM", TitleColor::Label},
+                                            {"🕌 Dhuhr in 23m", TitleColor::Secondary},
+                                            {"🌙 Iftar in 4m", TitleColor::Orange}}) {
+            SCOPED_TRACE(std::string(panel) + " " + title);
+            const QImage icon = trayImage(title, colour, 22);
+            ASSERT_EQ(icon.size(), QSize(22, 22));
+            QImage onPanel(icon.size(), QImage::Format_RGB32);
+            onPanel.fill(QColor(panel));
+            QPainter(&onPanel).drawImage(0, 0, icon);
+            const QColor back(panel);
+            const int standsOut = count(onPanel, [&](const QColor& c) {
+                return std::max({std::abs(c.red() - back.red()), std::abs(c.green() - back.green()),
+                                 std::abs(c.blue() - back.blue())}) > 80;
+            });
+            EXPECT_GT(standsOut, 22 * 22 / 8);
+            if (qEnvironmentVariableIsSet("TARVANEL_SHOTS"))
+                onPanel.scaled(88, 88).save(qEnvironmentVariable("TARVANEL_SHOTS") + "/tray-" +
+                                            QString(panel).mid(1) + "-" +
+                                            QString::number(int(colour)) + ".png");
+        }
 }
 
 TEST(TrayMenu, BuiltAfreshFromTheCoresModelEachTimeItOpens) {

@@ -40,11 +40,11 @@ bool looksLikeAudio(const QString& path) {
            type.inherits(QStringLiteral("audio/mp4"));
 }
 
-Sounds::Sounds(QObject* parent) : QObject(parent) {}
+Sounds::Sounds(QObject* parent, bool needDevice) : QObject(parent), needDevice_(needDevice) {}
 Sounds::~Sounds() = default;
 
 bool Sounds::haveDevice() {
-    if (!QMediaDevices::defaultAudioOutput().isNull()) return true;
+    if (!needDevice_ || !QMediaDevices::defaultAudioOutput().isNull()) return true;
     if (!noDeviceLogged_) {
         logLine(QStringLiteral("Tarvanel: no sound device; sounds are skipped"));
         noDeviceLogged_ = true;
@@ -72,6 +72,7 @@ bool Sounds::start(QMediaPlayer*& player, QAudioOutput*& output, const QString& 
     player->stop();
     player->setSource(QUrl::fromLocalFile(path));
     player->play();
+    emit started(path);
     return true;
 }
 

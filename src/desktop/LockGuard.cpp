@@ -111,6 +111,7 @@ void LockGuard::readEvents() {
         case XCB_CONFIGURE_NOTIFY:
         case XCB_CIRCULATE_NOTIFY:
         case XCB_REPARENT_NOTIFY:
+        case XCB_DESTROY_NOTIFY:
             relevant = true;
             break;
         case XCB_VISIBILITY_NOTIFY:
@@ -145,7 +146,7 @@ bool LockGuard::repair() {
 
 bool LockGuard::fix() {
     lastRepair_.start();
-    QList<LockWindow*> windows = windows_();
+    const QList<LockWindow*> windows = windows_();
     if (windows.isEmpty()) return true;
     xcb_connection_t* c = x11Connection();
     if (!c) {
@@ -168,12 +169,15 @@ bool LockGuard::fix() {
         geometries << xcb_get_geometry(c, id);
     }
     xcb_window_t root = XCB_NONE;
-    bool raise = false;
+    bool raise = false, lostOne = false;
     for (int i = 0; i < windows.size(); ++i) {
         const auto id = xcb_window_t(windows[i]->winId());
         const auto a = own(xcb_get_window_attributes_reply(c, attributes[i], nullptr));
         const auto g = own(xcb_get_geometry_reply(c, geometries[i], nullptr));
-        if (!a || !g) continue;
+        if (!a || !g) {
+            lostOne = true;
+            continue;
+        }
         root = g->root;
         select(root, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
         select(id, XCB_EVENT_MASK_VISIBILITY_CHANGE);
@@ -208,6 +212,11 @@ bool LockGuard::fix() {
                 pinned_.insert(w);
     }
     xcb_flush(c);
+    if (lostOne) {
+        note(QStringLiteral("destroyed"));
+        emit lost(); // the windows are rebuilt before this returns
+        return windows_() != windows && fix();
+    }
     // The grabs go to the first window; re-asking is how the server says who holds them.
     return windows.first()->grabInput();
 }

@@ -33,8 +33,10 @@ public:
     bool repair();
 
 signals:
-    // Once per lock and kind: "unmapped", "moved", "covered".
+    // Once per lock and kind: "unmapped", "moved", "covered", "destroyed".
     void undone(const QString& what);
+    // A window was destroyed by another client: only new windows can cover its screen.
+    void lost();
 
 private:
     bool fix();

@@ -22,6 +22,7 @@ LockWindows::LockWindows(QObject* parent)
                            this) {
     guardTick_.setInterval(1000);
     connect(&guardTick_, &QTimer::timeout, this, &LockWindows::guard);
+    connect(&guard_, &LockGuard::lost, this, &LockWindows::screensChanged);
     connect(&guard_, &LockGuard::undone, this, [](const QString& what) {
         logLine(QStringLiteral("Tarvanel: another program ") + what +
                 QStringLiteral(" a lock window; put back"));

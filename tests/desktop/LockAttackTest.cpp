@@ -122,6 +122,7 @@ TEST_F(EndToEnd, NoOtherProgramNorAKilledWindowManagerUncoversTheLockOrGetsItsKe
              wm.waitForFinished(2000);
              other.restack(victim, XCB_STACK_MODE_ABOVE);
          }},
+        {"destroy", [&] { xcb_destroy_window(other.c, ids[0].toUInt()); }},
     };
     for (const auto& [name, attack] : attacks) {
         SCOPED_TRACE(name);

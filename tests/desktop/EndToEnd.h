@@ -145,10 +145,6 @@ protected:
         };
         return waitFor(locked, timeoutMs);
     }
-    bool eitherLocked() const {
-        const QImage image = screenshot();
-        return lockedLooking(image, leftHalf) || lockedLooking(image, rightHalf);
-    }
     QProcess server;
     QString display;
     QImage shot;

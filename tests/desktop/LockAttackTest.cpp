@@ -4,7 +4,6 @@
 #include "guardian/Guardian.h"
 
 #include <QThread>
-#include <cstring>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
@@ -17,26 +16,16 @@ struct OtherProgram {
         : c(xcb_connect(display.toLocal8Bit().constData(), nullptr)),
           root(xcb_setup_roots_iterator(xcb_get_setup(c)).data->root) {}
     ~OtherProgram() { xcb_disconnect(c); }
+    // A white window; `onTop` bypasses the window manager, as popups and notifications do.
     xcb_window_t window(QRect r, bool onTop) {
         const xcb_window_t w = xcb_generate_id(c);
-        const uint32_t values[] = {0xffffff, XCB_EVENT_MASK_KEY_PRESS};
+        const uint32_t values[] = {0xffffff, onTop, XCB_EVENT_MASK_KEY_PRESS};
         xcb_create_window(c, XCB_COPY_FROM_PARENT, w, root, r.x(), r.y(), r.width(), r.height(), 0,
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                          XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);
-        if (onTop) {
-            const xcb_atom_t above = atom("_NET_WM_STATE_ABOVE");
-            xcb_change_property(c, XCB_PROP_MODE_REPLACE, w, atom("_NET_WM_STATE"), XCB_ATOM_ATOM,
-                                32, 1, &above);
-        }
+                          XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
         xcb_map_window(c, w);
         xcb_flush(c);
         return w;
-    }
-    xcb_atom_t atom(const char* name) {
-        auto* r = xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, strlen(name), name), nullptr);
-        const xcb_atom_t a = r ? r->atom : xcb_atom_t(XCB_NONE);
-        free(r);
-        return a;
     }
     void restack(xcb_window_t w, uint32_t mode) {
         xcb_configure_window(c, w, XCB_CONFIG_WINDOW_STACK_MODE, &mode);
@@ -115,7 +104,7 @@ TEST_F(EndToEnd, NoOtherProgramNorAKilledWindowManagerUncoversTheLockOrGetsItsKe
         {"lower", [&] { other.restack(ids[1].toUInt(), XCB_STACK_MODE_BELOW); }},
         {"minimize", xdo("windowminimize " + ids[0])},
         {"raise another", xdo(QString("windowraise %1").arg(victim))},
-        {"always-on-top window", [&] { other.window(QRect(100, 100, 2000, 600), true); }},
+        {"new window on top", [&] { other.window(QRect(100, 100, 2000, 600), true); }},
         {"kill the window manager",
          [&] {
              wm.kill();

@@ -81,11 +81,6 @@ TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFitReadableOnAnyPanel
                                  std::abs(c.blue() - panel.blue())}) > 80;
             });
             EXPECT_GT(standsOut, 22 * 22 / 8) << panel.name().toStdString();
-            if (qEnvironmentVariableIsSet("TARVANEL_SHOTS"))
-                onPanel.scaled(88, 88).save(QString("%1/tray-%2-%3.png")
-                                                .arg(qEnvironmentVariable("TARVANEL_SHOTS"))
-                                                .arg(panel.name().mid(1))
-                                                .arg(int(colour)));
         }
     }
 }

@@ -152,5 +152,7 @@ TEST_F(EndToEnd, NoOtherProgramNorAKilledWindowManagerUncoversTheLockOrGetsItsKe
     ASSERT_EQ(run("xdotool type " + Guardian::code(secret, QDateTime::currentDateTimeUtc())), 0);
     EXPECT_EQ(tarvanel.finish(5000), 0) << tarvanel.dump();
     EXPECT_TRUE(tarvanel.log.contains("Tarvanel: unlocked after Test"));
+    // One line for each kind of attack: unmapped, moved, covered, destroyed.
+    EXPECT_EQ(tarvanel.log.count("a lock window; put back"), 4) << tarvanel.dump();
     EXPECT_EQ(other.keysReceived(), 0);
 }

@@ -63,7 +63,7 @@ QList<xcb_window_t> above(xcb_connection_t* c, xcb_window_t root, const QSet<qui
 LockGuard::LockGuard(WindowList windows, QObject* parent)
     : QObject(parent), windows_(std::move(windows)) {
     soon_.setSingleShot(true);
-    connect(&soon_, &QTimer::timeout, this, &LockGuard::fix);
+    connect(&soon_, &QTimer::timeout, this, [this] { fix(false); });
 }
 
 LockGuard::~LockGuard() {
@@ -141,10 +141,10 @@ void LockGuard::note(const QString& what) {
 
 bool LockGuard::repair() {
     pinned_.clear();
-    return fix();
+    return fix(true);
 }
 
-bool LockGuard::fix() {
+bool LockGuard::fix(bool raise) {
     lastRepair_.start();
     const QList<LockWindow*> windows = windows_();
     if (windows.isEmpty()) return true;
@@ -169,7 +169,7 @@ bool LockGuard::fix() {
         geometries << xcb_get_geometry(c, id);
     }
     xcb_window_t root = XCB_NONE;
-    bool raise = false, lostOne = false;
+    bool lostOne = false;
     for (int i = 0; i < windows.size(); ++i) {
         const auto id = xcb_window_t(windows[i]->winId());
         const auto a = own(xcb_get_window_attributes_reply(c, attributes[i], nullptr));
@@ -215,7 +215,7 @@ bool LockGuard::fix() {
     if (lostOne) {
         note(QStringLiteral("destroyed"));
         emit lost(); // the windows are rebuilt before this returns
-        return windows_() != windows && fix();
+        return windows_() != windows && fix(true);
     }
     // The grabs go to the first window; re-asking is how the server says who holds them.
     return windows.first()->grabInput();

@@ -39,7 +39,8 @@ signals:
     void lost();
 
 private:
-    bool fix();
+    // `raise` even when nothing seems to be above (what the stacking check cannot see).
+    bool fix(bool raise);
     bool watch();
     void select(quint32 window, quint32 mask);
     void readEvents();

@@ -1,6 +1,7 @@
 #include "desktop/BannerPanel.h"
 
 #include "desktop/Look.h"
+#include "desktop/X11.h"
 
 #include <QGuiApplication>
 #include <QLabel>
@@ -8,14 +9,38 @@
 #include <QPainterPath>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <xcb/xcb.h>
 
 namespace tarvanel {
 
 namespace {
 
 constexpr int gapBelowTop = 16;
+constexpr double radius = 24;
 
 } // namespace
+
+bool compositorRunning() {
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return true;
+    xcb_connection_t* c = x11Connection();
+    if (!c) return false;
+    int screen = 0;
+    char* host = nullptr;
+    int display = 0;
+    if (xcb_parse_display(nullptr, &host, &display, &screen) == 0) screen = 0;
+    free(host);
+    const QByteArray name = "_NET_WM_CM_S" + QByteArray::number(screen);
+    xcb_intern_atom_reply_t* atom = xcb_intern_atom_reply(
+        c, xcb_intern_atom(c, 1, uint16_t(name.size()), name.constData()), nullptr);
+    const xcb_atom_t selection = atom ? atom->atom : xcb_atom_t(XCB_ATOM_NONE);
+    free(atom);
+    if (selection == XCB_ATOM_NONE) return false; // no one ever claimed it
+    xcb_get_selection_owner_reply_t* owner =
+        xcb_get_selection_owner_reply(c, xcb_get_selection_owner(c, selection), nullptr);
+    const bool owned = owner && owner->owner != XCB_NONE;
+    free(owner);
+    return owned;
+}
 
 double BannerView::borderWidth(BannerStyle style) {
     return style == BannerStyle::normal ? 0 : 2;
@@ -25,8 +50,8 @@ QColor BannerView::borderColour(BannerStyle style) {
     return style == BannerStyle::critical ? look::red : look::orange;
 }
 
-BannerView::BannerView(const BannerContent& content, QWidget* parent)
-    : QWidget(parent), style_(content.style) {
+BannerView::BannerView(const BannerContent& content, bool rounded, QWidget* parent)
+    : QWidget(parent), style_(content.style), rounded_(rounded) {
     setFixedWidth(cardWidth);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(22, 18, 22, 18);
@@ -56,11 +81,12 @@ void BannerView::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF card = QRectF(rect());
+    const double r = rounded_ ? radius : 0;
     QPainterPath path;
-    path.addRoundedRect(card, 24, 24);
+    path.addRoundedRect(card, r, r);
     // The card: the theme's near-black, lit faintly by the palette's green from the top left.
     QColor base = look::themeBase;
-    base.setAlphaF(0.94f);
+    base.setAlphaF(rounded_ ? 0.94f : 1.0f);
     p.fillPath(path, base);
     p.setClipPath(path);
     look::paintGlow(p, card.topLeft(), card.width() * 0.9, look::glowA, 0.22);
@@ -69,8 +95,9 @@ void BannerView::paintEvent(QPaintEvent*) {
     const double border = borderWidth(style_);
     if (border > 0) {
         QPainterPath inset;
-        inset.addRoundedRect(card.adjusted(border / 2, border / 2, -border / 2, -border / 2),
-                             24 - border / 2, 24 - border / 2);
+        const double inner = std::max(0.0, r - border / 2);
+        inset.addRoundedRect(card.adjusted(border / 2, border / 2, -border / 2, -border / 2), inner,
+                             inner);
         p.setPen(QPen(borderColour(style_), border));
         p.drawPath(inset);
     } else {
@@ -97,14 +124,15 @@ bool BannerPanel::show(const BannerContent& content) {
         new QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                                  Qt::X11BypassWindowManagerHint | Qt::WindowDoesNotAcceptFocus |
                                  Qt::WindowTransparentForInput);
-    panel->setAttribute(Qt::WA_TranslucentBackground);
+    const bool rounded = compositorRunning();
+    panel->setAttribute(Qt::WA_TranslucentBackground, rounded);
     panel->setAttribute(Qt::WA_ShowWithoutActivating);
     panel->setAttribute(Qt::WA_X11DoNotAcceptFocus);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setWindowTitle(QStringLiteral("Tarvanel"));
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* view = new BannerView(content, panel);
+    auto* view = new BannerView(content, rounded, panel);
     layout->addWidget(view);
     panel->setFixedSize(view->size());
 

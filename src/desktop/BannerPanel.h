@@ -16,7 +16,8 @@ class BannerView : public QWidget {
 public:
     static constexpr int cardWidth = 640;
 
-    BannerView(const BannerContent& content, QWidget* parent = nullptr);
+    // Rounded corners need a compositor to show through them; without one they paint black.
+    BannerView(const BannerContent& content, bool rounded, QWidget* parent = nullptr);
     QLabel* messageLabel() const { return message_; }
     QLabel* quoteLabel() const { return quote_; }
     BannerStyle style() const { return style_; }
@@ -29,9 +30,13 @@ protected:
 
 private:
     BannerStyle style_;
+    bool rounded_;
     QLabel* message_ = nullptr;
     QLabel* quote_ = nullptr;
 };
+
+// True when the screen has a compositing manager (on X11 the owner of _NET_WM_CM_S<screen>).
+bool compositorRunning();
 
 class BannerPanel : public QObject {
     Q_OBJECT

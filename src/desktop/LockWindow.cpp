@@ -67,17 +67,16 @@ bool LockWindow::grabInput() {
     if (debugBuild()) return true;
     QWindow* handle = windowHandle();
     if (!handle || !isVisible()) return false;
-    if (!keyboardGrabbed_) keyboardGrabbed_ = handle->setKeyboardGrabEnabled(true);
-    if (!pointerGrabbed_) pointerGrabbed_ = handle->setMouseGrabEnabled(true);
-    return hasGrabs();
+    const bool keyboard = handle->setKeyboardGrabEnabled(true);
+    return handle->setMouseGrabEnabled(true) && keyboard;
 }
 
 void LockWindow::releaseInput() {
+    if (debugBuild()) return;
     if (QWindow* handle = windowHandle()) {
-        if (keyboardGrabbed_) handle->setKeyboardGrabEnabled(false);
-        if (pointerGrabbed_) handle->setMouseGrabEnabled(false);
+        handle->setKeyboardGrabEnabled(false);
+        handle->setMouseGrabEnabled(false);
     }
-    keyboardGrabbed_ = pointerGrabbed_ = false;
 }
 
 void LockWindow::keyPressEvent(QKeyEvent* event) {

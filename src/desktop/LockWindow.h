@@ -26,9 +26,9 @@ public:
 
     // Covers the screen and, unless built for development, takes keyboard and pointer.
     void present();
-    // Keyboard and pointer grabs; false while another client holds one (retried later).
+    // Asks the server for the keyboard and pointer grabs again (holding them already is no
+    // proof that the server still grants them); false while it refuses either.
     bool grabInput();
-    bool hasGrabs() const { return keyboardGrabbed_ && pointerGrabbed_; }
     void releaseInput();
     void coverScreen();
 
@@ -50,8 +50,6 @@ private:
     QScreen* screen_;
     LockView* view_;
     KeyHandler onKey_;
-    bool keyboardGrabbed_ = false;
-    bool pointerGrabbed_ = false;
     bool painted_ = false;
 };
 

@@ -12,9 +12,21 @@ namespace {
 constexpr int settleMs = 500;
 } // namespace
 
-LockWindows::LockWindows(QObject* parent) : QObject(parent) {
-    grabRetry_.setInterval(1000);
-    connect(&grabRetry_, &QTimer::timeout, this, &LockWindows::retryGrabs);
+LockWindows::LockWindows(QObject* parent)
+    : QObject(parent), guard_(
+                           [this] {
+                               QList<LockWindow*> shown = windows_;
+                               shown.removeIf([](LockWindow* w) { return !w->isVisible(); });
+                               return shown;
+                           },
+                           this) {
+    guardTick_.setInterval(1000);
+    connect(&guardTick_, &QTimer::timeout, this, &LockWindows::guard);
+    connect(&guard_, &LockGuard::lost, this, &LockWindows::screensChanged);
+    connect(&guard_, &LockGuard::undone, this, [](const QString& what) {
+        logLine(QStringLiteral("Tarvanel: another program ") + what +
+                QStringLiteral(" a lock window; put back"));
+    });
     settle_.setSingleShot(true);
     settle_.setInterval(settleMs);
     connect(&settle_, &QTimer::timeout, this, &LockWindows::screensChanged);
@@ -67,39 +79,26 @@ void LockWindows::show(const QList<LockWindowContent>& perScreen, LockScreenStat
         QGuiApplication::setOverrideCursor(Qt::BlankCursor);
         cursorHidden_ = true;
     }
-    retryGrabs();
+    guardTick_.start();
+    guard();
 }
 
 void LockWindows::raise(bool focusFirst) {
-    for (LockWindow* w : windows_) {
-        if (!w->isVisible()) continue;
-        w->coverScreen();
-        w->raise();
-    }
     if (focusFirst && !windows_.isEmpty()) {
         windows_.first()->activateWindow();
         windows_.first()->setFocus(Qt::OtherFocusReason);
     }
-    if (!grabbed()) retryGrabs();
+    guard();
 }
 
-bool LockWindows::grabbed() const {
-    return !windows_.isEmpty() && windows_.first()->hasGrabs();
-}
-
-void LockWindows::retryGrabs() {
-    if (windows_.isEmpty() || LockWindow::debugBuild()) {
-        grabRetry_.stop();
-        return;
-    }
+void LockWindows::guard() {
+    if (windows_.isEmpty() || LockWindow::debugBuild()) return;
     // One window holds both grabs; keys and clicks on the other screens come to it too.
-    if (windows_.first()->grabInput()) {
-        grabRetry_.stop();
-    } else if (!grabRetry_.isActive()) {
+    const bool granted = guard_.repair();
+    if (!granted && !refusalLogged_)
         logLine(
             QStringLiteral("Tarvanel: keyboard or pointer grab refused; retrying every second"));
-        grabRetry_.start();
-    }
+    refusalLogged_ = !granted;
 }
 
 void LockWindows::onWindowPainted() {
@@ -111,7 +110,9 @@ void LockWindows::onWindowPainted() {
 }
 
 void LockWindows::close() {
-    grabRetry_.stop();
+    guardTick_.stop();
+    guard_.stop();
+    refusalLogged_ = false;
     settle_.stop();
     for (LockWindow* w : windows_) {
         w->releaseInput();

@@ -1,6 +1,7 @@
 #pragma once
 // The windows of one lock: one per screen, above everything, holding keyboard and pointer.
 // Screens that come, go or change size are reported so the core can rebuild the windows.
+#include "desktop/LockGuard.h"
 #include "desktop/LockWindow.h"
 
 #include <QElapsedTimer>
@@ -27,7 +28,6 @@ public:
 
     bool up() const { return !windows_.isEmpty(); }
     const QList<LockWindow*>& windows() const { return windows_; }
-    bool grabbed() const;
 
 signals:
     // Screens were added, removed or resized (after a moment for a new screen to settle).
@@ -37,12 +37,14 @@ signals:
 
 private:
     void watchScreen(QScreen* screen);
-    void retryGrabs();
+    void guard();
     void onWindowPainted();
 
     LockWindow::KeyHandler onKey_;
     QList<LockWindow*> windows_;
-    QTimer grabRetry_;
+    LockGuard guard_;
+    QTimer guardTick_;
+    bool refusalLogged_ = false;
     QTimer settle_;
     QElapsedTimer shownAt_;
     bool cursorHidden_ = false;

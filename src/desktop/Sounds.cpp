@@ -40,11 +40,11 @@ bool looksLikeAudio(const QString& path) {
            type.inherits(QStringLiteral("audio/mp4"));
 }
 
-Sounds::Sounds(QObject* parent) : QObject(parent) {}
+Sounds::Sounds(QObject* parent, bool needDevice) : QObject(parent), needDevice_(needDevice) {}
 Sounds::~Sounds() = default;
 
 bool Sounds::haveDevice() {
-    if (!QMediaDevices::defaultAudioOutput().isNull()) return true;
+    if (!needDevice_ || !QMediaDevices::defaultAudioOutput().isNull()) return true;
     if (!noDeviceLogged_) {
         logLine(QStringLiteral("Tarvanel: no sound device; sounds are skipped"));
         noDeviceLogged_ = true;
@@ -59,14 +59,20 @@ bool Sounds::start(QMediaPlayer*& player, QAudioOutput*& output, const QString& 
         output = new QAudioOutput(this);
         player->setAudioOutput(output);
         connect(player, &QMediaPlayer::errorOccurred, this,
-                [player](QMediaPlayer::Error, const QString& message) {
-                    logLine(QStringLiteral("Tarvanel: cannot play ") +
-                            player->source().toLocalFile() + QStringLiteral(": ") + message);
+                [this, player](QMediaPlayer::Error, const QString& message) {
+                    failed(player, message);
+                });
+        // Some undecodable files end as invalid media without an error.
+        connect(player, &QMediaPlayer::mediaStatusChanged, this,
+                [this, player](QMediaPlayer::MediaStatus status) {
+                    if (status == QMediaPlayer::InvalidMedia)
+                        failed(player, QStringLiteral("not playable"));
                 });
     }
     player->stop();
     player->setSource(QUrl::fromLocalFile(path));
     player->play();
+    emit started(path);
     return true;
 }
 
@@ -85,7 +91,19 @@ void Sounds::playNamed(const QString& name) {
 
 bool Sounds::playFile(const QString& path) {
     if (!looksLikeAudio(path)) return false;
+    adhanPending_ = true;
     return start(adhan_, adhanOut_, path);
+}
+
+void Sounds::failed(QMediaPlayer* player, const QString& why) {
+    const bool adhan = player == adhan_;
+    if (adhan && !adhanPending_) return; // the error and the status both report one file
+    logLine(QStringLiteral("Tarvanel: cannot play ") + player->source().toLocalFile() +
+            QStringLiteral(": ") + why);
+    if (!adhan) return;
+    adhanPending_ = false;
+    // The same sound the lock plays when there is no adhan file at all.
+    playNamed(QStringLiteral("Blow"));
 }
 
 } // namespace tarvanel

@@ -21,22 +21,31 @@ bool looksLikeAudio(const QString& path);
 class Sounds : public QObject {
     Q_OBJECT
 public:
-    explicit Sounds(QObject* parent = nullptr);
+    // Without `needDevice` the players run even with no sound device (unheard), as tests do.
+    explicit Sounds(QObject* parent = nullptr, bool needDevice = true);
     ~Sounds() override;
 
     void playNamed(const QString& name);
-    // False when the file is missing or is not audio; decoding errors found later are logged.
+    // False when the file is missing or is not audio. A file the player then fails to decode
+    // is logged and the "Blow" chime plays in its place, so a lock never starts silent.
     bool playFile(const QString& path);
+
+signals:
+    // A player was handed this file.
+    void started(const QString& path);
 
 private:
     bool start(QMediaPlayer*& player, QAudioOutput*& output, const QString& path);
     bool haveDevice();
+    void failed(QMediaPlayer* player, const QString& why);
 
     QMediaPlayer* adhan_ = nullptr;
     QAudioOutput* adhanOut_ = nullptr;
     QMediaPlayer* chime_ = nullptr;
     QAudioOutput* chimeOut_ = nullptr;
+    bool needDevice_;
     bool noDeviceLogged_ = false;
+    bool adhanPending_ = false; // the adhan was started and has not failed yet
 };
 
 } // namespace tarvanel

@@ -92,11 +92,7 @@ QImage trayImage(const QString& title, TitleColor color, int size) {
     const double s = size;
     const QRectF emblemArea = minutes ? QRectF(s * 0.2, 0, s * 0.6, s * 0.44)
                                       : QRectF(s * 0.04, s * 0.04, s * 0.92, s * 0.92);
-    const QPainterPath emblem = crescent ? crescentPath(emblemArea) : mosquePath(emblemArea);
-    // A thin dark rim keeps the emblem readable on light and dark panels alike.
-    p.setPen(QPen(QColor(0, 0, 0, 110), s / 32.0));
-    p.setBrush(colour);
-    p.drawPath(emblem);
+    QList<QPainterPath> shapes{crescent ? crescentPath(emblemArea) : mosquePath(emblemArea)};
     if (minutes) {
         QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
         font.setBold(true);
@@ -105,10 +101,16 @@ QImage trayImage(const QString& title, TitleColor color, int size) {
         text.addText(0, 0, font, *minutes);
         const QRectF bounds = text.boundingRect();
         text.translate(s / 2 - bounds.center().x(), s * 0.74 - bounds.center().y());
-        p.setPen(QPen(QColor(0, 0, 0, 140), s / 20.0));
-        p.setBrush(colour);
-        p.drawPath(text);
+        shapes << text;
     }
+    // The panel's colour is unknown (a tray host may paint anything behind the icon), so the
+    // light emblem carries a dark halo: the fill reads on dark panels, the halo on light ones.
+    const double halo = std::max(2.0, s / 9.0);
+    for (const QPainterPath& shape : shapes)
+        p.strokePath(shape,
+                     QPen(QColor(0, 0, 0, 215), halo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (const QPainterPath& shape : shapes)
+        p.fillPath(shape, colour);
     return image;
 }
 

@@ -5,6 +5,8 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QPainter>
+#include <cstring>
 #include <gtest/gtest.h>
 
 using namespace tarvanel;
@@ -43,22 +45,44 @@ TEST(TrayIcon, MinutesAreReadOnlyFromAShortCountdown) {
         EXPECT_EQ(titleMinutes(title), minutes) << title.toStdString();
 }
 
-TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFit) {
-    const QImage orange = trayImage("🕌 Dhuhr in 23m", TitleColor::Orange, 64);
-    const QImage red = trayImage("🕌 Dhuhr in 4m", TitleColor::Red, 64);
+TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFitReadableOnAnyPanel) {
+    struct Case {
+        const char* title;
+        TitleColor colour;
+        QColor painted, absent;
+    };
     const QImage plain = trayImage("🕌 Fajr at 5:12 AM", TitleColor::Label, 64);
-    EXPECT_GT(count(orange, near(look::orange)), 100);
-    EXPECT_EQ(count(orange, near(look::red)), 0);
-    EXPECT_GT(count(red, near(look::red)), 100);
-    EXPECT_EQ(count(plain, near(look::orange)), 0);
-    // With minutes the emblem shrinks to the top and digits fill the bottom half; without, the
-    // emblem alone fills the icon.
-    EXPECT_GT(count(orange, opaque, 0, 28), 100);
-    EXPECT_GT(count(orange, opaque, 32, 64), 200);
-    EXPECT_GT(count(plain, opaque, 56, 62), 150); // the mosque's base at the bottom
-    EXPECT_LT(count(orange, opaque, 60, 64), count(plain, opaque, 60, 64));
-    EXPECT_EQ(trayImage("🕌", TitleColor::Secondary, 22).size(), QSize(22, 22));
-    EXPECT_NE(trayImage("🌙 Iftar in 34m", TitleColor::Orange, 64), orange);
+    for (const auto& [title, colour, painted, absent] :
+         {Case{"🕌 Fajr at 5:12 AM", TitleColor::Label, QColor(0xF2F2F2), look::orange},
+          {"🕌 Dhuhr in 23m", TitleColor::Orange, look::orange, look::red},
+          {"🌙 Iftar in 4m", TitleColor::Red, look::red, look::orange},
+          {"🕌 Dhuhr in 145m", TitleColor::Secondary, QColor(0x9A9A9E), look::red}}) {
+        SCOPED_TRACE(title);
+        const QImage big = trayImage(title, colour, 64);
+        EXPECT_GT(count(big, near(painted)), 100);
+        EXPECT_EQ(count(big, near(absent)), 0);
+        // With minutes the emblem shrinks to the top and digits fill the bottom half; without,
+        // the emblem alone fills the icon down to the mosque's base.
+        const bool minutes = titleMinutes(title).has_value();
+        EXPECT_GT(count(big, opaque, 0, 28), 100);
+        EXPECT_GT(count(big, opaque, 32, 64), minutes ? 200 : 700);
+        EXPECT_EQ(count(big, opaque, 60, 64) < count(plain, opaque, 60, 64), minutes);
+        EXPECT_EQ(big == plain, !strcmp(title, "🕌 Fajr at 5:12 AM"));
+
+        // At panel size, on light and dark panels alike, a good part of the icon stands out from
+        // the panel's colour (the light emblem once vanished on light grey).
+        for (const QColor panel : {0xffffff, 0xd6d6d6, 0x9a9a9a, 0x3c3c3c, 0x000000}) {
+            QImage onPanel(22, 22, QImage::Format_RGB32);
+            onPanel.fill(panel);
+            QPainter(&onPanel).drawImage(0, 0, trayImage(title, colour, 22));
+            const int standsOut = count(onPanel, [&](const QColor& c) {
+                return std::max({std::abs(c.red() - panel.red()),
+                                 std::abs(c.green() - panel.green()),
+                                 std::abs(c.blue() - panel.blue())}) > 80;
+            });
+            EXPECT_GT(standsOut, 22 * 22 / 8) << panel.name().toStdString();
+        }
+    }
 }
 
 TEST(TrayMenu, BuiltAfreshFromTheCoresModelEachTimeItOpens) {

@@ -292,6 +292,15 @@ ToolCall toolsWaiting() {
     };
 }
 
+void runInTurn(const ToolCall& tools, QList<ToolRun> runs,
+               std::function<void(const ToolResult&)> done) {
+    const ToolRun first = runs.takeFirst();
+    tools(first, [=](const ToolResult& result) {
+        if (runs.isEmpty()) return done(result);
+        runInTurn(tools, runs, done);
+    });
+}
+
 void installAgent(const ToolCall& tools, std::function<void(const InstallOutcome&)> done) {
     const QString exe = executablePath();
     ensureSupportDir(); // the unit appends its standard error to a file in there
@@ -305,32 +314,26 @@ void installAgent(const ToolCall& tools, std::function<void(const InstallOutcome
             return;
         }
     }
-    auto finish = std::make_shared<std::function<void(const InstallOutcome&)>>(std::move(done));
+    const ToolRun enable =
+        userServiceCommand({QStringLiteral("enable"), QStringLiteral("--now"), unitName()});
+    // A service manager started before the graphical session does not know the display.
+    const ToolRun importDisplay =
+        userServiceCommand({QStringLiteral("import-environment"), QStringLiteral("DISPLAY"),
+                            QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("XAUTHORITY")});
+    const ToolRun stopOlder = userServiceCommand({QStringLiteral("stop"), unitName()});
     tools(userServiceCommand({QStringLiteral("daemon-reload")}), [=](const ToolResult& reload) {
-        if (reload.status != 0) return fallBackToAutostart(exe, *finish);
+        if (reload.status != 0) return fallBackToAutostart(exe, done);
         QFile::remove(autostartPath()); // left by an earlier install without a service manager
-        tools(userServiceCommand({QStringLiteral("stop"), unitName()}), [=](const ToolResult&) {
-            // A service manager started before the graphical session does not know the display.
-            tools(userServiceCommand({QStringLiteral("import-environment"),
-                                      QStringLiteral("DISPLAY"), QStringLiteral("WAYLAND_DISPLAY"),
-                                      QStringLiteral("XAUTHORITY")}),
-                  [=](const ToolResult&) {
-                      tools(userServiceCommand(
-                                {QStringLiteral("enable"), QStringLiteral("--now"), unitName()}),
-                            [=](const ToolResult& enable) {
-                                InstallOutcome out;
-                                out.ok = enable.status == 0;
-                                if (enable.timedOut)
-                                    out.reason = QStringLiteral("systemctl --user enable --now "
-                                                                "gave no answer in time");
-                                else if (!out.ok)
-                                    out.reason =
-                                        QStringLiteral("systemctl --user enable --now ") +
-                                        unitName() +
-                                        QStringLiteral(" failed with status %1").arg(enable.status);
-                                (*finish)(out);
-                            });
-                  });
+        runInTurn(tools, {stopOlder, importDisplay, enable}, [=](const ToolResult& last) {
+            InstallOutcome out;
+            out.ok = last.status == 0;
+            if (last.timedOut)
+                out.reason = enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")) +
+                             QStringLiteral(" gave no answer in time");
+            else if (!out.ok)
+                out.reason = enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")) +
+                             QStringLiteral(" failed with status %1").arg(last.status);
+            done(out);
         });
     });
 }

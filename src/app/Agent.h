@@ -4,6 +4,7 @@
 #include "app/ToolRunner.h"
 #include "platform/Platform.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -57,6 +58,9 @@ void setSystemctlForTesting(const QString& path); // empty: "systemctl" from PAT
 using ToolCall = std::function<void(const ToolRun&, std::function<void(const ToolResult&)>)>;
 ToolCall toolsBesideEventLoop(QObject* context);
 ToolCall toolsWaiting();
+// Runs `runs` (at least one) one after another; `done` gets the last one's result.
+void runInTurn(const ToolCall& tools, QList<ToolRun> runs,
+               std::function<void(const ToolResult&)> done);
 
 struct InstallOutcome {
     bool ok = false;

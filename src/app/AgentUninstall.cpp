@@ -61,20 +61,17 @@ std::optional<bool> confirmUninstall(Platform& platform, const QString& extra) {
 void uninstallApp(Platform& platform, bool deleteData) {
     auto* context = new QObject; // owns the running tools until the process ends
     const ToolCall tools = toolsBesideEventLoop(context);
-    const auto rest = [=, &platform] {
+    QList<ToolRun> service = {userServiceCommand({QStringLiteral("disable"), unit})};
+    // The agent itself is not stopped: a stop would end it before the files go. Its own exit
+    // with status 0 below ends the service for good (it restarts only after a failure).
+    if (!launchedByAgent()) service << userServiceCommand({QStringLiteral("stop"), unit});
+    runInTurn(tools, service, [=, &platform](const ToolResult&) {
         removeFilesAndProgram(platform, deleteData);
         tools(userServiceCommand({QStringLiteral("daemon-reload")}),
               [=, &platform](const ToolResult&) {
                   context->deleteLater();
                   platform.exitProcess(0);
               });
-    };
-    tools(userServiceCommand({QStringLiteral("disable"), unit}), [=](const ToolResult&) {
-        // The agent itself is not stopped: a stop would end it before the files go. Its own
-        // exit with status 0 below ends the service for good (it restarts only on failure).
-        if (launchedByAgent()) return rest();
-        tools(userServiceCommand({QStringLiteral("stop"), unit}),
-              [=](const ToolResult&) { rest(); });
     });
 }
 

@@ -21,6 +21,9 @@ bool launchedByAgent();
 // all); false when another process holds it.
 bool acquireInstanceLock();
 void releaseInstanceLock();
+inline void releaseInstanceLockForTesting() {
+    releaseInstanceLock();
+}
 
 // ~/.tarvanel/.show-settings
 QString showSettingsMarker();

@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QPointer>
 #include <QProcess>
+#include <QThread>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
@@ -24,8 +25,10 @@ const QString unitFile = "com.velmora.tarvanel.service";
 template <typename F> bool waitUntil(F done, int ms = 10000) {
     QElapsedTimer t;
     t.start();
-    while (!done() && t.elapsed() < ms)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    while (!done() && t.elapsed() < ms) {
+        QCoreApplication::processEvents();
+        QThread::msleep(5);
+    }
     return done();
 }
 

@@ -5,7 +5,8 @@
 set -euo pipefail
 [ "${TARVANEL_PACKAGE_TEST:-0}" = 1 ] || { echo "skipped: set TARVANEL_PACKAGE_TEST=1"; exit 77; }
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
-deb="$("$here/package" | tail -n 1)"
+# TARVANEL_PACKAGE_DEB checks a package built before instead of building one.
+deb="${TARVANEL_PACKAGE_DEB:-$("$here/package" | tail -n 1)}"
 fail() { echo "FAIL: $*"; exit 1; }
 
 files="$(dpkg-deb -c "$deb" | awk '{print $6}' | sed 's|^\./|/|')"
@@ -22,8 +23,6 @@ depends="$(dpkg-deb -f "$deb" Depends)"
 for d in libqt6core6 libicu72 tesseract-ocr-eng sound-theme-freedesktop fonts-noto-core; do
     grep -q "\b$d\b" <<<"$depends" || fail "Depends lacks $d: $depends"
 done
-[ "$(file -b --mime-type <(dpkg-deb --fsys-tarfile "$deb" | tar -xO ./usr/share/icons/hicolor/48x48/apps/com.velmora.tarvanel.png))" = image/png ] ||
-    fail "the 48x48 icon is not a PNG"
 errors="$(lintian "$deb" | grep -c '^E:' || true)"
 [ "$errors" = 0 ] || fail "lintian reports $errors errors"
 
@@ -31,6 +30,8 @@ tree="$(mktemp -d)"
 trap 'rm -rf "$tree"' EXIT
 dpkg-deb -x "$deb" "$tree/root"
 mkdir "$tree/home"
+icon="$tree/root/usr/share/icons/hicolor/48x48/apps/com.velmora.tarvanel.png"
+[ "$(identify -format '%m %wx%h' "$icon")" = "PNG 48x48" ] || fail "the 48x48 icon is not a 48x48 PNG"
 out="$(HOME="$tree/home" XDG_CONFIG_HOME="$tree/home/.config" TZ=Europe/London \
     "$tree/root/usr/bin/tarvanel" --times --date 2025-03-14)"
 grep -q "^Tarvanel — .*(Friday 14 March 2025 • 14 Ramadan 1446 AH • Ramadan 🌙)" <<<"$out" ||

@@ -311,19 +311,6 @@ TEST_F(AgentTest, UninstallStopsTheServiceBeforeItsFileGoesAndKeepsDataUnlessAsk
     }
 }
 
-TEST_F(AgentTest, InstalledMeansUnderASystemOrUserProgramFolder) {
-    const QString home = homeDir();
-    const QList<std::pair<QString, bool>> cases = {{"/usr/bin/tarvanel", true},
-                                                   {"/opt/tarvanel/tarvanel", true},
-                                                   {home + "/.local/bin/tarvanel", true},
-                                                   {home + "/Applications/tarvanel", true},
-                                                   {home + "/Downloads/tarvanel", false},
-                                                   {"/usrx/tarvanel", false},
-                                                   {home + "/.local/binary/tarvanel", false}};
-    for (const auto& [path, installed] : cases)
-        EXPECT_EQ(isInApplicationsFolder(path), installed) << path.toStdString();
-}
-
 TEST_F(AgentTest, OneInstanceAtATime) {
     EXPECT_TRUE(acquireInstanceLock());
     EXPECT_TRUE(acquireInstanceLock()); // this process already holds it

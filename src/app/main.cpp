@@ -1,4 +1,5 @@
-// Process entry: terminal commands run and exit; anything else starts the tray application.
+// Process entry: terminal commands run and exit; a copy the login service did not start hands
+// off to it and ends; the service's copy (or a test run) starts the tray application.
 #include "app/Agent.h"
 #include "app/CommandLine.h"
 #include "desktop/DesktopApp.h"

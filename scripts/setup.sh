@@ -12,6 +12,8 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
     clang libclang-rt-14-dev
+    dbus-daemon desktop-file-utils systemd
+    debhelper dpkg-dev fakeroot lintian appstream librsvg2-bin
 )
 
 missing=()
@@ -26,6 +28,9 @@ if [ ${#missing[@]} -gt 0 ]; then
     $sudo apt-get update -qq >&2
     $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 fi
+
+# ./package needs the packages only; it builds in a tree of its own.
+[ "${TARVANEL_SETUP_NO_BUILD:-0}" = 1 ] && exit 0
 
 if [ ! -f "$build/CMakeCache.txt" ]; then
     cmake -S "$here" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo >&2

@@ -10,10 +10,11 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QThread>
 
-#include <cerrno>
+#include <algorithm>
+
 #include <fcntl.h>
+#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -26,17 +27,21 @@ int instanceLockFD = -1;
 std::optional<std::optional<QString>> launchStamp; // outer: taken yet; inner: the stamp
 QString executableOverride;
 QString systemctlOverride;
+constexpr int toolLimitMs = 30000;
+const QString vendorUnitDir = QStringLiteral("/usr/lib/systemd/user/");
 
 QString unitName() {
     return QLatin1String(appLabel) + QStringLiteral(".service");
 }
 
-QString executablePath() {
-    if (!executableOverride.isEmpty()) return executableOverride;
-    const QString app =
-        QCoreApplication::instance() ? QCoreApplication::applicationFilePath() : QString();
-    if (!app.isEmpty()) return app;
-    return QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
+QString configHome() {
+    const QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
+    return config.isEmpty() ? homeDir() + QStringLiteral("/.config") : config;
+}
+
+QString dataHome() {
+    const QString data = qEnvironmentVariable("XDG_DATA_HOME");
+    return data.isEmpty() ? homeDir() + QStringLiteral("/.local/share") : data;
 }
 
 QString systemctl() {
@@ -45,8 +50,59 @@ QString systemctl() {
     return found.isEmpty() ? QStringLiteral("/usr/bin/systemctl") : found;
 }
 
-int systemctlUser(const QStringList& args) {
-    return runTool(systemctl(), QStringList{QStringLiteral("--user")} + args);
+// A desktop entry's Exec argument: quoted when it holds anything but plain characters, with
+// the entry format's own escaping of backslashes on top.
+QString desktopExecArgument(const QString& arg) {
+    static const QString reserved = QStringLiteral(" \t\n\"'\\><~|&;$*?#()`=%");
+    if (std::none_of(arg.begin(), arg.end(), [](QChar c) { return reserved.contains(c); }))
+        return arg;
+    QString quoted;
+    for (const QChar c : arg) {
+        if (c == u'"' || c == u'`' || c == u'$' || c == u'\\') quoted += u'\\';
+        quoted += c == u'%' ? QStringLiteral("%%") : QString(c);
+    }
+    QString value = QStringLiteral("\"") + quoted + QStringLiteral("\"");
+    return value.replace(u'\\', QStringLiteral("\\\\"));
+}
+
+// A packaged copy's unit comes with its package; the service manager then reads it from there.
+bool usesVendorUnit(const QString& exe) {
+    return exe.startsWith(QStringLiteral("/usr/")) && QFile::exists(vendorUnitDir + unitName());
+}
+
+bool startAgentDetached(const QString& exe) {
+    QProcess agent;
+    agent.setProgram(exe);
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("TARVANEL_AGENT"), QLatin1String(appLabel));
+    agent.setProcessEnvironment(env);
+    agent.setStandardInputFile(QProcess::nullDevice());
+    agent.setStandardOutputFile(QProcess::nullDevice());
+    agent.setStandardErrorFile(supportPath(QStringLiteral("log.txt")), QIODevice::Append);
+    // Its own session: closing the terminal that installed it must not hang it up.
+    agent.setChildProcessModifier([] { ::setsid(); });
+    return agent.startDetached();
+}
+
+void fallBackToAutostart(const QString& exe,
+                         const std::function<void(const InstallOutcome&)>& done) {
+    InstallOutcome out;
+    out.autostart = true;
+    QDir().mkpath(QFileInfo(autostartPath()).absolutePath());
+    if (!writeFileAtomically(autostartPath(), menuEntryText(exe, true).toUtf8())) {
+        out.reason = QStringLiteral("no systemd user service manager is running, and ") +
+                     autostartPath() + QStringLiteral(" cannot be written");
+    } else if (!startAgentDetached(exe)) {
+        out.reason = QStringLiteral("no systemd user service manager is running, and ") + exe +
+                     QStringLiteral(" cannot be started");
+    } else {
+        out.ok = true;
+        out.reason = QStringLiteral("no systemd user service manager is running: it starts at "
+                                    "login through ") +
+                     autostartPath();
+    }
+    logLine(QStringLiteral("Tarvanel: ") + out.reason);
+    done(out);
 }
 
 } // namespace
@@ -55,10 +111,7 @@ bool launchedByAgent() {
     return qEnvironmentVariable("TARVANEL_AGENT") == QLatin1String(appLabel);
 }
 
-void handOffToAgent() {
-    logLine(
-        QStringLiteral("Tarvanel: not started by the login service; running in the foreground"));
-}
+void handOffToAgent() {}
 
 bool acquireInstanceLock() {
     if (instanceLockFD >= 0) return true;
@@ -74,7 +127,7 @@ bool acquireInstanceLock() {
     return false;
 }
 
-void releaseInstanceLockForTesting() {
+void releaseInstanceLock() {
     if (instanceLockFD < 0) return;
     ::flock(instanceLockFD, LOCK_UN);
     ::close(instanceLockFD);
@@ -83,6 +136,19 @@ void releaseInstanceLockForTesting() {
 
 QString showSettingsMarker() {
     return supportPath(QStringLiteral(".show-settings"));
+}
+
+QString executablePath() {
+    if (!executableOverride.isEmpty()) return executableOverride;
+    const QString app =
+        QCoreApplication::instance() ? QCoreApplication::applicationFilePath() : QString();
+    if (!app.isEmpty()) return QFileInfo(app).canonicalFilePath();
+    return QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
+}
+
+void setExecutablePathForTesting(const QString& path) {
+    executableOverride = path;
+    launchStamp.reset();
 }
 
 std::optional<QString> executableStamp() {
@@ -105,11 +171,6 @@ bool appWasReplaced() {
     return **launchStamp != *now;
 }
 
-void setExecutablePathForTesting(const QString& path) {
-    executableOverride = path;
-    launchStamp.reset();
-}
-
 int runTool(const QString& path, const QStringList& arguments) {
     QProcess p;
     p.setStandardOutputFile(QProcess::nullDevice());
@@ -121,91 +182,166 @@ int runTool(const QString& path, const QStringList& arguments) {
     return p.exitCode();
 }
 
+bool isInApplicationsFolder(const QString& executable) {
+    const QString home = homeDir();
+    for (const QString& folder :
+         {QStringLiteral("/usr/"), QStringLiteral("/opt/"), home + QStringLiteral("/.local/bin/"),
+          home + QStringLiteral("/Applications/")})
+        if (executable.startsWith(folder)) return true;
+    return false;
+}
+
+bool isInApplicationsFolder() {
+    return isInApplicationsFolder(executablePath());
+}
+
 QString agentUnitPath() {
-    QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
-    if (config.isEmpty()) config = homeDir() + QStringLiteral("/.config");
-    return config + QStringLiteral("/systemd/user/") + unitName();
+    return configHome() + QStringLiteral("/systemd/user/") + unitName();
+}
+
+QString autostartPath() {
+    return configHome() + QStringLiteral("/autostart/") + QLatin1String(appLabel) +
+           QStringLiteral(".desktop");
+}
+
+QString menuEntryPath() {
+    return dataHome() + QStringLiteral("/applications/") + QLatin1String(appLabel) +
+           QStringLiteral(".desktop");
+}
+
+QString menuIconPath() {
+    return dataHome() + QStringLiteral("/icons/hicolor/scalable/apps/") + QLatin1String(appLabel) +
+           QStringLiteral(".svg");
 }
 
 QString agentUnitText(const QString& executable) {
     QString exec = executable;
+    exec.replace(QLatin1Char('%'), QStringLiteral("%%"));
     if (exec.contains(QLatin1Char(' ')) || exec.contains(QLatin1Char('"'))) {
         exec.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
         exec.replace(QLatin1Char('"'), QStringLiteral("\\\""));
         exec = QLatin1Char('"') + exec + QLatin1Char('"');
     }
+    // The condition keeps a unit whose program was deleted by hand from failing every 5 s.
     return QStringLiteral("[Unit]\n"
                           "Description=Tarvanel: locks the screens at prayer times\n"
                           "PartOf=graphical-session.target\n"
                           "After=graphical-session.target\n"
+                          "ConditionFileIsExecutable=%1\n"
                           "\n"
                           "[Service]\n"
-                          "ExecStart=%1\n"
-                          "Environment=TARVANEL_AGENT=%2\n"
+                          "ExecStart=%2\n"
+                          "Environment=TARVANEL_AGENT=%3\n"
                           "Restart=on-failure\n"
                           "RestartSec=5\n"
-                          "StandardError=append:%3\n"
+                          "StandardError=append:%4\n"
                           "\n"
                           "[Install]\n"
                           "WantedBy=graphical-session.target\n")
-        .arg(exec, QLatin1String(appLabel), supportPath(QStringLiteral("log.txt")));
+        .arg(QString(executable).replace(QLatin1Char('%'), QStringLiteral("%%")), exec,
+             QLatin1String(appLabel), supportPath(QStringLiteral("log.txt")));
+}
+
+QString menuEntryText(const QString& executable, bool autostart) {
+    QFile file(QStringLiteral(":/tarvanel/com.velmora.tarvanel.desktop"));
+    file.open(QIODevice::ReadOnly);
+    QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
+    for (QString& line : lines) {
+        if (!line.startsWith(QStringLiteral("Exec="))) continue;
+        line = autostart ? QStringLiteral("Exec=env TARVANEL_AGENT=") + QLatin1String(appLabel) +
+                               u' ' + desktopExecArgument(executable)
+                         : QStringLiteral("Exec=") + desktopExecArgument(executable) +
+                               QStringLiteral(" %f");
+    }
+    QString text = lines.join(u'\n');
+    if (autostart) text += QStringLiteral("X-GNOME-Autostart-enabled=true\n");
+    return text;
+}
+
+ToolRun userServiceCommand(const QStringList& arguments) {
+    return ToolRun{systemctl(), QStringList{QStringLiteral("--user")} + arguments, toolLimitMs,
+                   false};
 }
 
 void setSystemctlForTesting(const QString& path) {
     systemctlOverride = path;
 }
 
-bool installAgent() {
-    const QString unit = agentUnitPath();
-    QDir().mkpath(QFileInfo(unit).absolutePath());
-    ensureSupportDir();
-    if (!writeFileAtomically(unit, agentUnitText(executablePath()).toUtf8())) return false;
-    systemctlUser({QStringLiteral("stop"), unitName()}); // an older copy makes way
-    // A service manager started before the graphical session does not know the display.
-    systemctlUser({QStringLiteral("import-environment"), QStringLiteral("DISPLAY"),
-                   QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("XAUTHORITY")});
-    systemctlUser({QStringLiteral("daemon-reload")});
-    for (int attempt = 0; attempt < 12; ++attempt) {
-        if (systemctlUser({QStringLiteral("enable"), QStringLiteral("--now"), unitName()}) == 0)
-            return true;
-        QThread::msleep(500);
-    }
-    return false;
+ToolCall toolsBesideEventLoop(QObject* context) {
+    return [context](const ToolRun& run, std::function<void(const ToolResult&)> done) {
+        runToolAsync(run, context, std::move(done));
+    };
 }
 
-std::optional<bool> confirmUninstall(Platform& platform, const QString& extra) {
-    platform.activateApp();
-    const QString name = QLatin1String(appDisplayName);
-    const AlertAnswer answer = platform.showAlert(AlertRequest{
-        QStringLiteral("Uninstall ") + name + QLatin1Char('?'),
-        name + QStringLiteral(" stops running, stops starting at login, and moves to the Trash. ") +
-            extra,
-        {QStringLiteral("Uninstall"), QStringLiteral("Cancel")},
-        QStringLiteral("Also delete my settings and history"),
-        true});
-    if (answer.response != 1000) return std::nullopt;
-    return answer.checkBoxOn;
+ToolCall toolsWaiting() {
+    return [](const ToolRun& run, const std::function<void(const ToolResult&)>& done) {
+        QProcess p;
+        p.setStandardOutputFile(QProcess::nullDevice());
+        p.setStandardErrorFile(QProcess::nullDevice());
+        p.setStandardInputFile(QProcess::nullDevice());
+        p.start(run.program, run.arguments);
+        ToolResult result;
+        if (p.waitForStarted(run.timeoutMs) && !p.waitForFinished(run.timeoutMs)) {
+            result.timedOut = true;
+            p.kill();
+            p.waitForFinished(1000);
+        } else if (p.exitStatus() == QProcess::NormalExit && p.error() != QProcess::FailedToStart) {
+            result.status = p.exitCode();
+        }
+        done(result);
+    };
 }
 
-void uninstallApp(Platform& platform, bool deleteData) {
-    QFile::remove(agentUnitPath());
-    if (deleteData) {
-        QDir(supportDir()).removeRecursively();
-        QString config = qEnvironmentVariable("XDG_CONFIG_HOME");
-        if (config.isEmpty()) config = homeDir() + QStringLiteral("/.config");
-        QDir(config + QLatin1Char('/') + QLatin1String(appLabel)).removeRecursively();
-    }
-    // Only a copy the user installed goes to the Trash; a build tree or a package stays.
+void runInTurn(const ToolCall& tools, QList<ToolRun> runs,
+               std::function<void(const ToolResult&)> done) {
+    const ToolRun first = runs.takeFirst();
+    tools(first, [=](const ToolResult& result) {
+        if (runs.isEmpty()) return done(result);
+        runInTurn(tools, runs, done);
+    });
+}
+
+void installAgent(const ToolCall& tools, std::function<void(const InstallOutcome&)> done) {
     const QString exe = executablePath();
-    const QString home = homeDir();
-    if (exe.startsWith(home + QStringLiteral("/.local/bin/")) ||
-        exe.startsWith(home + QStringLiteral("/Applications/")))
-        QFile::moveToTrash(exe);
-    logLine(QLatin1String(appDisplayName) + QStringLiteral(": uninstalled"));
-    // Without --no-block the agent would wait here for its own stop.
-    systemctlUser({QStringLiteral("--no-block"), QStringLiteral("disable"), QStringLiteral("--now"),
-                   unitName()});
-    platform.exitProcess(0);
+    ensureSupportDir(); // the unit appends its standard error to a file in there
+    const QString unit = agentUnitPath();
+    if (usesVendorUnit(exe)) {
+        QFile::remove(unit); // a copy of ours would hide the package's updates
+    } else {
+        QDir().mkpath(QFileInfo(unit).absolutePath());
+        if (!writeFileAtomically(unit, agentUnitText(exe).toUtf8())) {
+            done({false, false, unit + QStringLiteral(" cannot be written")});
+            return;
+        }
+    }
+    const ToolRun enable =
+        userServiceCommand({QStringLiteral("enable"), QStringLiteral("--now"), unitName()});
+    // A service manager started before the graphical session does not know the display.
+    const ToolRun importDisplay =
+        userServiceCommand({QStringLiteral("import-environment"), QStringLiteral("DISPLAY"),
+                            QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("XAUTHORITY")});
+    const ToolRun stopOlder = userServiceCommand({QStringLiteral("stop"), unitName()});
+    tools(userServiceCommand({QStringLiteral("daemon-reload")}), [=](const ToolResult& reload) {
+        if (reload.status != 0) return fallBackToAutostart(exe, done);
+        QFile::remove(autostartPath()); // left by an earlier install without a service manager
+        runInTurn(tools, {stopOlder, importDisplay, enable}, [=](const ToolResult& last) {
+            InstallOutcome out;
+            out.ok = last.status == 0;
+            if (last.timedOut)
+                out.reason = enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")) +
+                             QStringLiteral(" gave no answer in time");
+            else if (!out.ok)
+                out.reason = enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")) +
+                             QStringLiteral(" failed with status %1").arg(last.status);
+            done(out);
+        });
+    });
+}
+
+InstallOutcome installAgent() {
+    InstallOutcome outcome;
+    installAgent(toolsWaiting(), [&outcome](const InstallOutcome& o) { outcome = o; });
+    return outcome;
 }
 
 } // namespace tarvanel

@@ -1,50 +1,93 @@
 #pragma once
-// Running as the per-user login service: single instance, self-restart after an update,
-// installation of the systemd user unit, and uninstalling.
+// Running as the per-user login service: the hand-off of a copy opened by hand, single instance,
+// self-restart after an update, installation of the systemd user unit, and uninstalling.
+#include "app/ToolRunner.h"
 #include "platform/Platform.h"
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
+
+class QObject;
 
 namespace tarvanel {
 
 // True when the environment variable TARVANEL_AGENT equals appLabel exactly.
 bool launchedByAgent();
 
-// A copy not started by the service. For now it says so in one line and keeps running in the
-// foreground; installing the service from here comes with the installer work.
-void handOffToAgent();
-
 // True when this process now holds ~/.tarvanel/.instance.lock (or the file cannot be opened at
 // all); false when another process holds it.
 bool acquireInstanceLock();
-void releaseInstanceLockForTesting();
+void releaseInstanceLock();
+inline void releaseInstanceLockForTesting() {
+    releaseInstanceLock();
+}
 
 // ~/.tarvanel/.show-settings
 QString showSettingsMarker();
 
+// The running executable (or the one a test named), with symbolic links resolved.
+QString executablePath();
+void setExecutablePathForTesting(const QString& path); // empty: the running executable
 // "device:inode:mtime" of the running executable; absent when it cannot be read.
 std::optional<QString> executableStamp();
 // Only the agent restarts itself: true once the executable on disk differs from the one that
 // was there at the first comparison.
 bool appWasReplaced();
-void setExecutablePathForTesting(const QString& path); // empty: the running executable
 
-// Runs a tool with its output discarded; its exit status, or -1 when it cannot start.
+// Runs a tool with its output discarded and waits for it; its exit status, or -1 when it cannot
+// start. Only for code that runs outside the event loop.
 int runTool(const QString& path, const QStringList& arguments);
 
-// ~/.config/systemd/user/com.velmora.tarvanel.service
-QString agentUnitPath();
+// Installed: the executable lives under /usr, /opt, ~/.local/bin or ~/Applications.
+bool isInApplicationsFolder();
+bool isInApplicationsFolder(const QString& executable);
+
+// Where the login service and the menu entry live.
+QString agentUnitPath(); // ~/.config/systemd/user/com.velmora.tarvanel.service
 QString agentUnitText(const QString& executable);
-// The systemctl used to drive the unit; tests point it at a script.
+QString autostartPath(); // ~/.config/autostart/com.velmora.tarvanel.desktop
+QString menuEntryPath(); // ~/.local/share/applications/com.velmora.tarvanel.desktop
+QString menuIconPath();  // ~/.local/share/icons/hicolor/scalable/apps/…svg
+QString menuEntryText(const QString& executable, bool autostart);
+// "systemctl --user" with `arguments`; tests point the program at a script.
+ToolRun userServiceCommand(const QStringList& arguments);
 void setSystemctlForTesting(const QString& path); // empty: "systemctl" from PATH
-// Writes the unit and (re)starts it: true when the service manager accepted it.
-bool installAgent();
+
+// How the installer runs its tools: beside the event loop inside the application, or waiting
+// (each tool within its time limit) on the command line, where no event loop runs.
+using ToolCall = std::function<void(const ToolRun&, std::function<void(const ToolResult&)>)>;
+ToolCall toolsBesideEventLoop(QObject* context);
+ToolCall toolsWaiting();
+// Runs `runs` (at least one) one after another; `done` gets the last one's result.
+void runInTurn(const ToolCall& tools, QList<ToolRun> runs,
+               std::function<void(const ToolResult&)> done);
+
+struct InstallOutcome {
+    bool ok = false;
+    bool autostart = false; // no user service manager: started through ~/.config/autostart
+    QString reason;         // why it failed, or how it was started instead
+};
+// Writes the unit (a packaged copy uses the one its package installed), reloads the service
+// manager, stops an older agent and enables and starts the new one. Without a user service
+// manager: an autostart entry, and the agent started detached.
+void installAgent(const ToolCall& tools, std::function<void(const InstallOutcome&)> done);
+InstallOutcome installAgent(); // waits: the --install-agent command
+
+// A copy not started by the service, before any desktop object exists: asks a running agent to
+// show its settings, or installs and starts the agent, or offers to move this copy to
+// ~/.local/bin. `finish` gets the exit status. Without a display `platform` is null: the
+// questions are logged and answered with their last button.
+void handOffToAgent(Platform* platform, std::function<void(int status)> finish);
+// Obsolete: the hand-off now runs before the controller exists. Does nothing.
+void handOffToAgent();
 
 // Absent when cancelled; otherwise whether to delete the user's data too.
 std::optional<bool> confirmUninstall(Platform& platform, const QString& extra);
-// Removes the unit (and the data when asked), stops the service, then ends the process.
+// Stops and removes the service, the menu entry and (when asked) the data, moves a copy the
+// user installed to the trash, then ends the process with status 0.
 void uninstallApp(Platform& platform, bool deleteData);
 
 } // namespace tarvanel

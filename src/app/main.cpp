@@ -1,12 +1,18 @@
-// Process entry: terminal commands run and exit; anything else starts the tray application.
+// Process entry: terminal commands run and exit; a copy the login service did not start hands
+// off to it and ends; the service's copy (or a test run) starts the tray application.
 #include "app/Agent.h"
 #include "app/CommandLine.h"
 #include "desktop/DesktopApp.h"
+#include "desktop/DisplayCheck.h"
+#include "desktop/QtPlatform.h"
 #include "engine/Clock.h"
 #include "engine/Config.h"
 
+#include <QApplication>
 #include <QStringList>
+#include <QTimer>
 #include <cstdio>
+#include <memory>
 
 using namespace tarvanel;
 
@@ -20,6 +26,25 @@ static void print(const QString& text) {
 }
 static void printError(const QString& text) {
     write(text, stderr);
+}
+
+// A copy the user opened by hand hands off to the login agent and ends: only an application
+// object (for its questions), no tray, watcher or window.
+static int runHandOff(int& argc, char** argv) {
+    const bool display = !displayProblem(QProcessEnvironment::systemEnvironment());
+    std::unique_ptr<QCoreApplication> app;
+    std::unique_ptr<QtPlatform> platform;
+    if (display) {
+        app = std::make_unique<QApplication>(argc, argv);
+        QApplication::setApplicationDisplayName(QStringLiteral("Tarvanel"));
+        platform = std::make_unique<QtPlatform>();
+    } else {
+        app = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QTimer::singleShot(0, app.get(), [&platform] {
+        handOffToAgent(platform.get(), [](int status) { QCoreApplication::exit(status); });
+    });
+    return QCoreApplication::exec();
 }
 
 int main(int argc, char** argv) {
@@ -50,10 +75,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (cl.installAgent) {
-        const bool ok = installAgent();
-        print(ok ? QStringLiteral("✓ Tarvanel running — look for 🕌 in the menu bar\n")
-                 : QStringLiteral("✗ launchctl bootstrap failed\n"));
-        return ok ? 0 : 1;
+        const InstallOutcome out = installAgent();
+        print(out.ok ? QStringLiteral("✓ Tarvanel running — look for 🕌 in the menu bar\n")
+                     : QStringLiteral("✗ launchctl bootstrap failed\n"));
+        if (!out.reason.isEmpty()) print(out.reason + QLatin1Char('\n'));
+        return out.ok ? 0 : 1;
     }
+    if (!cl.testLockSeconds && !cl.testNudge && !launchedByAgent()) return runHandOff(argc, argv);
     return runDesktopApplication(argc, argv, cl);
 }

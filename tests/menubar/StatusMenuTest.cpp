@@ -10,7 +10,9 @@
 #include "records/UserDefaults.h"
 #include "support/TestEnv.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 
 using namespace tarvanel;
@@ -224,12 +226,17 @@ TEST_F(StatusMenuTest, ExportAndUninstallAskAndDoWhatWasChosen) {
 
     sim.platform.answerAlert(1000, true);
     sim.app->uninstall();
+    // The service steps run beside the event loop; the process ends after them.
+    QElapsedTimer waited;
+    waited.start();
+    while (!sim.platform.exitStatus && waited.elapsed() < 10000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     EXPECT_EQ(sim.platform.exitStatus, 0);
     EXPECT_FALSE(QDir(supportDir()).exists());
     EXPECT_TRUE(sim.logs.contains("Tarvanel: uninstalled"));
-    // The agent must not wait for its own stop.
     EXPECT_EQ(readWholeFile(scratchHome() + "/calls").value_or(QByteArray()),
-              "--user --no-block disable --now com.velmora.tarvanel.service\n");
+              "--user disable com.velmora.tarvanel.service\n--user stop "
+              "com.velmora.tarvanel.service\n--user daemon-reload\n");
     EXPECT_FALSE(QFile::exists(agentUnitPath()));
     setSystemctlForTesting({});
 }

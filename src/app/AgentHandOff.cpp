@@ -1,0 +1,148 @@
+// The road of a copy the user opened by hand: to the running agent, to a new agent, or first to
+// ~/.local/bin.
+#include "app/Agent.h"
+
+#include "app/CommandLine.h"
+#include "records/Log.h"
+#include "records/StateFiles.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QUrl>
+
+namespace tarvanel {
+
+namespace {
+
+const QString name = QLatin1String(appDisplayName);
+
+// Lives until it reports the exit status.
+class HandOff : public QObject {
+public:
+    HandOff(Platform* platform, std::function<void(int)> finish)
+        : platform_(platform), finish_(std::move(finish)) {}
+
+    void start() {
+        if (!acquireInstanceLock()) return askAgentToShowSettings();
+        releaseInstanceLock(); // this copy only tested it
+        if (isInApplicationsFolder()) return installHere();
+        const QString info =
+            name +
+            QStringLiteral(" runs in the background and starts at login, so it has to "
+                           "live in your Applications folder.\nOn this computer that is "
+                           "~/.local/bin, with ") +
+            name + QStringLiteral(" added to your applications menu.");
+        if (ask({QStringLiteral("Move ") + name + QStringLiteral(" to Applications?"),
+                 info,
+                 {QStringLiteral("Move to Applications"), QStringLiteral("Quit")},
+                 {},
+                 false}) == 1000)
+            return moveToApplications();
+        end(0);
+    }
+
+private:
+    Platform* platform_;
+    std::function<void(int)> finish_;
+
+    void end(int status) {
+        finish_(status);
+        deleteLater();
+    }
+
+    int ask(const AlertRequest& request) {
+        if (platform_) {
+            platform_->activateApp();
+            return platform_->showAlert(request).response;
+        }
+        logLine(QStringLiteral("Tarvanel: ") + request.message + u' ' + request.info);
+        return 999 + int(request.buttons.size()); // no display: the last button
+    }
+
+    // A signal on the session bus, then a round trip to the bus so that the signal has left
+    // before this process ends.
+    void askAgentToShowSettings() {
+        QDBusConnection bus = QDBusConnection::sessionBus();
+        if (!bus.isConnected()) {
+            logLine(QStringLiteral("Tarvanel already running; no session bus to ask it to show "
+                                   "its settings"));
+            return end(0);
+        }
+        bus.send(QDBusMessage::createSignal(QStringLiteral("/com/velmora/tarvanel"),
+                                            QLatin1String(appLabel),
+                                            QStringLiteral("showSettings")));
+        const QDBusMessage ping = QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+            QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+        auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(ping, 5000), this);
+        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this] { end(0); });
+    }
+
+    void installHere() {
+        const QString marker = showSettingsMarker();
+        ensureSupportDir();
+        writeFilePlain(marker, {});
+        installAgent(toolsBesideEventLoop(this), [this, marker](const InstallOutcome& out) {
+            if (out.ok) return end(0);
+            QFile::remove(marker);
+            logLine(QStringLiteral("Tarvanel: the login service did not start: ") + out.reason);
+            const QString info =
+                QStringLiteral("Turn ") + name +
+                QStringLiteral(" on in System Settings → General → Login Items & Extensions "
+                               "(under “Allow in the Background”), then open it again.\nOn this "
+                               "computer the login service is the systemd user unit ") +
+                QLatin1String(appLabel) + QStringLiteral(".service, and it did not start: ") +
+                out.reason + u'.';
+            if (ask({name + QStringLiteral(" couldn't start in the background"),
+                     info,
+                     {QStringLiteral("Open Login Items"), QStringLiteral("Quit")},
+                     {},
+                     false}) == 1000)
+                platform_->openUrl(
+                    QUrl::fromLocalFile(QFileInfo(agentUnitPath()).absolutePath()).toString());
+            end(1);
+        });
+    }
+
+    void moveToApplications() {
+        const QString exe = executablePath();
+        const QString folder = homeDir() + QStringLiteral("/.local/bin");
+        QDir().mkpath(folder);
+        const QString destination = folder + u'/' + QFileInfo(exe).fileName();
+        if (QFileInfo::exists(destination)) QFile::moveToTrash(destination);
+        if (!QFile::copy(exe, destination)) {
+            ask({QStringLiteral("Couldn't copy ") + name + QStringLiteral(" to ") + folder,
+                 QStringLiteral("Drag ") + name +
+                     QStringLiteral(" into your Applications folder yourself, then open it from "
+                                    "there.\nOn this computer that means copying the program "
+                                    "into ~/.local/bin and opening it from there."),
+                 {QStringLiteral("OK")},
+                 {},
+                 false});
+            return end(1);
+        }
+        // A menu entry and its icon, so that the copy is found like any installed program.
+        QDir().mkpath(QFileInfo(menuEntryPath()).absolutePath());
+        QDir().mkpath(QFileInfo(menuIconPath()).absolutePath());
+        writeFileAtomically(menuEntryPath(), menuEntryText(destination, false).toUtf8());
+        QFile icon(QStringLiteral(":/tarvanel/com.velmora.tarvanel.svg"));
+        if (icon.open(QIODevice::ReadOnly)) writeFileAtomically(menuIconPath(), icon.readAll());
+        // The copy comes back through this road and installs the agent.
+        if (!QProcess::startDetached(destination, {}))
+            logLine(QStringLiteral("Tarvanel: cannot start ") + destination);
+        end(0);
+    }
+};
+
+} // namespace
+
+void handOffToAgent(Platform* platform, std::function<void(int status)> finish) {
+    (new HandOff(platform, std::move(finish)))->start();
+}
+
+} // namespace tarvanel

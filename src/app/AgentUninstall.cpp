@@ -1,0 +1,78 @@
+// Uninstalling: the service first (its file must still be there to be disabled), then the
+// files, then the program itself.
+#include "app/Agent.h"
+
+#include "app/CommandLine.h"
+#include "records/Log.h"
+#include "records/StateFiles.h"
+#include "records/UserDefaults.h"
+
+#include <QDir>
+#include <QFile>
+#include <QObject>
+
+namespace tarvanel {
+
+namespace {
+
+const QString name = QLatin1String(appDisplayName);
+const QString unit = QLatin1String(appLabel) + QStringLiteral(".service");
+
+void removeFilesAndProgram(Platform& platform, bool deleteData) {
+    for (const QString& path : {agentUnitPath(), autostartPath(), menuEntryPath(), menuIconPath()})
+        QFile::remove(path);
+    if (deleteData) {
+        QDir(supportDir()).removeRecursively();
+        QDir(UserDefaults::folder()).removeRecursively();
+    }
+    const QString exe = executablePath();
+    const QString home = homeDir();
+    if (exe.startsWith(home + QStringLiteral("/.local/bin/")) ||
+        exe.startsWith(home + QStringLiteral("/Applications/"))) {
+        QFile::moveToTrash(exe);
+    } else if (exe.startsWith(QStringLiteral("/usr/"))) {
+        platform.activateApp();
+        platform.showAlert({name + QStringLiteral(" was installed as a package"),
+                            name + QStringLiteral(" no longer runs or starts at login. To remove "
+                                                  "it from this computer too, run:\n\n"
+                                                  "sudo apt remove tarvanel"),
+                            {QStringLiteral("OK")},
+                            {},
+                            false});
+    }
+    logLine(name + QStringLiteral(": uninstalled"));
+}
+
+} // namespace
+
+std::optional<bool> confirmUninstall(Platform& platform, const QString& extra) {
+    platform.activateApp();
+    const AlertAnswer answer = platform.showAlert(AlertRequest{
+        QStringLiteral("Uninstall ") + name + QLatin1Char('?'),
+        name + QStringLiteral(" stops running, stops starting at login, and moves to the Trash. ") +
+            extra,
+        {QStringLiteral("Uninstall"), QStringLiteral("Cancel")},
+        QStringLiteral("Also delete my settings and history"),
+        true});
+    if (answer.response != 1000) return std::nullopt;
+    return answer.checkBoxOn;
+}
+
+void uninstallApp(Platform& platform, bool deleteData) {
+    auto* context = new QObject; // owns the running tools until the process ends
+    const ToolCall tools = toolsBesideEventLoop(context);
+    QList<ToolRun> service = {userServiceCommand({QStringLiteral("disable"), unit})};
+    // The agent itself is not stopped: a stop would end it before the files go. Its own exit
+    // with status 0 below ends the service for good (it restarts only after a failure).
+    if (!launchedByAgent()) service << userServiceCommand({QStringLiteral("stop"), unit});
+    runInTurn(tools, service, [=, &platform](const ToolResult&) {
+        removeFilesAndProgram(platform, deleteData);
+        tools(userServiceCommand({QStringLiteral("daemon-reload")}),
+              [=, &platform](const ToolResult&) {
+                  context->deleteLater();
+                  platform.exitProcess(0);
+              });
+    });
+}
+
+} // namespace tarvanel

@@ -1,0 +1,35 @@
+#pragma once
+// Calendars as vdir folders (the layout khal and vdirsyncer share): <root>/<account>/<calendar>/,
+// one iCalendar file per event. libical reads and writes every event.
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+namespace tarvanel::vdir {
+
+struct CalendarFolder {
+    QString path;        // absolute folder path
+    QString identifier;  // "<account>/<calendar>", relative to the root
+    QString title;       // the folder's displayname file, else its name
+    QString sourceTitle; // the account folder's name
+    bool writable = false;
+};
+
+// Every calendar two levels below root, in no particular order.
+QList<CalendarFolder> listCalendars(const QString& root);
+
+// Marks of the events the application writes.
+QString tagText(); // "Added by Tarvanel", in the description
+QString tagUrl();  // "tarvanel://lock", the URL
+
+// Removes, from every event file in folder, the application's own events that overlap
+// [from, to). A file left without events is deleted; others are rewritten. Failures are ignored:
+// a file that cannot be changed keeps its events until the next sync.
+void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTime& to);
+
+// Writes one busy event into folder as <uid>.ics, atomically. Empty on success, else the
+// reason it failed.
+QString writeEvent(const QString& folder, const QString& title, const QDateTime& start,
+                   const QDateTime& end);
+
+} // namespace tarvanel::vdir

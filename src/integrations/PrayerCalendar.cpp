@@ -126,11 +126,7 @@ void sync(const Config& cfg, const QDateTime& now) {
         return c.identifier == *cfg.calendarID;
     });
     if (chosen == calendars.end()) return; // a calendar that is gone: nothing to report
-    QString failure;
-    for (const BusyEvent& e : plannedEvents(cfg, now)) {
-        const QString reason = vdir::writeEvent(chosen->path, e.title, e.start, e.end);
-        if (failure.isEmpty()) failure = reason;
-    }
+    const QString failure = vdir::writeEvents(chosen->path, plannedEvents(cfg, now));
     if (!failure.isEmpty()) logLine(QStringLiteral("Tarvanel: calendar sync failed: ") + failure);
 }
 

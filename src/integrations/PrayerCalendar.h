@@ -38,12 +38,8 @@ QList<Calendar> writableCalendars();
 // later on the event loop with true when access is granted; never before this returns.
 void requestAccess(Platform& platform, std::function<void(bool granted)> completion);
 
-// One busy event to write.
-struct BusyEvent {
-    QString title; // "Fajr (prayer)", "Jumu'ah (prayer)"
-    QDateTime start;
-    QDateTime end;
-};
+// One busy event to write: "Fajr (prayer)" or "Jumu'ah (prayer)", from the lock's start.
+using BusyEvent = vdir::NewEvent;
 
 // The events of the 7 days starting on now's local day, in order, leaving out those already
 // over at `now`.

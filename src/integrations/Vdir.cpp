@@ -5,8 +5,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QUuid>
+#include <atomic>
 #include <libical/ical.h>
 #include <memory>
+#include <thread>
+#include <vector>
 
 namespace tarvanel::vdir {
 namespace {
@@ -102,6 +105,28 @@ void removeFromFile(const QString& path, const QDateTime& from, const QDateTime&
     writeFileAtomically(path, serialise(root.get()));
 }
 
+QString writeOne(const QString& folder, const NewEvent& e, const icaltimetype& stamp) {
+    const QString uid = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    Component calendar(icalcomponent_new_vcalendar());
+    icalcomponent_add_property(calendar.get(), icalproperty_new_version("2.0"));
+    icalcomponent_add_property(calendar.get(), icalproperty_new_prodid("-//Tarvanel//EN"));
+    icalcomponent* event = icalcomponent_new_vevent();
+    icalcomponent_set_uid(event, uid.toUtf8().constData());
+    icalcomponent_set_dtstamp(event, stamp);
+    icalcomponent_set_summary(event, e.title.toUtf8().constData());
+    icalcomponent_set_dtstart(event, utcTime(e.start));
+    icalcomponent_set_dtend(event, utcTime(e.end));
+    icalcomponent_add_property(event, icalproperty_new_transp(ICAL_TRANSP_OPAQUE));
+    icalcomponent_add_property(event, icalproperty_new_url(tagUrl().toUtf8().constData()));
+    icalcomponent_set_description(event, tagText().toUtf8().constData());
+    icalcomponent_add_component(calendar.get(), event);
+
+    const QString path = QDir(folder).filePath(uid + QStringLiteral(".ics"));
+    if (!writeFileAtomically(path, serialise(calendar.get())))
+        return QStringLiteral("could not write ") + path;
+    return QString();
+}
+
 } // namespace
 
 QString tagText() {
@@ -136,26 +161,24 @@ void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTi
         removeFromFile(dir.filePath(name), from, to);
 }
 
-QString writeEvent(const QString& folder, const QString& title, const QDateTime& start,
-                   const QDateTime& end) {
-    const QString uid = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    Component calendar(icalcomponent_new_vcalendar());
-    icalcomponent_add_property(calendar.get(), icalproperty_new_version("2.0"));
-    icalcomponent_add_property(calendar.get(), icalproperty_new_prodid("-//Tarvanel//EN"));
-    icalcomponent* event = icalcomponent_new_vevent();
-    icalcomponent_set_uid(event, uid.toUtf8().constData());
-    icalcomponent_set_dtstamp(event, utcTime(QDateTime::currentDateTimeUtc()));
-    icalcomponent_set_summary(event, title.toUtf8().constData());
-    icalcomponent_set_dtstart(event, utcTime(start));
-    icalcomponent_set_dtend(event, utcTime(end));
-    icalcomponent_add_property(event, icalproperty_new_transp(ICAL_TRANSP_OPAQUE));
-    icalcomponent_add_property(event, icalproperty_new_url(tagUrl().toUtf8().constData()));
-    icalcomponent_set_description(event, tagText().toUtf8().constData());
-    icalcomponent_add_component(calendar.get(), event);
-
-    const QString path = QDir(folder).filePath(uid + QStringLiteral(".ics"));
-    if (!writeFileAtomically(path, serialise(calendar.get())))
-        return QStringLiteral("could not write ") + path;
+QString writeEvents(const QString& folder, const QList<NewEvent>& events) {
+    icaltimezone_get_utc_timezone(); // built before the writers share it
+    const icaltimetype stamp = utcTime(QDateTime::currentDateTimeUtc());
+    QStringList reasons(events.size());
+    std::atomic<qsizetype> next = 0;
+    // Each atomic write waits for the disk to confirm it; side by side, the waits overlap.
+    const auto writer = [&] {
+        for (qsizetype i = next++; i < events.size(); i = next++)
+            reasons[i] = writeOne(folder, events[i], stamp);
+    };
+    std::vector<std::thread> threads;
+    for (qsizetype t = 1; t < std::min<qsizetype>(events.size(), 8); ++t)
+        threads.emplace_back(writer);
+    writer();
+    for (std::thread& t : threads)
+        t.join();
+    for (const QString& reason : reasons)
+        if (!reason.isEmpty()) return reason;
     return QString();
 }
 

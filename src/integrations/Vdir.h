@@ -27,9 +27,14 @@ QString tagUrl();  // "tarvanel://lock", the URL
 // a file that cannot be changed keeps its events until the next sync.
 void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTime& to);
 
-// Writes one busy event into folder as <uid>.ics, atomically. Empty on success, else the
-// reason it failed.
-QString writeEvent(const QString& folder, const QString& title, const QDateTime& start,
-                   const QDateTime& end);
+struct NewEvent {
+    QString title;
+    QDateTime start;
+    QDateTime end;
+};
+
+// Writes each busy event into folder as <uid>.ics, atomically, with a fresh UID. Empty when all
+// were written, else the reason the first one failed.
+QString writeEvents(const QString& folder, const QList<NewEvent>& events);
 
 } // namespace tarvanel::vdir

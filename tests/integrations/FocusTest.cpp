@@ -18,10 +18,6 @@ protected:
         ScratchTest::SetUp();
         setLogSink([this](const QString& line) { logs << line; });
     }
-    void TearDown() override {
-        setLogSink(nullptr);
-        ScratchTest::TearDown();
-    }
     static void script(const QString& name, const QByteArray& body) {
         test::writeFile(Focus::folder() + '/' + name, "#!/bin/sh\n" + body + "\n", true);
     }

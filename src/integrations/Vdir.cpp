@@ -164,12 +164,12 @@ void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTi
 QString writeEvents(const QString& folder, const QList<NewEvent>& events) {
     icaltimezone_get_utc_timezone(); // built before the writers share it
     const icaltimetype stamp = utcTime(QDateTime::currentDateTimeUtc());
-    QStringList reasons(events.size());
+    std::vector<QString> reasons(size_t(events.size()));
     std::atomic<qsizetype> next = 0;
     // Each atomic write waits for the disk to confirm it; side by side, the waits overlap.
     const auto writer = [&] {
         for (qsizetype i = next++; i < events.size(); i = next++)
-            reasons[i] = writeOne(folder, events[i], stamp);
+            reasons[size_t(i)] = writeOne(folder, events[i], stamp);
     };
     std::vector<std::thread> threads;
     for (qsizetype t = 1; t < std::min<qsizetype>(events.size(), 8); ++t)

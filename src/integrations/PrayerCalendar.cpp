@@ -118,15 +118,17 @@ void sync(const Config& cfg, const QDateTime& now) {
     // Wider than the 7 days written, so events of earlier syncs that reach further go too.
     const QDateTime end = start.addSecs(9 * kDay);
     const QList<Calendar> calendars = vdir::listCalendars(rootPath());
-    for (const Calendar& c : calendars)
-        vdir::removeOwnEvents(c.path, start, end);
-
-    if (!cfg.isOn(cfg.calendarSync, false) || !cfg.calendarID) return;
+    const bool writing = cfg.isOn(cfg.calendarSync, false) && cfg.calendarID;
     const auto chosen = std::find_if(calendars.begin(), calendars.end(), [&](const Calendar& c) {
-        return c.identifier == *cfg.calendarID;
+        return writing && c.identifier == *cfg.calendarID;
     });
-    if (chosen == calendars.end()) return; // a calendar that is gone: nothing to report
-    const QString failure = vdir::writeEvents(chosen->path, plannedEvents(cfg, now));
+    // A calendar that is gone gets nothing, and nothing is reported.
+    QList<BusyEvent> missing =
+        chosen == calendars.end() ? QList<BusyEvent>() : plannedEvents(cfg, now);
+    for (auto c = calendars.begin(); c != calendars.end(); ++c)
+        vdir::removeOwnEvents(c->path, start, end, c == chosen ? &missing : nullptr);
+    if (chosen == calendars.end()) return;
+    const QString failure = vdir::writeEvents(chosen->path, missing);
     if (!failure.isEmpty()) logLine(QStringLiteral("Tarvanel: calendar sync failed: ") + failure);
 }
 

@@ -47,7 +47,9 @@ QList<BusyEvent> plannedEvents(const Config& cfg, const QDateTime& now);
 
 // Removes the application's events from today's start to 9 days on in every calendar, then,
 // when calendarSync is on and calendarID names an existing calendar, writes plannedEvents
-// into it. A failed write logs "Tarvanel: calendar sync failed: " + the reason, once.
+// into it. An event already there exactly as planned is kept rather than rewritten, so a
+// repeated sync changes no file. A failed write logs "Tarvanel: calendar sync failed: " + the
+// reason, once.
 void sync(const Config& cfg, const QDateTime& now);
 
 // The daily trigger: syncs when calendarSync is on and calendarSyncedDay differs from

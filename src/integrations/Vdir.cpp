@@ -74,7 +74,28 @@ QByteArray serialise(icalcomponent* component) {
     return bytes;
 }
 
-void removeFromFile(const QString& path, const QDateTime& from, const QDateTime& to) {
+// An event already written as planned stays, so a repeated sync neither rewrites the file nor
+// makes a CalDAV sync upload it again. Found entries leave `keep`: a duplicate goes.
+bool takeMatch(icalcomponent* event, QList<NewEvent>* keep) {
+    icalproperty* transp = icalcomponent_get_first_property(event, ICAL_TRANSP_PROPERTY);
+    if (!keep || !transp || icalproperty_get_transp(transp) != ICAL_TRANSP_OPAQUE) return false;
+    const auto start = instantOf(icalcomponent_get_dtstart(event));
+    const auto end = instantOf(icalcomponent_get_dtend(event));
+    const char* summary = icalcomponent_get_summary(event);
+    if (!start || !end || !summary) return false;
+    for (qsizetype i = 0; i < keep->size(); ++i) {
+        const NewEvent& e = keep->at(i);
+        if (e.start.toSecsSinceEpoch() == start->toSecsSinceEpoch() &&
+            e.end.toSecsSinceEpoch() == end->toSecsSinceEpoch() && e.title == summary) {
+            keep->removeAt(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+void removeFromFile(const QString& path, const QDateTime& from, const QDateTime& to,
+                    QList<NewEvent>* keep) {
     const auto bytes = readWholeFile(path);
     // Only the application's marks make an event removable, so a file without them is skipped
     // unparsed: thousands of other events cost a read each.
@@ -91,7 +112,7 @@ void removeFromFile(const QString& path, const QDateTime& from, const QDateTime&
             events << e;
     }
     for (icalcomponent* e : events)
-        if (isOwn(e) && overlaps(e, from, to)) doomed << e;
+        if (isOwn(e) && overlaps(e, from, to) && !takeMatch(e, keep)) doomed << e;
     if (doomed.isEmpty()) return;
     if (doomed.size() == events.size()) {
         QFile::remove(path);
@@ -155,10 +176,11 @@ QList<CalendarFolder> listCalendars(const QString& root) {
     return result;
 }
 
-void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTime& to) {
+void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTime& to,
+                     QList<NewEvent>* keep) {
     const QDir dir(folder);
     for (const QString& name : dir.entryList({QStringLiteral("*.ics")}, QDir::Files))
-        removeFromFile(dir.filePath(name), from, to);
+        removeFromFile(dir.filePath(name), from, to, keep);
 }
 
 QString writeEvents(const QString& folder, const QList<NewEvent>& events) {

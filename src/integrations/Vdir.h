@@ -22,16 +22,18 @@ QList<CalendarFolder> listCalendars(const QString& root);
 QString tagText(); // "Added by Tarvanel", in the description
 QString tagUrl();  // "tarvanel://lock", the URL
 
-// Removes, from every event file in folder, the application's own events that overlap
-// [from, to). A file left without events is deleted; others are rewritten. Failures are ignored:
-// a file that cannot be changed keeps its events until the next sync.
-void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTime& to);
-
 struct NewEvent {
     QString title;
     QDateTime start;
     QDateTime end;
 };
+
+// Removes, from every event file in folder, the application's own events that overlap
+// [from, to). With `keep`, an event equal to one of it (title, start, end, busy) stays and that
+// entry leaves `keep`. A file left without events is deleted; others are rewritten. Failures are
+// ignored: a file that cannot be changed keeps its events until the next sync.
+void removeOwnEvents(const QString& folder, const QDateTime& from, const QDateTime& to,
+                     QList<NewEvent>* keep = nullptr);
 
 // Writes each busy event into folder as <uid>.ics, atomically, with a fresh UID. Empty when all
 // were written, else the reason the first one failed.

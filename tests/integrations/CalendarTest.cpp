@@ -76,8 +76,14 @@ TEST_F(CalendarTest, SyncReplacesOnlyItsOwnEventsInEveryCalendar) {
     event(home, "day-ten", "20251114T164000Z", "URL:tarvanel://lock\r\n");
 
     Config cfg = weekConfig();
+    cfg.lockLeadMinutes = 6; // then moved: every event is replaced, none duplicated
     PrayerCalendar::sync(cfg, kTuesday2pm);
-    PrayerCalendar::sync(cfg, kTuesday2pm); // a second run replaces, never duplicates
+    const Rows moved = files(office);
+    PrayerCalendar::sync(cfg = weekConfig(), kTuesday2pm);
+    const Rows written = files(office);
+    PrayerCalendar::sync(cfg, kTuesday2pm);
+    EXPECT_EQ(files(office), written); // unchanged events stay as they are
+    EXPECT_FALSE(written.contains(moved.first()));
     EXPECT_EQ(files(home), Rows({"day-ten.ics", "yesterday.ics"}));
     // At 14:00 today's Dhuhr (13:15-13:35) is over: today gets 3 events, the next six days 5.
     const QString listed = khalList(office);

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <unistd.h>
 
 namespace tarvanel::FocusShortcuts {
 namespace {
@@ -18,12 +19,12 @@ bool isExecutableFile(const QString& path) {
     return info.isFile() && info.isExecutable();
 }
 
-// Any user's process of that name counts: these daemons run one per session.
+// One of this user's processes: another user's session may run another daemon.
 bool processRuns(const QString& name) {
     const QDir proc(QStringLiteral("/proc"));
-    for (const QString& pid : proc.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        if (!pid.front().isDigit()) continue;
-        const auto comm = readWholeFile(proc.filePath(pid + QStringLiteral("/comm")));
+    for (const QFileInfo& pid : proc.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        if (!pid.fileName().front().isDigit() || pid.ownerId() != getuid()) continue;
+        const auto comm = readWholeFile(pid.filePath() + QStringLiteral("/comm"));
         if (comm && comm->trimmed() == name.toUtf8()) return true;
     }
     return false;

@@ -114,11 +114,13 @@ void removeFromFile(const QString& path, const QDateTime& from, const QDateTime&
     for (icalcomponent* e : events)
         if (isOwn(e) && overlaps(e, from, to) && !takeMatch(e, keep)) doomed << e;
     if (doomed.isEmpty()) return;
-    if (doomed.size() == events.size()) {
+    const int others = icalcomponent_count_components(root.get(), ICAL_VTODO_COMPONENT) +
+                       icalcomponent_count_components(root.get(), ICAL_VJOURNAL_COMPONENT);
+    if (doomed.size() == events.size() && others == 0) {
         QFile::remove(path);
         return;
     }
-    // A file that also holds other events keeps them.
+    // A file that also holds other events or tasks keeps them.
     for (icalcomponent* e : doomed) {
         icalcomponent_remove_component(root.get(), e);
         icalcomponent_free(e);

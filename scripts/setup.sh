@@ -6,7 +6,7 @@ build="${TARVANEL_BUILD_DIR:-$here/build}"
 
 packages=(
     cmake g++ make pkg-config
-    qt6-base-dev qt6-multimedia-dev libicu-dev libqrencode-dev
+    qt6-base-dev qt6-multimedia-dev libicu-dev libqrencode-dev libical-dev khal
     gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core fonts-noto-color-emoji tzdata
     libxcb1-dev
     libgtest-dev libgmock-dev libbenchmark-dev

@@ -1,0 +1,150 @@
+#include "integrations/PrayerCalendar.h"
+#include "engine/LocalTime.h"
+#include "engine/Schedule.h"
+#include "platform/Platform.h"
+#include "records/Log.h"
+#include "records/StateFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+#include <cmath>
+
+namespace tarvanel::PrayerCalendar {
+namespace {
+
+constexpr qint64 kDay = 86400;
+
+// Minutes as milliseconds; a hand-edited length that is no usable number counts as none.
+std::optional<qint64> minutesMs(double minutes) {
+    if (!std::isfinite(minutes) || std::fabs(minutes) > 1e6) return std::nullopt;
+    return qint64(std::llround(minutes * 60000.0));
+}
+
+bool grantAccess() {
+    const QString root = rootPath();
+    if (!QDir().mkpath(root)) {
+        logLine(QStringLiteral("Tarvanel: cannot create the calendar folder ") + root);
+        return false;
+    }
+    if (!authorized()) {
+        logLine(QStringLiteral("Tarvanel: cannot write the calendar folder ") + root);
+        return false;
+    }
+    if (!vdir::listCalendars(root).isEmpty()) return true;
+    // Something to choose from: a calendar of our own that vdirsyncer can pair with a server.
+    const QString folder = root + QStringLiteral("/local/prayer");
+    if (!QDir().mkpath(folder) ||
+        !writeFileAtomically(folder + QStringLiteral("/displayname"), "Prayer times"))
+        logLine(QStringLiteral("Tarvanel: cannot create the calendar ") + folder);
+    return true;
+}
+
+} // namespace
+
+QString rootPath() {
+    QString data = qEnvironmentVariable("XDG_DATA_HOME");
+    if (data.isEmpty() || !QDir::isAbsolutePath(data))
+        data = homeDir() + QStringLiteral("/.local/share");
+    return data + QStringLiteral("/calendars");
+}
+
+bool authorized() {
+    const QFileInfo root(rootPath());
+    return root.isDir() && root.isWritable();
+}
+
+QList<Calendar> writableCalendars() {
+    if (!authorized()) return {};
+    QList<Calendar> result;
+    for (const Calendar& c : vdir::listCalendars(rootPath()))
+        if (c.writable) result << c;
+    std::sort(result.begin(), result.end(), [](const Calendar& a, const Calendar& b) {
+        if (const int bySource = QString::compare(a.sourceTitle, b.sourceTitle))
+            return bySource < 0;
+        return QString::compare(a.title, b.title) < 0;
+    });
+    return result;
+}
+
+void requestAccess(Platform& platform, std::function<void(bool)> completion) {
+    platform.post([&platform, completion = std::move(completion)] {
+        if (authorized()) {
+            completion(grantAccess());
+            return;
+        }
+        AlertRequest ask;
+        ask.message = QStringLiteral("Allow Tarvanel to add busy events to your calendars?");
+        ask.info = QStringLiteral(
+                       "Tarvanel keeps its events in the calendar folders under %1, one file per "
+                       "event. khal shows them, and vdirsyncer syncs them with your online "
+                       "calendar so colleagues see you're busy.")
+                       .arg(rootPath());
+        ask.buttons = {QStringLiteral("Allow"), QStringLiteral("Don't Allow")};
+        const bool consent = platform.showAlert(ask).response == 1000;
+        completion(consent && grantAccess());
+    });
+}
+
+QList<BusyEvent> plannedEvents(const Config& cfg, const QDateTime& now) {
+    QList<BusyEvent> events;
+    const QDateTime start = startOfLocalDay(now);
+    const auto leadMs = minutesMs(cfg.leadMinutes());
+    if (!start.isValid() || !leadMs) return events;
+    for (int i = 0; i < 7; ++i) {
+        // One hour into the day keeps a day that starts at 01:00 after a clock change whole.
+        const EffectiveTimes day = effectiveTimes(start.addSecs(i * kDay + 3600), cfg);
+        for (const QString& name : prayerNames()) {
+            const auto lockTime = day.final.value(name);
+            if (!lockTime) continue;
+            const bool jumuah = day.jumuah && name == QLatin1String("Dhuhr");
+            const auto lengthMs = minutesMs(jumuah ? cfg.jumuahLock() : cfg.lockMinutes);
+            if (!lengthMs) continue;
+            BusyEvent e;
+            e.title = (jumuah ? QStringLiteral("Jumu'ah") : name) + QStringLiteral(" (prayer)");
+            e.start = lockTime->addMSecs(-*leadMs);
+            e.end = e.start.addMSecs(*lengthMs);
+            if (e.end <= now) continue; // nothing for locks already over
+            events << e;
+        }
+    }
+    return events;
+}
+
+void sync(const Config& cfg, const QDateTime& now) {
+    if (!authorized()) return;
+    const QDateTime start = startOfLocalDay(now);
+    if (!start.isValid()) return;
+    // Wider than the 7 days written, so events of earlier syncs that reach further go too.
+    const QDateTime end = start.addSecs(9 * kDay);
+    const QList<Calendar> calendars = vdir::listCalendars(rootPath());
+    const bool writing = cfg.isOn(cfg.calendarSync, false) && cfg.calendarID;
+    const auto chosen = std::find_if(calendars.begin(), calendars.end(), [&](const Calendar& c) {
+        return writing && c.identifier == *cfg.calendarID;
+    });
+    // A calendar that is gone gets nothing, and nothing is reported.
+    QList<BusyEvent> missing =
+        chosen == calendars.end() ? QList<BusyEvent>() : plannedEvents(cfg, now);
+    for (auto c = calendars.begin(); c != calendars.end(); ++c)
+        vdir::removeOwnEvents(c->path, start, end, c == chosen ? &missing : nullptr);
+    if (chosen == calendars.end()) return;
+    const QString failure = vdir::writeEvents(chosen->path, missing);
+    if (!failure.isEmpty()) logLine(QStringLiteral("Tarvanel: calendar sync failed: ") + failure);
+}
+
+bool syncIfNeeded(const Config& cfg, const QDateTime& now, const QString& today,
+                  QString& calendarSyncedDay) {
+    if (!cfg.isOn(cfg.calendarSync, false) || calendarSyncedDay == today) return false;
+    calendarSyncedDay = today;
+    sync(cfg, now);
+    return true;
+}
+
+bool syncAfterSave(const Config& before, const Config& after, const QDateTime& now) {
+    if (!before.isOn(before.calendarSync, false) && !after.isOn(after.calendarSync, false))
+        return false;
+    sync(after, now);
+    return true;
+}
+
+} // namespace tarvanel::PrayerCalendar

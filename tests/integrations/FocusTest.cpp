@@ -1,0 +1,78 @@
+// Focus scripts: run beside the event loop, failures and hangs logged, ready-made pairs.
+#include "integrations/FocusShortcuts.h"
+#include "records/Log.h"
+#include "records/StateFiles.h"
+#include "support/TestEnv.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QProcess>
+
+using namespace tarvanel;
+namespace Focus = tarvanel::FocusShortcuts;
+
+class FocusTest : public test::ScratchTest {
+protected:
+    void SetUp() override {
+        ScratchTest::SetUp();
+        setLogSink([this](const QString& line) { logs << line; });
+    }
+    static void script(const QString& name, const QByteArray& body) {
+        test::writeFile(Focus::folder() + '/' + name, "#!/bin/sh\n" + body + "\n", true);
+    }
+    // Lets the event loop run until `done` holds (10 s at most).
+    static bool waitFor(const std::function<bool()>& done) {
+        const QDeadlineTimer deadline(10000);
+        while (!done() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        return done();
+    }
+    QStringList logs;
+    QObject owner;
+};
+
+TEST_F(FocusTest, ScriptsRunBesideTheLoopAndFailuresAndHangsAreLogged) {
+    const QString runs = test::scratchHome() + "/runs";
+    script(Focus::onName(), "sleep 1; echo on >> '" + runs.toUtf8() + "'");
+    EXPECT_FALSE(Focus::installed()); // only one of the pair
+    script(Focus::offName(), "echo off >> '" + runs.toUtf8() + "'; exit 1");
+    EXPECT_TRUE(Focus::installed());
+
+    Focus::run(true, &owner);
+    Focus::run(false, &owner);
+    EXPECT_FALSE(readWholeFile(runs).value_or("").contains("on")); // returned before it ran
+    ASSERT_TRUE(waitFor([&] { return readWholeFile(runs).value_or("").contains("on"); }));
+    EXPECT_EQ(readWholeFile(runs).value(), "off\non\n");
+    EXPECT_EQ(logs, QStringList{"Tarvanel: shortcut \"Tarvanel Focus Off\" failed (1)"});
+
+    script(Focus::onName(), "exec sleep 30");
+    Focus::run(true, &owner, 300);
+    ASSERT_TRUE(waitFor([&] { return logs.size() == 2; }));
+    EXPECT_EQ(logs.last(), "Tarvanel: shortcut \"Tarvanel Focus On\" failed (-1)");
+}
+
+TEST_F(FocusTest, EachTemplateWritesAPrivateRunnablePair) {
+    const QByteArray saved = qgetenv("XDG_CURRENT_DESKTOP");
+    for (const auto& [session, key] : {std::pair{"ubuntu:GNOME", "GNOME"},
+                                       {"X-Cinnamon", "Cinnamon"},
+                                       {"XFCE", "XFCE"},
+                                       {"KDE", ""}}) {
+        qputenv("XDG_CURRENT_DESKTOP", session);
+        EXPECT_EQ(Focus::currentDesktop(), key) << session;
+    }
+    qputenv("XDG_CURRENT_DESKTOP", saved);
+
+    EXPECT_EQ(Focus::createFor("KDE"), Focus::CreateResult::unknownDesktop);
+    EXPECT_TRUE(QFileInfo(Focus::folder()).isDir()); // opened for the user to fill
+    EXPECT_FALSE(Focus::installed());
+    for (const Focus::Template& t : Focus::templates()) {
+        ASSERT_EQ(Focus::createFor(t.desktop), Focus::CreateResult::written)
+            << t.desktop.toStdString();
+        EXPECT_TRUE(Focus::installed());
+        const QString on = Focus::folder() + '/' + Focus::onName();
+        EXPECT_EQ(QFileInfo(on).permissions() & 0x7077, QFile::Permissions(0x7000)); // owner only
+        EXPECT_TRUE(readWholeFile(on)->contains("\nexec " + t.onCommand.toUtf8() + "\n"));
+        EXPECT_EQ(QProcess::execute("sh", {"-n", on}), 0) << t.desktop.toStdString();
+    }
+}

@@ -30,18 +30,19 @@ void BM_SyncAmongFiveThousandEvents(benchmark::State& state) {
         for (int i = 0; i < 1000; ++i) {
             const QDateTime start = now.addSecs(qint64(i % 300) * 3600 - 86400);
             const QByteArray uid = QStringLiteral("event-%1-%2").arg(c).arg(i).toUtf8();
-            writeFilePlain(folder + '/' + uid + ".ics",
-                           "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//bench//EN\r\n"
-                           "BEGIN:VEVENT\r\nUID:" +
-                               uid +
-                               "\r\nDTSTAMP:20251101T000000Z\r\n"
-                               "DTSTART:" +
-                               start.toString("yyyyMMddTHHmmssZ").toUtf8() + "\r\nDTEND:" +
-                               start.addSecs(1800).toString("yyyyMMddTHHmmssZ").toUtf8() +
-                               "\r\nSUMMARY:Meeting " + uid +
-                               "\r\nDESCRIPTION:Agenda: budget\\, hiring\\, the roadmap for next "
-                               "quarter and anything else that comes up\r\n"
-                               " during the week.\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
+            writeFileAtomically(
+                folder + '/' + uid + ".ics",
+                "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//bench//EN\r\n"
+                "BEGIN:VEVENT\r\nUID:" +
+                    uid +
+                    "\r\nDTSTAMP:20251101T000000Z\r\n"
+                    "DTSTART:" +
+                    start.toString("yyyyMMddTHHmmssZ").toUtf8() +
+                    "\r\nDTEND:" + start.addSecs(1800).toString("yyyyMMddTHHmmssZ").toUtf8() +
+                    "\r\nSUMMARY:Meeting " + uid +
+                    "\r\nDESCRIPTION:Agenda: budget\\, hiring\\, the roadmap for next "
+                    "quarter and anything else that comes up\r\n"
+                    " during the week.\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
         }
     }
     Config cfg;

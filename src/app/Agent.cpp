@@ -111,8 +111,6 @@ bool launchedByAgent() {
     return qEnvironmentVariable("TARVANEL_AGENT") == QLatin1String(appLabel);
 }
 
-void handOffToAgent() {}
-
 bool acquireInstanceLock() {
     if (instanceLockFD >= 0) return true;
     ensureSupportDir();

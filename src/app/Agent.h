@@ -81,8 +81,6 @@ InstallOutcome installAgent(); // waits: the --install-agent command
 // ~/.local/bin. `finish` gets the exit status. Without a display `platform` is null: the
 // questions are logged and answered with their last button.
 void handOffToAgent(Platform* platform, std::function<void(int status)> finish);
-// Obsolete: the hand-off now runs before the controller exists. Does nothing.
-void handOffToAgent();
 
 // Absent when cancelled; otherwise whether to delete the user's data too.
 std::optional<bool> confirmUninstall(Platform& platform, const QString& extra);

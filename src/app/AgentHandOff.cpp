@@ -86,7 +86,7 @@ private:
     void installHere() {
         const QString marker = showSettingsMarker();
         ensureSupportDir();
-        writeFilePlain(marker, {});
+        writeFileAtomically(marker, {});
         installAgent(toolsBesideEventLoop(this), [this, marker](const InstallOutcome& out) {
             if (out.ok) return end(0);
             QFile::remove(marker);

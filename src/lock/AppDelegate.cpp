@@ -4,6 +4,7 @@
 
 #include "app/Agent.h"
 #include "engine/LocalTime.h"
+#include "integrations/PrayerCalendar.h"
 #include "lock/DayRules.h"
 #include "lock/Presence.h"
 #include "records/History.h"
@@ -35,7 +36,6 @@ void AppDelegate::launchFinished() {
     launched_ = true;
     const bool testRun = testLockSeconds_.has_value() || testNudge_;
     if (!testRun) {
-        if (!launchedByAgent()) handOffToAgent();
         if (!acquireInstanceLock()) {
             logLine(QStringLiteral("Tarvanel already running; exiting."));
             platform_.exitProcess(0);
@@ -102,8 +102,10 @@ bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
 
 void AppDelegate::applyConfig(const Config& cfg) {
     saveConfig(cfg);
+    const Config before = config_;
     config_ = cfg;
-    // Calendar blocking is a separate piece of work; its sync on save goes here.
+    // Turning blocking off empties the calendars of our events, so "was on" counts too.
+    if (!testLockSeconds_ && !testNudge_) PrayerCalendar::syncAfterSave(before, cfg, currentTime());
     configStamp_ = FileStamp::of(configPath_); // our own write is not an outside change
     today_.invalidate();
     travel_->clear();

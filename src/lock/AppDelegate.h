@@ -66,7 +66,10 @@ public:
     void applyConfig(const Config& cfg);
     const Config& config() const { return config_; }
     // Forces the schedule to be recomputed at the next tick (timetable import, new location).
-    void invalidateSchedule() { today_.invalidate(); }
+    void invalidateSchedule() {
+        today_.invalidate();
+        calendarSyncedDay_.clear();
+    }
 
     // The lock session. `startLock` with no prayer key (preview, test) records nothing.
     void startLock(const QString& prayer, const QString& displayName, const QDateTime& until);
@@ -143,6 +146,8 @@ private:
     std::optional<DeferredLock> deferred_;
     std::optional<StrictPending> strict_;
     bool focusOn_ = false;
+    QString calendarSyncedDay_; // the day the calendar was last filled; cleared by an import
+    QString configErrorShown_;  // the never-valid settings error the window was opened for
 
     std::optional<double> testLockSeconds_;
     bool testNudge_ = false;

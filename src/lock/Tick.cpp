@@ -1,6 +1,8 @@
 // The one-second tick, the single decision point of the running program, and the road of a
 // lock from its start to what its end records.
 #include "app/Agent.h"
+#include "integrations/FocusShortcuts.h"
+#include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
 #include "lock/DayRules.h"
 #include "lock/Scheduler.h"
@@ -16,20 +18,29 @@ void AppDelegate::tick() {
     const QDateTime now = currentTime();
     if (!now.isValid()) return;
 
-    // 1. Not set up. One stat of the settings file serves this check and the reload.
+    // 1. Not set up: no settings file, or one that has never decoded in this run (a typo must
+    // not lock at the times of 0° N 0° E). One stat serves this check and the reload.
     const FileStamp configStamp = FileStamp::of(configPath_);
-    if (!session_.isLocked() && !testLockSeconds_ && !configStamp.exists) {
+    if (configStamp.exists) reloadIfChanged(configStamp);
+    const std::optional<QString> neverValid =
+        configStamp.exists && !lastGoodConfig() ? lastConfigError() : std::nullopt;
+    if (!session_.isLocked() && !testLockSeconds_ && (!configStamp.exists || neverValid)) {
         setStatusTitle(QStringLiteral("🕌 Set up"), TitleColor::Orange);
+        // Once per error: a user who closes the window is not pestered every second.
+        if (neverValid && *neverValid != configErrorShown_) {
+            configErrorShown_ = *neverValid;
+            openSettings();
+        }
         return;
     }
     // 2–4. Keep the schedule and its inputs current: one stat each for the settings and the
-    // pause/travel file.
+    // pause/travel file; the calendar once a day (never in a dry run).
     travel_->check(config_, now);
-    reloadIfChanged(configStamp);
     modes_.refresh();
     scheduleFor(now);
     const QString dayKey = today_.dayKey();
-    // Calendar blocking is a separate piece of work; its once-a-day sync of dayKey goes here.
+    if (!testLockSeconds_ && !testNudge_)
+        PrayerCalendar::syncIfNeeded(activeConfig(), now, dayKey, calendarSyncedDay_);
 
     // 5. A running lock wins over everything.
     if (session_.isLocked()) {
@@ -110,8 +121,8 @@ void AppDelegate::tick() {
 void AppDelegate::startDueLock(const DeferredLock& due, const std::optional<QString>& partner,
                                const QDateTime& until) {
     if (!session_.start(due.displayName, until, due.key, partner, config_)) return;
-    // Focus shortcuts are a separate piece of work; switching Focus on goes here.
     focusOn_ = config_.isOn(config_.focusShortcuts, false);
+    if (focusOn_) FocusShortcuts::run(true, this);
 }
 
 void AppDelegate::startLock(const QString&, const QString& displayName, const QDateTime& until) {
@@ -120,7 +131,8 @@ void AppDelegate::startLock(const QString&, const QString& displayName, const QD
 
 void AppDelegate::endLock(bool early) {
     const LockSession::Ended ended = session_.close();
-    focusOn_ = false; // Focus shortcuts would be switched off here.
+    if (focusOn_) FocusShortcuts::run(false, this);
+    focusOn_ = false;
     if (ended.key) {
         if (early) {
             completedLocks_.insert(*ended.key);

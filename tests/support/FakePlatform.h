@@ -22,6 +22,7 @@ public:
     QStringList titles; // every distinct title in order
     QStringList sounds; // named sounds, and "file:<path>" for played files
     QList<AlertRequest> alerts;
+    QStringList openedUrls;
     std::optional<int> exitStatus;
     QList<std::function<void()>> posted;
     QList<std::pair<int, std::function<void()>>> timers;
@@ -78,7 +79,7 @@ public:
     std::optional<QString> askSavePath(const QString&) override {
         return modal(savePathAnswers, std::optional<QString>());
     }
-    void openUrl(const QString&) override {}
+    void openUrl(const QString& url) override { openedUrls << url; }
     void openSettingsWindow(bool firstRun) override {
         ++settingsOpened;
         settingsFirstRun = firstRun;

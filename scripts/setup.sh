@@ -10,6 +10,7 @@ packages=(
     gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core fonts-noto-color-emoji tzdata
     libxcb1-dev
     libgtest-dev libgmock-dev libbenchmark-dev
+    libgeonames-dev
     xvfb x11-xserver-utils x11-apps xdotool trayer faketime oathtool zbar-tools imagemagick
     clang libclang-rt-14-dev
 )

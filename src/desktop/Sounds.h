@@ -27,6 +27,7 @@ public:
     void playNamed(const QString& name);
     // False when the file is missing or is not audio; decoding errors found later are logged.
     bool playFile(const QString& path);
+    void stopFile();
 
 private:
     bool start(QMediaPlayer*& player, QAudioOutput*& output, const QString& path);

@@ -12,8 +12,10 @@
 #include "records/StateFiles.h"
 #include "records/TravelLocator.h"
 #include "records/UserDefaults.h"
+#include "settings/CitySearch.h"
 
 #include <QFile>
+#include <QPointer>
 #include <cmath>
 
 namespace tarvanel {
@@ -228,7 +230,27 @@ void AppDelegate::previewLock() {
 
 void AppDelegate::openSettings() {
     if (lockEnd_ && !exitAfterTest_) return;
-    platform_.openSettingsWindow(!configExists());
+    const bool firstRun = !configExists();
+    SettingsServices services;
+    services.clock = clock;
+    services.geocoder = std::make_shared<GeonamesGeocoder>();
+    PrayerSettingsActions actions;
+    QPointer<AppDelegate> self(this);
+    actions.save = [self](const Config& cfg) {
+        if (self) self->applyConfig(cfg);
+    };
+    actions.cancel = [] {};
+    actions.previewLock = [self] {
+        if (self) self->previewLock();
+    };
+    actions.uninstall = [self] {
+        if (self) self->uninstall();
+    };
+    actions.exportHistory = [self] {
+        if (self) self->exportHistory();
+    };
+    platform_.openSettingsWindow(std::make_unique<PrayerSettingsModel>(config_, firstRun, services),
+                                 actions);
 }
 
 void AppDelegate::exportHistory() {

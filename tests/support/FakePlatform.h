@@ -30,6 +30,8 @@ public:
     int settingsOpened = 0;
     bool settingsFirstRun = false;
     bool settingsOpen = false;
+    std::unique_ptr<PrayerSettingsModel> settingsModel; // the model of the last window opened
+    PrayerSettingsActions settingsActions;
     std::optional<int> exitStatus;
     QList<std::function<void()>> posted;
     QList<std::pair<int, std::function<void()>>> timers;
@@ -84,10 +86,13 @@ public:
         return next(savePathAnswers, std::optional<QString>());
     }
     void openUrl(const QString& url) override { openedUrls << url; }
-    void openSettingsWindow(bool firstRun) override {
+    void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
+                            PrayerSettingsActions actions) override {
         ++settingsOpened;
-        settingsFirstRun = firstRun;
+        settingsFirstRun = model && model->firstRun();
         settingsOpen = true;
+        settingsModel = std::move(model);
+        settingsActions = std::move(actions);
     }
     bool settingsWindowOpen() const override { return settingsOpen; }
     void post(std::function<void()> work) override { posted << std::move(work); }

@@ -58,7 +58,7 @@ GuardianSetup::GuardianSetup(PrayerSettingsModel& model, QWidget* parent)
     form->addRow(codeLabel, code_);
     column->addLayout(form);
     PrayerSettingsModel* m = &model_;
-    connect(code_, &QLineEdit::textEdited, m, [m](const QString& t) { m->setGuardianCode(t); });
+    connect(code_, &QLineEdit::textChanged, m, [m](const QString& t) { m->setGuardianCode(t); });
     connect(code_, &QLineEdit::returnPressed, m, [m] { m->confirmGuardian(); });
     column->addWidget(hbox({button(QStringLiteral("Confirm"), [m] { m->confirmGuardian(); }),
                             button(QStringLiteral("Cancel"), [m] { m->cancelGuardian(); })}));

@@ -22,7 +22,7 @@ QLineEdit* coordinateField(SectionContext& c, const QString& label, Field field,
         const double shown = edit->text().toDouble(&ok);
         if (!ok || shown != (m->*get)()) edit->setText(QString::number((m->*get)(), 'f', 4));
     });
-    QObject::connect(edit, &QLineEdit::textEdited, m, [m, set, limit](const QString& text) {
+    QObject::connect(edit, &QLineEdit::textChanged, m, [m, set, limit](const QString& text) {
         bool ok = false;
         const double v = text.trimmed().toDouble(&ok);
         if (ok && std::abs(v) <= limit) (m->*set)(v);

@@ -103,7 +103,8 @@ QLineEdit* boundText(SectionContext& c, const QString& label, Field field,
     watch(*m, edit, {field}, [m, edit, get] {
         if (edit->text() != (m->*get)()) edit->setText((m->*get)());
     });
-    QObject::connect(edit, &QLineEdit::textEdited, m, [m, set](const QString& t) { (m->*set)(t); });
+    QObject::connect(edit, &QLineEdit::textChanged, m,
+                     [m, set](const QString& t) { (m->*set)(t); });
     return edit;
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/Dialogs.h"
 #include "desktop/settings/PrayerSettingsView.h"
+#include "settings/CitySearch.h"
 #include "records/StateFiles.h"
 
 #include <QApplication>
@@ -99,6 +100,7 @@ void QtPlatform::openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
         return;
     }
     if (!model) return;
+    GeonamesGeocoder::warmUp(); // the city table loads while the user reads the window
     model->setSoundPlayer([this](const QString& path) { return sounds_.playFile(path); },
                           [this] { sounds_.stopFile(); });
     const QString title = model->firstRun() ? QStringLiteral("Welcome to Tarvanel")

@@ -63,7 +63,7 @@ QWidget* makeWhenYouPraySection(SectionContext& c) {
     for (int i = 0; i < rows.size(); ++i)
         s->addRow(rows[i].name, prayerRow(c, i, rows[i].name));
 
-    auto* timetable = wrapped(QString());
+    auto* timetable = new QLabel;
     QPushButton* clear = button(QStringLiteral("Clear"), [m] { m->clearTimetable(); });
     watch(*m, timetable, {Field::timetableSummary}, [m, timetable, clear] {
         const auto summary = m->timetableSummary();

@@ -6,6 +6,7 @@ first-run: types a city into "City", presses Find, waits for the found message a
 "Start Tarvanel". guardian: sets up the guardian code with a code from oathtool.
 Exit status 0 on success; the reason on standard error otherwise.
 """
+import os
 import subprocess
 import sys
 import time
@@ -51,9 +52,10 @@ def find_text(root, prefix):
 
 def press(node):
     action = node.queryAction()
-    for i in range(action.nActions):
-        if action.getName(i) in ("Press", "press", "click", "SetFocus"):
-            action.doAction(i)
+    names = [action.getName(i) for i in range(action.nActions)]
+    for wanted in ("Press", "press", "click", "Toggle"):
+        if wanted in names:
+            action.doAction(names.index(wanted))
             return
     action.doAction(0)
 
@@ -92,6 +94,19 @@ def guardian():
     set_text(field, code[:3] + " " + code[3:])
     press(wait("Confirm", lambda: find(a, "Confirm", PUSH)))
     wait("the guardian message", lambda: find_text(a, "Guardian code is on."))
+
+    # A preview lock (10 seconds) ends early with the guardian's next code.
+    press(wait("Preview Lock", lambda: find(a, "Preview Lock", PUSH)))
+    log = os.path.join(os.environ["HOME"], "app.log")
+    wait("the preview lock", lambda: "locked for Preview" in open(log).read() or None, 5)
+    started = time.time()
+    time.sleep(1.5)  # the lock takes the keyboard within a second
+    code = subprocess.run(["oathtool", "--totp", "-b", secret.replace(" ", "")],
+                          check=True, capture_output=True, text=True).stdout.strip()
+    subprocess.run(["xdotool", "type", code], check=True)
+    wait("the unlock", lambda: "unlocked after Preview" in open(log).read() or None, 6)
+    if time.time() - started > 8:
+        fail("the preview ran its full time; the code did not end it")
 
 
 if __name__ == "__main__":

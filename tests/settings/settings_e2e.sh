@@ -1,11 +1,12 @@
 #!/bin/sh
 # The settings window of the real program on its own Xvfb display, driven over AT-SPI.
 # Usage: settings_e2e.sh TARVANEL_BINARY first-run|guardian
+# first-run: find a city and start; guardian: set up the code, then end a preview lock with it.
 set -u
 binary="$1"
 scenario="$2"
 here="$(cd "$(dirname "$0")" && pwd)"
-for tool in Xvfb dbus-run-session /usr/libexec/at-spi-bus-launcher /usr/bin/python3 oathtool; do
+for tool in Xvfb dbus-run-session /usr/libexec/at-spi-bus-launcher /usr/bin/python3 oathtool xdotool; do
     command -v "$tool" >/dev/null 2>&1 || { echo "skipped: $tool missing"; exit 77; }
 done
 /usr/bin/python3 -c 'import pyatspi' 2>/dev/null || { echo "skipped: python3-pyatspi missing"; exit 77; }
@@ -61,6 +62,7 @@ PY
     ;;
 guardian)
     [ -s "$HOME/.tarvanel/.guardian" ] || { echo "no guardian secret saved"; exit 1; }
+    grep -q "unlocked after Preview" "$HOME/app.log" || { cat "$HOME/app.log"; exit 1; }
     ;;
 esac
 echo ok

@@ -22,9 +22,9 @@ double cutToFourDecimals(double v) {
     return std::trunc(v * 10000.0) / 10000.0;
 }
 
-// Runs `work` on the main thread unless `model` has gone away by then.
-void onMainThread(PrayerSettingsModel* model, std::function<void()> work) {
-    QPointer<PrayerSettingsModel> weak(model);
+// Runs `work` on the main thread unless the model has gone away by then. The weak pointer is
+// made on the main thread, before any other thread is involved.
+void onMainThread(const QPointer<PrayerSettingsModel>& weak, std::function<void()> work) {
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
         [weak, work = std::move(work)] {
@@ -50,7 +50,7 @@ void PrayerSettingsModel::search() {
     setSearchMessage(QStringLiteral("Searching…"));
     if (!services_.geocoder) {
         // No geocoder: answer as "nothing found", still later, like a real one.
-        onMainThread(this, [this, text] { answerSearch(text, {}); });
+        onMainThread(QPointer<PrayerSettingsModel>(this), [this, text] { answerSearch(text, {}); });
         return;
     }
     services_.geocoder->geocode(
@@ -145,19 +145,20 @@ void PrayerSettingsModel::calendarToggled(bool on) {
     }
     if (!services_.requestCalendarAccess) return;
     setCalendarMessage(QStringLiteral("Asking for Calendar access…"));
-    services_.requestCalendarAccess([this](bool granted) {
-        onMainThread(this, [this, granted] {
-            if (granted) {
-                setCalendarMessage(QString());
-                loadCalendars();
-            } else {
-                setCalendarSync(false);
-                setCalendarMessage(QStringLiteral(
-                    "Calendar access is off. Turn on Tarvanel in System Settings → Privacy & "
-                    "Security → Calendars."));
-            }
+    services_.requestCalendarAccess(
+        [this, weak = QPointer<PrayerSettingsModel>(this)](bool granted) {
+            onMainThread(weak, [this, granted] {
+                if (granted) {
+                    setCalendarMessage(QString());
+                    loadCalendars();
+                } else {
+                    setCalendarSync(false);
+                    setCalendarMessage(QStringLiteral(
+                        "Calendar access is off. Turn on Tarvanel in System Settings → Privacy & "
+                        "Security → Calendars."));
+                }
+            });
         });
-    });
 }
 
 void PrayerSettingsModel::loadCalendars() {
@@ -168,9 +169,10 @@ void PrayerSettingsModel::loadCalendars() {
 
 void PrayerSettingsModel::checkFocus() {
     if (!services_.focusInstalled) return;
-    QThreadPool::globalInstance()->start([this, installed = services_.focusInstalled] {
+    QPointer<PrayerSettingsModel> weak(this);
+    QThreadPool::globalInstance()->start([this, weak, installed = services_.focusInstalled] {
         const bool both = installed();
-        onMainThread(this, [this, both] { setFocusInstalled(both); });
+        onMainThread(weak, [this, both] { setFocusInstalled(both); });
     });
 }
 

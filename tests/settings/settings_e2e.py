@@ -3,7 +3,8 @@
 
 Usage: settings_e2e.py first-run HOME | guardian HOME
 first-run: types a city into "City", presses Find, waits for the found message and presses
-"Start Tarvanel". guardian: sets up the guardian code with a code from oathtool.
+"Start Tarvanel". guardian: sets up the guardian code with a code from oathtool, then ends a
+preview lock by typing the next code.
 Exit status 0 on success; the reason on standard error otherwise.
 """
 import os

@@ -7,9 +7,9 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <cstdio>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
+#include <cstdio>
 
 using namespace tarvanel;
 
@@ -45,6 +45,23 @@ static void BM_SettingsWindowFirstPaint(benchmark::State& state) {
     qApp->removeEventFilter(&watch);
 }
 BENCHMARK(BM_SettingsWindowFirstPaint)->Unit(benchmark::kMillisecond);
+
+static void BM_PreviewAfterAnEdit(benchmark::State& state) {
+    // One edit with the window open: the model notifies, the Today table and the header are
+    // rebuilt from a fresh preview (all of it synchronous, before the next frame).
+    Config cfg;
+    cfg.latitude = 51.5074;
+    cfg.longitude = -0.1278;
+    SettingsWindow host(nullptr);
+    auto* view = new PrayerSettingsView(std::make_unique<PrayerSettingsModel>(cfg, false), {});
+    PrayerSettingsModel& model = view->model();
+    host.show(QStringLiteral("Tarvanel Settings"), QSize(620, 780), view);
+    QCoreApplication::processEvents();
+    for (auto _ : state)
+        model.setHanafi(!model.hanafi());
+    host.close();
+}
+BENCHMARK(BM_PreviewAfterAnEdit)->Unit(benchmark::kMillisecond);
 
 static void BM_CitySearchAnswered(benchmark::State& state) {
     GeonamesGeocoder geocoder;

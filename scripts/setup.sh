@@ -11,6 +11,7 @@ packages=(
     libxcb1-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     libgeonames-dev
+    python3-pyatspi at-spi2-core dbus-daemon
     xvfb x11-xserver-utils x11-apps xdotool trayer faketime oathtool zbar-tools imagemagick
     clang libclang-rt-14-dev
 )

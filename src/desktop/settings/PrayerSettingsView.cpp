@@ -42,6 +42,7 @@ PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> mode
     auto* scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus); // Tab goes from the last button straight to "City"
     auto* form = new QWidget;
     auto* sections = new QVBoxLayout(form);
     sections->setContentsMargins(20, 4, 20, 12);

@@ -36,7 +36,7 @@ public:
     }
     std::optional<QString> askSavePath(const QString&) override { return std::nullopt; }
     void openUrl(const QString&) override {}
-    void openSettingsWindow(bool) override {}
+    void openSettingsWindow(std::unique_ptr<PrayerSettingsModel>, PrayerSettingsActions) override {}
     bool settingsWindowOpen() const override { return false; }
     void post(std::function<void()> work) override { posted << std::move(work); }
     void singleShot(int, std::function<void()>) override {}

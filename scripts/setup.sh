@@ -10,6 +10,8 @@ packages=(
     gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core fonts-noto-color-emoji tzdata
     libxcb1-dev
     libgtest-dev libgmock-dev libbenchmark-dev
+    libgeonames-dev
+    python3-pyatspi at-spi2-core dbus-daemon
     xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
     clang libclang-rt-14-dev
     dbus-daemon desktop-file-utils systemd

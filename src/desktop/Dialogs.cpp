@@ -108,19 +108,4 @@ std::optional<QString> runSavePanel(const QString& proposedName) {
     return path;
 }
 
-QString SettingsNote::text(const QString& configPath) {
-    return QStringLiteral("The settings window is not available yet; edit ") + configPath +
-           QStringLiteral(" instead.");
-}
-
-SettingsNote::SettingsNote(bool firstRun, const QString& configPath) {
-    setWindowTitle(firstRun ? QStringLiteral("Welcome to Tarvanel")
-                            : QStringLiteral("Tarvanel Settings"));
-    setAttribute(Qt::WA_DeleteOnClose);
-    auto* column = new QVBoxLayout(this);
-    auto* label = new QLabel(text(configPath), this);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    column->addWidget(label);
-}
-
 } // namespace tarvanel

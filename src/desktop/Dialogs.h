@@ -33,12 +33,4 @@ std::optional<QDate> runDateQuestion(const AlertRequest& request, const QDate& m
 
 std::optional<QString> runSavePanel(const QString& proposedName);
 
-// Stands in for the settings window: one line naming the settings file.
-class SettingsNote : public QWidget {
-    Q_OBJECT
-public:
-    SettingsNote(bool firstRun, const QString& configPath);
-    static QString text(const QString& configPath);
-};
-
 } // namespace tarvanel

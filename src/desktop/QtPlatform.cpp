@@ -1,6 +1,8 @@
 #include "desktop/QtPlatform.h"
 
 #include "desktop/Dialogs.h"
+#include "desktop/settings/PrayerSettingsView.h"
+#include "settings/CitySearch.h"
 #include "records/StateFiles.h"
 
 #include <QApplication>
@@ -14,7 +16,10 @@
 
 namespace tarvanel {
 
-QtPlatform::QtPlatform(QObject* parent) : QObject(parent) {
+QtPlatform::QtPlatform(QObject* parent)
+    : QObject(parent), settings_([this] {
+          if (events_) events_->showSettingsRequested();
+      }) {
     connect(&lock_, &LockWindows::screensChanged, this, [this] {
         if (events_) events_->screensChanged();
     });
@@ -88,17 +93,24 @@ void QtPlatform::openUrl(const QString& url) {
     QDesktopServices::openUrl(target);
 }
 
-void QtPlatform::openSettingsWindow(bool firstRun) {
-    if (settingsNote_) settingsNote_->close();
-    auto* note = new SettingsNote(firstRun, configURL());
-    settingsNote_ = note;
-    note->show();
-    note->raise();
-    note->activateWindow();
+void QtPlatform::openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
+                                    PrayerSettingsActions actions) {
+    if (settings_.isOpen()) { // keep the edits in progress
+        settings_.raise();
+        return;
+    }
+    if (!model) return;
+    GeonamesGeocoder::warmUp(); // the city table loads while the user reads the window
+    model->setSoundPlayer([this](const QString& path) { return sounds_.playFile(path); },
+                          [this] { sounds_.stopFile(); });
+    const QString title = model->firstRun() ? QStringLiteral("Welcome to Tarvanel")
+                                            : QStringLiteral("Tarvanel Settings");
+    settings_.show(title, QSize(620, 780),
+                   new PrayerSettingsView(std::move(model), std::move(actions)));
 }
 
 bool QtPlatform::settingsWindowOpen() const {
-    return settingsNote_ && settingsNote_->isVisible();
+    return settings_.isOpen();
 }
 
 void QtPlatform::post(std::function<void()> work) {

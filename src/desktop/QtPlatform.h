@@ -4,6 +4,7 @@
 #include "desktop/LockWindows.h"
 #include "desktop/Sounds.h"
 #include "desktop/TrayIcon.h"
+#include "desktop/settings/SettingsWindow.h"
 #include "platform/Platform.h"
 
 #include <QObject>
@@ -39,7 +40,8 @@ public:
                                  const QDate& initial) override;
     std::optional<QString> askSavePath(const QString& proposedName) override;
     void openUrl(const QString& url) override;
-    void openSettingsWindow(bool firstRun) override;
+    void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
+                            PrayerSettingsActions actions) override;
     bool settingsWindowOpen() const override;
     void post(std::function<void()> work) override;
     void singleShot(int milliseconds, std::function<void()> work) override;
@@ -51,7 +53,7 @@ private:
     BannerPanel banner_;
     TrayIcon tray_;
     Sounds sounds_;
-    QPointer<QWidget> settingsNote_;
+    SettingsWindow settings_;
 };
 
 } // namespace tarvanel

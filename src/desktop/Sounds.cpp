@@ -89,6 +89,10 @@ void Sounds::playNamed(const QString& name) {
     start(chime_, chimeOut_, *file);
 }
 
+void Sounds::stopFile() {
+    if (adhan_) adhan_->stop();
+}
+
 bool Sounds::playFile(const QString& path) {
     if (!looksLikeAudio(path)) return false;
     adhanPending_ = true;

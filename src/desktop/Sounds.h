@@ -29,6 +29,7 @@ public:
     // False when the file is missing or is not audio. A file the player then fails to decode
     // is logged and the "Blow" chime plays in its place, so a lock never starts silent.
     bool playFile(const QString& path);
+    void stopFile();
 
 signals:
     // A player was handed this file.

@@ -5,6 +5,7 @@
 #include "app/Agent.h"
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
+#include "timetable/Timetable.h"
 #include "lock/DayRules.h"
 #include "lock/Presence.h"
 #include "records/History.h"
@@ -25,6 +26,9 @@ AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* par
     travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
         if (self) self->invalidateSchedule();
     };
+    // An import or a cleared timetable changes today's lock times and the calendar's events.
+    connect(&timetableChangedNote(), &TimetableChangedNote::posted, this,
+            [this] { invalidateSchedule(); });
     if (cl.testLockSeconds) testLockSeconds_ = cl.testLockSeconds;
     testNudge_ = cl.testNudge;
 }

@@ -78,6 +78,8 @@ public:
     // Menu commands, also reached from the settings window. Those that change a mode ask
     // through the platform, write the store, then tick so that the title follows at once.
     void openSettings();
+    // The import window, with `file` already read when given.
+    void openTimetableImport(const QString& file = {});
     void markPrayed(int tag);
     void previewLock();
     void exportHistory();

@@ -2,14 +2,21 @@
 // a mode asks through the platform, writes the store, and ticks so that the title follows.
 #include "app/Agent.h"
 #include "engine/LocalTime.h"
+#include "integrations/FocusShortcuts.h"
+#include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
+#include "settings/CitySearch.h"
+#include "settings/PrayerSettingsModel.h"
 #include "records/Excused.h"
 #include "records/History.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
 #include "records/TravelLocator.h"
+#include "timetable/Timetable.h"
 
+#include <QDir>
 #include <QFile>
+#include <QUrl>
 
 namespace tarvanel {
 
@@ -81,7 +88,56 @@ void AppDelegate::previewLock() {
 
 void AppDelegate::openSettings() {
     if (session_.isLocked() && !exitAfterTest_) return;
-    platform_.openSettingsWindow(!QFile::exists(configURL()));
+    SettingsServices services;
+    services.clock = clock;
+    services.geocoder = std::make_shared<GeonamesGeocoder>();
+    services.writableCalendars = [] {
+        QList<CalendarChoice> choices;
+        for (const PrayerCalendar::Calendar& c : PrayerCalendar::writableCalendars())
+            choices.append({c.identifier, c.title, c.sourceTitle});
+        return choices;
+    };
+    services.calendarAuthorized = &PrayerCalendar::authorized;
+    QPointer<AppDelegate> self(this);
+    services.requestCalendarAccess = [self](std::function<void(bool)> done) {
+        if (self) PrayerCalendar::requestAccess(self->platform_, std::move(done));
+    };
+    services.focusInstalled = &FocusShortcuts::installed;
+    services.runFocus = [self](bool on) {
+        if (self) FocusShortcuts::run(on, self);
+    };
+    // No Shortcuts app here: make the pair for this desktop when there is none, then show
+    // the folder so the user can read or change them.
+    services.openShortcuts = [self] {
+        if (!FocusShortcuts::installed()) FocusShortcuts::createFor(FocusShortcuts::currentDesktop());
+        QDir().mkpath(FocusShortcuts::folder());
+        if (self)
+            self->platform_.openUrl(QUrl::fromLocalFile(FocusShortcuts::folder()).toString());
+    };
+    services.playSound = [self](const QString& path) {
+        return self && self->platform_.playSoundFile(path);
+    };
+
+    PrayerSettingsActions actions;
+    actions.save = [self](const Config& cfg) {
+        if (self) self->applyConfig(cfg);
+    };
+    actions.cancel = [] {};
+    actions.previewLock = weak(&AppDelegate::previewLock);
+    actions.uninstall = weak(&AppDelegate::uninstall);
+    actions.exportHistory = weak(&AppDelegate::exportHistory);
+    actions.importTimetable = weak(&AppDelegate::openTimetableImport);
+    auto model = std::make_unique<PrayerSettingsModel>(config_, !QFile::exists(configURL()),
+                                                       std::move(services));
+    platform_.openSettingsWindow(std::move(model), std::move(actions));
+}
+
+void AppDelegate::openTimetableImport(const QString& file) {
+    QPointer<AppDelegate> self(this);
+    platform_.openTimetableImport(file, [self] {
+        TimetableChangedNote::post(); // the schedule and the calendar follow the new times
+        if (self) self->tick();
+    });
 }
 
 void AppDelegate::exportHistory() {

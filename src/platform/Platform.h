@@ -3,12 +3,14 @@
 // Platform renders and asks the user. The desktop layer (Qt Widgets) implements it for real;
 // tests use a fake that records calls and answers questions as scripted.
 #include "engine/Quotes.h"
+#include "settings/PrayerSettingsModel.h"
 
 #include <QDate>
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace tarvanel {
@@ -82,8 +84,10 @@ public:
     virtual std::optional<QString> askSavePath(const QString& proposedName) = 0;
     virtual void openUrl(const QString& url) = 0;
 
-    // Settings window (first run or not); the settings themselves are a later piece of work.
-    virtual void openSettingsWindow(bool firstRun) = 0;
+    // Settings window showing `model` (its firstRun() decides the greeting); the buttons call
+    // `actions`. A window already open is raised instead and the new model dropped.
+    virtual void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
+                                    PrayerSettingsActions actions) = 0;
     virtual bool settingsWindowOpen() const = 0;
 
     // Event loop services: run after the current event, run once after a delay, end the

@@ -13,6 +13,7 @@
 #include <QDateEdit>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -153,7 +154,7 @@ TEST(DateQuestion, NeverEarlierThanTheMinimum) {
     EXPECT_EQ(runAnswered(question, [&] { question.buttons()[0]->click(); }), QDialog::Accepted);
 }
 
-TEST(QtPlatform, EventLoopServicesAndOneSettingsNote) {
+TEST(QtPlatform, EventLoopServicesAndOneSettingsWindow) {
     QtPlatform platform;
     QStringList order;
     platform.post([&] { order << "posted"; });
@@ -164,15 +165,16 @@ TEST(QtPlatform, EventLoopServicesAndOneSettingsNote) {
 
     EXPECT_EQ(platform.screenCount(), 2);
     EXPECT_FALSE(platform.settingsWindowOpen());
-    platform.openSettingsWindow(false);
+    platform.openSettingsWindow(std::make_unique<PrayerSettingsModel>(Config(), true), {});
     EXPECT_TRUE(platform.settingsWindowOpen());
-    platform.openSettingsWindow(true); // replaces, never stacks
+    // A second request raises the open window and keeps its edits.
+    platform.openSettingsWindow(std::make_unique<PrayerSettingsModel>(Config(), false), {});
     test::pump(20);
-    QList<QWidget*> notes = QApplication::topLevelWidgets();
-    notes.removeIf([](QWidget* w) { return !qobject_cast<SettingsNote*>(w) || !w->isVisible(); });
-    ASSERT_EQ(notes.size(), 1);
-    EXPECT_EQ(notes[0]->windowTitle(), "Welcome to Tarvanel");
-    const QString text = SettingsNote::text("/home/u/.tarvanel/config.json");
-    EXPECT_TRUE(text.contains("/home/u/.tarvanel/config.json"));
-    EXPECT_FALSE(text.contains('\n'));
+    QList<QWidget*> windows = QApplication::topLevelWidgets();
+    windows.removeIf([](QWidget* w) { return !qobject_cast<QMainWindow*>(w) || !w->isVisible(); });
+    ASSERT_EQ(windows.size(), 1);
+    EXPECT_EQ(windows[0]->windowTitle(), "Welcome to Tarvanel");
+    windows[0]->close();
+    test::pump(20);
+    EXPECT_FALSE(platform.settingsWindowOpen());
 }

@@ -23,6 +23,8 @@ public:
     QStringList sounds; // named sounds, and "file:<path>" for played files
     QList<AlertRequest> alerts;
     QStringList openedUrls;
+    std::unique_ptr<PrayerSettingsModel> settingsModel; // the model of the last window opened
+    PrayerSettingsActions settingsActions;
     std::optional<int> exitStatus;
     QList<std::function<void()>> posted;
     QList<std::pair<int, std::function<void()>>> timers;
@@ -80,10 +82,13 @@ public:
         return modal(savePathAnswers, std::optional<QString>());
     }
     void openUrl(const QString& url) override { openedUrls << url; }
-    void openSettingsWindow(bool firstRun) override {
+    void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
+                            PrayerSettingsActions actions) override {
         ++settingsOpened;
-        settingsFirstRun = firstRun;
+        settingsFirstRun = model && model->firstRun();
         settingsOpen = true;
+        settingsModel = std::move(model);
+        settingsActions = std::move(actions);
     }
     bool settingsWindowOpen() const override { return settingsOpen; }
     void post(std::function<void()> work) override { posted << std::move(work); }

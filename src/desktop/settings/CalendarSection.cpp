@@ -1,0 +1,55 @@
+// 9. Calendar: each lock as a busy event in a calendar the user picks.
+#include "desktop/settings/SectionKit.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+
+namespace tarvanel {
+
+QWidget* makeCalendarSection(SectionContext& c) {
+    auto* s = new Section(
+        QStringLiteral("Calendar"),
+        QStringLiteral("Adds each lock as a Busy event for the next 7 days, so colleagues see "
+                       "you're busy and don't book meetings over salah. Pick your work calendar. "
+                       "Turning this off removes the events.") +
+            QStringLiteral("\nOn Linux the calendars are the folders under "
+                           "~/.local/share/calendars (khal and vdirsyncer use them too)."));
+    PrayerSettingsModel* m = &c.model;
+    auto* toggle = new QCheckBox(QStringLiteral("Block prayer times in my calendar"));
+    toggle->setAccessibleName(toggle->text());
+    watch(*m, toggle, {Field::calendarSync},
+          [m, toggle] { toggle->setChecked(m->calendarSync()); });
+    // Only a click by the user asks for access; the model's own changes just show.
+    QObject::connect(toggle, &QCheckBox::clicked, m, [m](bool on) { m->calendarToggled(on); });
+    s->addRow(toggle);
+
+    auto* picker = new QComboBox;
+    watch(*m, picker, {Field::calendars, Field::calendarID}, [m, picker] {
+        picker->clear();
+        picker->addItem(QStringLiteral("None"), QString());
+        for (const CalendarChoice& cal : m->calendars())
+            picker->addItem(cal.source.isEmpty()
+                                ? cal.title
+                                : cal.title + QStringLiteral(" (") + cal.source + QLatin1Char(')'),
+                            cal.id);
+        const int i = picker->findData(m->calendarID());
+        if (i < 0 && !m->calendarID().isEmpty())
+            picker->addItem(m->calendarID(), m->calendarID()); // not offered (yet): keep it
+        picker->setCurrentIndex(std::max(0, picker->findData(m->calendarID())));
+    });
+    QObject::connect(picker, &QComboBox::activated, m,
+                     [m, picker](int i) { m->setCalendarID(picker->itemData(i).toString()); });
+    s->addRow(QStringLiteral("Calendar"), picker);
+    s->addRow(statusLabel(c, Field::calendarMessage, &PrayerSettingsModel::calendarMessage));
+    // The access message names a macOS pane; say where access comes from here.
+    auto* linuxWay = wrapped(QStringLiteral(
+        "On Linux, access means a writable ~/.local/share/calendars folder: create it, or let "
+        "vdirsyncer create it when it syncs your calendars."));
+    watch(*m, linuxWay, {Field::calendarMessage}, [m, linuxWay] {
+        linuxWay->setVisible(m->calendarMessage().contains(QLatin1String("System Settings")));
+    });
+    s->addRow(linuxWay);
+    return s;
+}
+
+} // namespace tarvanel

@@ -1,0 +1,51 @@
+// 4. Lock: its length, lead, reminders and the wait for calls.
+#include "desktop/settings/SectionKit.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QSpinBox>
+
+namespace tarvanel {
+
+QString lockFooter(bool guardianSet) {
+    return QStringLiteral("During a lock every screen goes black, and the Dock, ⌘-Tab and Force "
+                          "Quit are switched off. There's no way to end it early") +
+           (guardianSet ? QStringLiteral(" except your guardian's code") : QString()) +
+           QStringLiteral(". If your mic or camera is in use when a lock is due, it waits for the "
+                          "call to end, then locks for the full time. With “Did you pray?”, "
+                          "answering Not Yet locks again for 5 minutes. If your computer is "
+                          "asleep, it locks on wake only while still inside the lock window.") +
+           QStringLiteral("\nOn Linux the lock covers every screen and holds the keyboard and "
+                          "mouse, so the panel and window switching can't be reached.");
+}
+
+QWidget* makeLockSection(SectionContext& c) {
+    auto* s = new Section(QStringLiteral("Lock"));
+    PrayerSettingsModel* m = &c.model;
+    s->addRow(QStringLiteral("Lock lasts"),
+              boundStepper(c, QStringLiteral("Lock lasts"), Field::lockMinutes,
+                           &PrayerSettingsModel::lockMinutes, &PrayerSettingsModel::setLockMinutes,
+                           3, 60, 1, QStringLiteral(" min")));
+    s->addRow(QStringLiteral("Lock starts before prayer"),
+              boundStepper(c, QStringLiteral("Lock starts before prayer"), Field::lockLead,
+                           &PrayerSettingsModel::lockLead, &PrayerSettingsModel::setLockLead, 0, 30,
+                           1, QStringLiteral(" min")));
+    s->addRow(QStringLiteral("Reminders (minutes before)"),
+              boundText(c, QStringLiteral("Reminders (minutes before)"), Field::nudges,
+                        &PrayerSettingsModel::nudges, &PrayerSettingsModel::setNudges,
+                        QStringLiteral("20, 10, 5, 2")));
+    s->addRow(QStringLiteral("Wait for a call to end"),
+              boundStepper(c, QStringLiteral("Wait for a call to end"), Field::callGrace,
+                           &PrayerSettingsModel::callGrace, &PrayerSettingsModel::setCallGrace, 0,
+                           60, 5, QStringLiteral(" min")));
+    s->addRow(boundToggle(c, QStringLiteral("Ask “Did you pray?” after each lock"), Field::strict,
+                          &PrayerSettingsModel::strict, &PrayerSettingsModel::setStrict));
+    watch(*m, s, {Field::guardianSet}, [m, s] {
+        s->footer()->setText(lockFooter(m->guardianSet()));
+        s->footer()->setAccessibleName(s->footer()->text());
+        s->footer()->show();
+    });
+    return s;
+}
+
+} // namespace tarvanel

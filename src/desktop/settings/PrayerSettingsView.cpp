@@ -1,0 +1,160 @@
+#include "desktop/settings/PrayerSettingsView.h"
+
+#include "desktop/TrayIcon.h"
+#include "desktop/settings/SectionKit.h"
+#include "engine/LocalTime.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace tarvanel {
+
+QString headerStatus(const PrayerSettingsModel& model) {
+    if (!model.hasLocation()) return QStringLiteral("Find your city to begin");
+    QString text =
+        model.locationName().isEmpty() ? QStringLiteral("Your location") : model.locationName();
+    const QDateTime now = model.services().clock();
+    for (const PreviewEntry& e : model.preview()) {
+        if (e.name == QLatin1String("Sunrise") || !e.lock || *e.lock <= now) continue;
+        text += QStringLiteral("  ·  ") + e.name + QStringLiteral(" locks at ") +
+                formatLocal(*e.lock, QStringLiteral("h:mm AP"));
+        break;
+    }
+    return text;
+}
+
+QString saveTitle(bool firstRun) {
+    return firstRun ? QStringLiteral("Start Tarvanel") : QStringLiteral("Save");
+}
+
+PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> model,
+                                       PrayerSettingsActions actions, QWidget* parent)
+    : QWidget(parent), model_(std::move(model)), actions_(std::move(actions)) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeHeader());
+
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus); // Tab goes from the last button straight to "City"
+    auto* form = new QWidget;
+    auto* sections = new QVBoxLayout(form);
+    sections->setContentsMargins(20, 4, 20, 12);
+    SectionContext ctx{*model_, actions_, this};
+    using Maker = QWidget* (*)(SectionContext&);
+    for (Maker make : {makeLocationSection, makeCalculationSection, makeTodaySection,
+                       makeLockSection, makeWhenYouPraySection, makeJumuahSection,
+                       makeTravelSection, makeAdhanSection, makeCalendarSection, makePhoneSection,
+                       makeEmergencySection, makeHistorySection, makeExtrasSection})
+        sections->addWidget(make(ctx));
+    sections->addStretch(1);
+    scroll->setWidget(form);
+    column->addWidget(scroll, 1);
+    column->addWidget(makeButtonBar());
+}
+
+PrayerSettingsView::~PrayerSettingsView() = default;
+
+QWidget* PrayerSettingsView::makeHeader() {
+    auto* header = new QWidget(this);
+    auto* row = new QHBoxLayout(header);
+    row->setContentsMargins(20, 16, 20, 8);
+    auto* icon = new QLabel(header);
+    icon->setPixmap(QPixmap::fromImage(trayImage(QString(), TitleColor::Label, 56)));
+    icon->setAccessibleName(QStringLiteral("Tarvanel"));
+    row->addWidget(icon, 0, Qt::AlignTop);
+    auto* texts = new QVBoxLayout;
+    const bool first = model_->firstRun();
+    auto* title = new QLabel(
+        first ? QStringLiteral("Welcome to Tarvanel") : QStringLiteral("Tarvanel"), header);
+    QFont big = title->font();
+    big.setPointSizeF(big.pointSizeF() * 1.6);
+    big.setBold(true);
+    title->setFont(big);
+    title->setAccessibleName(title->text());
+    texts->addWidget(title);
+    status_ = new QLabel(header);
+    texts->addWidget(status_);
+    if (first) {
+        auto* tagline = new QLabel(QStringLiteral("Get up and pray, on time"), header);
+        QFont bold = tagline->font();
+        bold.setBold(true);
+        tagline->setFont(bold);
+        tagline->setAccessibleName(tagline->text());
+        texts->addWidget(tagline);
+        texts->addWidget(wrapped(
+            QStringLiteral("At each prayer time Tarvanel turns every screen black for a few "
+                           "minutes so you step away and pray. You get reminders before each "
+                           "lock. Once a lock starts there's no way out until it ends. Find your "
+                           "city to begin."),
+            header));
+    }
+    row->addLayout(texts, 1);
+    PrayerSettingsModel* m = model_.get();
+    QLabel* status = status_;
+    auto update = [m, status] {
+        status->setText(headerStatus(*m));
+        status->setAccessibleName(status->text());
+    };
+    watch(*m, status,
+          {Field::locationName, Field::latitude, Field::longitude, Field::methodID,
+           Field::fajrAngle, Field::ishaAngle, Field::hanafi, Field::lockLead, Field::rows,
+           Field::jumuahEnabled, Field::jumuahTime},
+          update);
+    // The next lock moves on as the day passes.
+    auto* minute = new QTimer(status);
+    connect(minute, &QTimer::timeout, status, update);
+    minute->start(30000);
+    return header;
+}
+
+QWidget* PrayerSettingsView::makeButtonBar() {
+    auto* bar = new QWidget(this);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(20, 8, 20, 14);
+    QPushButton* preview = button(QStringLiteral("Preview Lock"), actions_.previewLock, bar);
+    preview->setToolTip(QStringLiteral("Black out the screen for 10 seconds"));
+    row->addWidget(preview);
+    row->addWidget(button(QStringLiteral("Uninstall…"), actions_.uninstall, bar));
+    row->addStretch(1);
+    row->addWidget(button(
+        QStringLiteral("Cancel"),
+        [this] {
+            if (actions_.cancel) actions_.cancel();
+            closeWindow();
+        },
+        bar));
+    save_ = button(
+        saveTitle(model_->firstRun()),
+        [this] {
+            if (!model_->hasLocation()) return;
+            model_->stopAdhan();
+            if (actions_.save) actions_.save(model_->makeConfig());
+            closeWindow();
+        },
+        bar);
+    save_->setDefault(true);
+    save_->setAutoDefault(true);
+    row->addWidget(save_);
+    PrayerSettingsModel* m = model_.get();
+    QPushButton* save = save_;
+    watch(*m, save, {Field::latitude, Field::longitude}, [m, save] {
+        save->setEnabled(m->hasLocation());
+        save->setToolTip(m->hasLocation()
+                             ? QString()
+                             : QStringLiteral("Find your city or enter coordinates first."));
+    });
+    return bar;
+}
+
+void PrayerSettingsView::closeWindow() {
+    if (QWidget* w = window()) w->close();
+}
+
+} // namespace tarvanel

@@ -1,0 +1,59 @@
+// 3. Today: the preview of today's times with the unsaved edits.
+#include "desktop/settings/SectionKit.h"
+#include "engine/LocalTime.h"
+
+#include <QFormLayout>
+#include <QGridLayout>
+
+namespace tarvanel {
+
+QString shortTime(const QDateTime& instant) {
+    return formatLocal(instant, QStringLiteral("h:mm AP"));
+}
+
+QWidget* makeTodaySection(SectionContext& c) {
+    auto* s = new Section(QStringLiteral("Today"));
+    PrayerSettingsModel* m = &c.model;
+    auto* table = new QWidget;
+    auto* grid = new QGridLayout(table);
+    grid->setContentsMargins(0, 0, 0, 0);
+    s->addRow(table);
+    // Every field the preview reads.
+    watch(*m, table,
+          {Field::latitude, Field::longitude, Field::methodID, Field::fajrAngle, Field::ishaAngle,
+           Field::hanafi, Field::lockLead, Field::rows, Field::jumuahEnabled, Field::jumuahTime},
+          [m, table, grid] {
+              while (QLayoutItem* item = grid->takeAt(0)) {
+                  delete item->widget();
+                  delete item;
+              }
+              const QList<PreviewEntry> entries = m->preview();
+              if (entries.isEmpty()) {
+                  grid->addWidget(
+                      wrapped(QStringLiteral("Find your city to see today's times."), table), 0, 0);
+                  return;
+              }
+              int row = 0;
+              std::optional<QDateTime> sunrise;
+              for (const PreviewEntry& e : entries) {
+                  if (e.name == QLatin1String("Sunrise")) sunrise = e.start;
+                  const QString lock =
+                      e.lock ? QStringLiteral("locks ") + shortTime(*e.lock) : QString();
+                  const QStringList cells{e.name, shortTime(e.start), lock};
+                  for (int col = 0; col < 3; ++col) {
+                      auto* cell = new QLabel(cells[col], table);
+                      cell->setAccessibleName(cells[col]);
+                      grid->addWidget(cell, row, col);
+                  }
+                  ++row;
+              }
+              if (sunrise)
+                  grid->addWidget(wrapped(QStringLiteral("Fajr ends at sunrise, ") +
+                                              shortTime(*sunrise) + QLatin1Char('.'),
+                                          table),
+                                  row, 0, 1, 3);
+          });
+    return s;
+}
+
+} // namespace tarvanel

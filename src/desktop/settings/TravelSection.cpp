@@ -1,0 +1,25 @@
+// 7. Travel: follow the location, and combine prayers while travelling.
+#include "desktop/settings/SectionKit.h"
+
+#include <QCheckBox>
+
+namespace tarvanel {
+
+QWidget* makeTravelSection(SectionContext& c) {
+    auto* s = new Section(
+        QStringLiteral("Travel"),
+        QStringLiteral(
+            "Travel mode checks your rough location online every 6 hours and uses local times "
+            "when you're more than 50 km from home; a VPN will fool it. You can also choose I'm "
+            "Travelling… in the menu. Combining makes Dhuhr and Asr one lock at Dhuhr, and "
+            "Maghrib and Isha one lock at Maghrib, only while travelling. Schools differ: the "
+            "Hanafi school, for example, doesn't permit combining except at Arafah and "
+            "Muzdalifah. Turn it on only if your school permits it."));
+    s->addRow(boundToggle(c, QStringLiteral("Travel mode (follow my location)"), Field::travel,
+                          &PrayerSettingsModel::travel, &PrayerSettingsModel::setTravel));
+    s->addRow(boundToggle(c, QStringLiteral("Combine prayers while travelling"), Field::combine,
+                          &PrayerSettingsModel::combine, &PrayerSettingsModel::setCombine));
+    return s;
+}
+
+} // namespace tarvanel

@@ -1,0 +1,235 @@
+// The settings model's small flows: city search, adhan sound, calendar access, Focus shortcuts
+// and the guardian code set-up.
+#include "engine/CalcMethods.h"
+#include "guardian/Guardian.h"
+#include "records/StateFiles.h"
+#include "settings/PrayerSettingsModel.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+#include <QThreadPool>
+#include <QTimer>
+#include <cmath>
+
+namespace tarvanel {
+
+namespace {
+
+double cutToFourDecimals(double v) {
+    return std::trunc(v * 10000.0) / 10000.0;
+}
+
+// Runs `work` on the main thread unless the model has gone away by then. The weak pointer is
+// made on the main thread, before any other thread is involved.
+void onMainThread(const QPointer<PrayerSettingsModel>& weak, std::function<void()> work) {
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [weak, work = std::move(work)] {
+            if (weak) work();
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace
+
+QString foundMessage(const GeoPlace& place) {
+    QStringList parts;
+    for (const QString& p : {place.locality.isEmpty() ? place.name : place.locality,
+                             place.administrativeArea, place.country})
+        if (!p.isEmpty() && !parts.contains(p)) parts << p;
+    return QStringLiteral("Found ") + parts.join(QStringLiteral(", ")) + QLatin1Char('.');
+}
+
+void PrayerSettingsModel::search() {
+    const QString text = query_.trimmed();
+    if (text.isEmpty() || searching_) return;
+    setSearching(true);
+    setSearchMessage(QStringLiteral("Searching…"));
+    if (!services_.geocoder) {
+        // No geocoder: answer as "nothing found", still later, like a real one.
+        onMainThread(QPointer<PrayerSettingsModel>(this), [this, text] { answerSearch(text, {}); });
+        return;
+    }
+    services_.geocoder->geocode(
+        text, this, [this, text](const QList<GeoPlace>& places) { answerSearch(text, places); });
+}
+
+void PrayerSettingsModel::answerSearch(const QString& text, const QList<GeoPlace>& places) {
+    setSearching(false);
+    if (places.isEmpty() || !places.first().hasLocation) {
+        setSearchMessage(QStringLiteral("Couldn't find “") + text +
+                         QStringLiteral("”. Check the spelling, or enter coordinates below."));
+        return;
+    }
+    const GeoPlace& place = places.first();
+    setLatitude(cutToFourDecimals(place.latitude));
+    setLongitude(cutToFourDecimals(place.longitude));
+    setLocationName(place.locality.isEmpty() ? place.name : place.locality);
+    QString message = foundMessage(place);
+    if (firstRun_) {
+        const auto suggestion = suggestedMethods().constFind(place.isoCountryCode.toUpper());
+        if (suggestion != suggestedMethods().constEnd()) {
+            for (const CalcMethod& m : calcMethods()) {
+                if (m.id != suggestion->methodId) continue;
+                setMethodID(m.id);
+                setHanafi(suggestion->hanafi);
+                message += QStringLiteral(" Suggested: ") + m.name +
+                           (suggestion->hanafi ? QStringLiteral(", Hanafi Asr") : QString()) +
+                           QStringLiteral(". Change it below if your mosque uses something else.");
+                break;
+            }
+        }
+    }
+    if (!place.timeZone.isEmpty()) {
+        const QTimeZone there(place.timeZone.toUtf8());
+        const QTimeZone here = services_.localZone();
+        const QDateTime at = now();
+        if (there.isValid() && there.offsetFromUtc(at) != here.offsetFromUtc(at)) {
+            message += QStringLiteral(" Heads up: your computer is set to ") +
+                       QString::fromUtf8(here.id()) + QStringLiteral(", not ") + place.timeZone +
+                       QStringLiteral(". Times follow your computer's clock.");
+        }
+    }
+    setSearchMessage(message);
+}
+
+// Adhan sound: ~/.tarvanel/adhan.<extension>, one at a time.
+
+void PrayerSettingsModel::useAdhanFile(const QString& path) {
+    stopAdhan();
+    QString ext = QFileInfo(path).suffix().toLower();
+    if (ext == QLatin1String("aif")) ext = QStringLiteral("aiff");
+    if (!adhanExtensions().contains(ext)) return;
+    for (const QString& e : adhanExtensions())
+        QFile::remove(supportPath(QStringLiteral("adhan.") + e));
+    ensureSupportDir();
+    const QString target = supportPath(QStringLiteral("adhan.") + ext);
+    if (!QFile::copy(path, target)) return;
+    QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+    setAdhanName(QFileInfo(target).fileName());
+}
+
+void PrayerSettingsModel::togglePlay() {
+    if (playing_) {
+        stopAdhan();
+        return;
+    }
+    if (!adhanName_ || !services_.playSound) return;
+    const QString path = supportPath(*adhanName_);
+    if (QFileInfo(path).isFile() && services_.playSound(path)) setPlaying(true);
+}
+
+void PrayerSettingsModel::stopAdhan() {
+    if (playing_ && services_.stopSound) services_.stopSound();
+    setPlaying(false);
+}
+
+void PrayerSettingsModel::removeAdhan() {
+    stopAdhan();
+    for (const QString& e : adhanExtensions())
+        QFile::remove(supportPath(QStringLiteral("adhan.") + e));
+    setAdhanName(std::nullopt);
+}
+
+// Calendar.
+
+void PrayerSettingsModel::calendarToggled(bool on) {
+    setCalendarSync(on);
+    if (!on) return;
+    if (services_.calendarAuthorized && services_.calendarAuthorized()) {
+        loadCalendars();
+        return;
+    }
+    if (!services_.requestCalendarAccess) return;
+    setCalendarMessage(QStringLiteral("Asking for Calendar access…"));
+    services_.requestCalendarAccess(
+        [this, weak = QPointer<PrayerSettingsModel>(this)](bool granted) {
+            onMainThread(weak, [this, granted] {
+                if (granted) {
+                    setCalendarMessage(QString());
+                    loadCalendars();
+                } else {
+                    setCalendarSync(false);
+                    setCalendarMessage(QStringLiteral(
+                        "Calendar access is off. Turn on Tarvanel in System Settings → Privacy & "
+                        "Security → Calendars."));
+                }
+            });
+        });
+}
+
+void PrayerSettingsModel::loadCalendars() {
+    if (services_.writableCalendars) setCalendars(services_.writableCalendars());
+}
+
+// Focus.
+
+void PrayerSettingsModel::checkFocus() {
+    if (!services_.focusInstalled) return;
+    QPointer<PrayerSettingsModel> weak(this);
+    QThreadPool::globalInstance()->start([this, weak, installed = services_.focusInstalled] {
+        const bool both = installed();
+        onMainThread(weak, [this, both] { setFocusInstalled(both); });
+    });
+}
+
+void PrayerSettingsModel::testFocus() {
+    if (!services_.runFocus) return;
+    services_.runFocus(true);
+    setFocusMessage(QStringLiteral("Focus on for 10 seconds… check your iPhone."));
+    QTimer::singleShot(10000, this, [this] {
+        services_.runFocus(false);
+        setFocusMessage(QStringLiteral("Done. Focus is off again."));
+    });
+}
+
+void PrayerSettingsModel::openShortcuts() {
+    if (services_.openShortcuts) services_.openShortcuts();
+}
+
+// Guardian.
+
+void PrayerSettingsModel::startGuardian() {
+    setGuardianDraft(Guardian::newSecret());
+    setGuardianCode(QString());
+    setGuardianMessage(QString());
+}
+
+void PrayerSettingsModel::cancelGuardian() {
+    setGuardianDraft(std::nullopt);
+    setGuardianCode(QString());
+    setGuardianMessage(QString());
+}
+
+QString PrayerSettingsModel::guardianSecretText() const {
+    if (!guardianDraft_) return {};
+    const QString b32 = Guardian::base32(*guardianDraft_);
+    QStringList groups;
+    for (qsizetype i = 0; i < b32.size(); i += 4)
+        groups << b32.mid(i, 4);
+    return groups.join(QLatin1Char(' '));
+}
+
+void PrayerSettingsModel::confirmGuardian() {
+    if (!guardianDraft_) return;
+    if (Guardian::matches(*guardianDraft_, guardianCode_, now())) {
+        Guardian::save(*guardianDraft_);
+        setGuardianDraft(std::nullopt);
+        setGuardianSet(true);
+        setGuardianMessage(QStringLiteral("Guardian code is on."));
+    } else {
+        setGuardianMessage(QStringLiteral(
+            "That code doesn't match. Check both clocks are right and try the newest code."));
+    }
+}
+
+void PrayerSettingsModel::removeGuardian() {
+    Guardian::remove();
+    setGuardianSet(false);
+    setGuardianMessage(QString());
+}
+
+} // namespace tarvanel

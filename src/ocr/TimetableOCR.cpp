@@ -1,0 +1,157 @@
+#include "ocr/TimetableOCR.h"
+
+#include "records/Log.h"
+#include "timetable/OcrLines.h"
+
+#include <QFileInfo>
+#include <QFutureWatcher>
+#include <QImageReader>
+#include <QPainter>
+#include <QPointer>
+#include <QtConcurrent>
+#include <cmath>
+#include <memory>
+#include <poppler-qt6.h>
+#include <tesseract/baseapi.h>
+#include <tesseract/ocrclass.h>
+#include <tesseract/resultiterator.h>
+#include <unistd.h>
+
+namespace tarvanel {
+namespace TimetableOCR {
+
+namespace {
+
+// Tesseract reads best with capital letters some 30 px high; screenshots are smaller.
+constexpr int smallWidth = 1600;
+// A recognition never runs longer than this, whatever the image holds.
+constexpr int deadlineMs = 30'000;
+
+QSize boundedSize(QSize size) {
+    const qint64 pixels = qint64(size.width()) * size.height();
+    if (pixels <= maxPixels) return size;
+    const double f = std::sqrt(double(maxPixels) / double(pixels));
+    return QSize(std::max(1, int(size.width() * f)), std::max(1, int(size.height() * f)));
+}
+
+QImage loadPdfPage(const QString& path) {
+    const std::unique_ptr<Poppler::Document> doc = Poppler::Document::load(path);
+    if (!doc || doc->isLocked() || doc->numPages() < 1) return {};
+    const std::unique_ptr<Poppler::Page> page = doc->page(0);
+    if (!page) return {};
+    doc->setRenderHint(Poppler::Document::Antialiasing);
+    doc->setRenderHint(Poppler::Document::TextAntialiasing);
+    const QSizeF points = page->pageSizeF(); // 1/72 inch
+    double dpi = 300;
+    const double pixels = points.width() * points.height() * (dpi / 72) * (dpi / 72);
+    if (pixels > double(maxPixels)) dpi *= std::sqrt(double(maxPixels) / pixels);
+    return page->renderToImage(dpi, dpi);
+}
+
+// Grey, opaque (a transparent screenshot would turn black), at a size Tesseract reads well.
+QImage prepared(const QImage& image) {
+    QImage grey(image.size(), QImage::Format_RGB32);
+    grey.fill(Qt::white);
+    {
+        QPainter painter(&grey);
+        painter.drawImage(0, 0, image);
+    }
+    grey = grey.convertToFormat(QImage::Format_Grayscale8);
+    if (grey.width() < smallWidth)
+        grey = grey.scaled(grey.size() * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return grey;
+}
+
+// Word boxes, turned back by the page's skew so that a slightly tilted photo still gives
+// level lines.
+QList<RecognizedItem> recognize(const QImage& grey) {
+    tesseract::TessBaseAPI api;
+    const std::vector<std::string> names{"load_system_dawg", "load_freq_dawg"};
+    const std::vector<std::string> values{"0", "0"};
+    if (api.Init(nullptr, "eng", tesseract::OEM_LSTM_ONLY, nullptr, 0, &names, &values, false) !=
+        0) {
+        logLine(QStringLiteral("Tarvanel: text recognition is not available (no English model)"));
+        return {};
+    }
+    api.SetPageSegMode(tesseract::PSM_AUTO);
+    api.SetImage(grey.constBits(), grey.width(), grey.height(), 1, int(grey.bytesPerLine()));
+    api.SetSourceResolution(300);
+    tesseract::ETEXT_DESC monitor;
+    monitor.set_deadline_msecs(deadlineMs);
+    if (api.Recognize(&monitor) != 0) {
+        logLine(QStringLiteral("Tarvanel: text recognition failed"));
+        return {};
+    }
+    const std::unique_ptr<tesseract::ResultIterator> it(api.GetIterator());
+    if (!it) return {};
+
+    tesseract::Orientation orientation;
+    tesseract::WritingDirection direction;
+    tesseract::TextlineOrder order;
+    float deskew = 0;
+    it->Orientation(&orientation, &direction, &order, &deskew);
+    const double c = std::cos(deskew), s = std::sin(deskew);
+    const double cx = grey.width() / 2.0, cy = grey.height() / 2.0;
+
+    QList<RecognizedItem> items;
+    do {
+        const std::unique_ptr<char[]> text(it->GetUTF8Text(tesseract::RIL_WORD));
+        int left, top, right, bottom;
+        if (!text || !it->BoundingBox(tesseract::RIL_WORD, &left, &top, &right, &bottom)) continue;
+        const QString word = QString::fromUtf8(text.get()).trimmed();
+        if (word.isEmpty()) continue;
+        // Rotate the box's centre about the image's centre; keep its size.
+        const double x = (left + right) / 2.0 - cx, y = (top + bottom) / 2.0 - cy;
+        const double rx = cx + x * c - y * s, ry = cy + x * s + y * c;
+        const int halfW = (right - left) / 2, halfH = (bottom - top) / 2;
+        items.append({word, OcrLines::relativeBox(int(rx) - halfW, int(ry) - halfH, int(rx) + halfW,
+                                                  int(ry) + halfH, grey.width(), grey.height())});
+    } while (it->Next(tesseract::RIL_WORD));
+    return items;
+}
+
+} // namespace
+
+QImage loadImage(const QString& path) {
+    if (QFileInfo(path).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) == 0)
+        return loadPdfPage(path);
+    QImageReader reader(path);
+    reader.setAutoTransform(true); // a phone photo's orientation tag
+    const QSize size = reader.size();
+    if (size.isValid()) reader.setScaledSize(boundedSize(size));
+    QImage image = reader.read();
+    if (image.isNull()) return {};
+    if (qint64(image.width()) * image.height() > maxPixels)
+        image =
+            image.scaled(boundedSize(image.size()), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return image;
+}
+
+QStringList lines(const QImage& image) {
+    if (image.isNull()) return {};
+    return OcrLines::group(recognize(prepared(image)));
+}
+
+QStringList readFile(const QString& path) {
+    return lines(loadImage(path));
+}
+
+void restartWithThreadLimit(char** argv) {
+    if (qEnvironmentVariableIsSet("OMP_THREAD_LIMIT")) return;
+    qputenv("OMP_THREAD_LIMIT", "1");
+    ::execv("/proc/self/exe", argv);
+}
+
+} // namespace TimetableOCR
+
+void TimetableImageReader::read(const QString& path) {
+    auto* watcher = new QFutureWatcher<QStringList>(this);
+    const QString fileName = QFileInfo(path).fileName();
+    connect(watcher, &QFutureWatcher<QStringList>::finished, this, [this, watcher, fileName] {
+        watcher->deleteLater();
+        emit finished(fileName, watcher->result());
+    });
+    watcher->setFuture(QtConcurrent::run(&TimetableOCR::readFile, path));
+}
+
+} // namespace tarvanel

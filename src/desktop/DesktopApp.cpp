@@ -3,6 +3,7 @@
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SystemEvents.h"
+#include "ocr/TimetableOCR.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -36,6 +37,7 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     }
 
 #ifdef TARVANEL_HAVE_CONTROLLER
+    TimetableOCR::restartWithThreadLimit(argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarvanel"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tarvanel"));

@@ -1,6 +1,7 @@
 #include "desktop/QtPlatform.h"
 
 #include "desktop/Dialogs.h"
+#include "desktop/TimetableImportView.h"
 #include "records/StateFiles.h"
 
 #include <QApplication>
@@ -99,6 +100,10 @@ void QtPlatform::openSettingsWindow(bool firstRun) {
 
 bool QtPlatform::settingsWindowOpen() const {
     return settingsNote_ && settingsNote_->isVisible();
+}
+
+void QtPlatform::openTimetableImport(const QString& file, std::function<void()> used) {
+    tarvanel::openTimetableImport(file, std::move(used));
 }
 
 void QtPlatform::post(std::function<void()> work) {

@@ -41,6 +41,7 @@ public:
     void openUrl(const QString& url) override;
     void openSettingsWindow(bool firstRun) override;
     bool settingsWindowOpen() const override;
+    void openTimetableImport(const QString& file, std::function<void()> used) override;
     void post(std::function<void()> work) override;
     void singleShot(int milliseconds, std::function<void()> work) override;
     void exitProcess(int status) override;

@@ -74,6 +74,8 @@ QList<RecognizedItem> recognize(const QImage& grey) {
         return {};
     }
     api.SetPageSegMode(tesseract::PSM_AUTO);
+    // Sauvola's local threshold copes with the uneven light of a phone photo.
+    api.SetVariable("thresholding_method", "2");
     api.SetImage(grey.constBits(), grey.width(), grey.height(), 1, int(grey.bytesPerLine()));
     api.SetSourceResolution(300);
     tesseract::ETEXT_DESC monitor;
@@ -90,7 +92,7 @@ QList<RecognizedItem> recognize(const QImage& grey) {
     tesseract::TextlineOrder order;
     float deskew = 0;
     it->Orientation(&orientation, &direction, &order, &deskew);
-    const double c = std::cos(deskew), s = std::sin(deskew);
+    const double c = std::cos(-deskew), s = std::sin(-deskew);
     const double cx = grey.width() / 2.0, cy = grey.height() / 2.0;
 
     QList<RecognizedItem> items;

@@ -85,6 +85,10 @@ public:
     // Settings window (first run or not); the settings themselves are a later piece of work.
     virtual void openSettingsWindow(bool firstRun) = 0;
     virtual bool settingsWindowOpen() const = 0;
+    // The timetable import window (a fresh one; an open one closes first), with `file` read
+    // at once when it is not empty. `used` runs after the chosen days were merged into
+    // timetable.json, before the window closes.
+    virtual void openTimetableImport(const QString& /*file*/, std::function<void()> /*used*/) {}
 
     // Event loop services: run after the current event, run once after a delay, end the
     // process.

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QtConcurrent>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <poppler-qt6.h>
 #include <tesseract/baseapi.h>
@@ -22,8 +23,9 @@ namespace TimetableOCR {
 
 namespace {
 
-// Tesseract reads best with capital letters some 30 px high; screenshots are smaller.
-constexpr int smallWidth = 1600;
+// Text lines lower than this are enlarged twice before recognition (a small screenshot);
+// larger text reads worse when enlarged, the smoothing blurs its strokes.
+constexpr int smallLinePixels = 18;
 // A recognition never runs longer than this, whatever the image holds.
 constexpr int deadlineMs = 30'000;
 
@@ -56,15 +58,28 @@ QImage prepared(const QImage& image) {
         QPainter painter(&grey);
         painter.drawImage(0, 0, image);
     }
-    grey = grey.convertToFormat(QImage::Format_Grayscale8);
-    if (grey.width() < smallWidth)
-        grey = grey.scaled(grey.size() * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return grey;
+    return grey.convertToFormat(QImage::Format_Grayscale8);
+}
+
+// The layout pass alone is quick; its text lines tell how large the print is.
+int medianLineHeight(tesseract::TessBaseAPI& api) {
+    const std::unique_ptr<tesseract::PageIterator> it(api.AnalyseLayout());
+    QList<int> heights;
+    if (it) {
+        do {
+            int left, top, right, bottom;
+            if (it->BoundingBox(tesseract::RIL_TEXTLINE, &left, &top, &right, &bottom))
+                heights << bottom - top;
+        } while (it->Next(tesseract::RIL_TEXTLINE));
+    }
+    if (heights.isEmpty()) return std::numeric_limits<int>::max();
+    std::sort(heights.begin(), heights.end());
+    return heights[heights.size() / 2];
 }
 
 // Word boxes, turned back by the page's skew so that a slightly tilted photo still gives
 // level lines.
-QList<RecognizedItem> recognize(const QImage& grey) {
+QList<RecognizedItem> recognize(const QImage& grey, bool mayEnlarge) {
     tesseract::TessBaseAPI api;
     const std::vector<std::string> names{"load_system_dawg", "load_freq_dawg"};
     const std::vector<std::string> values{"0", "0"};
@@ -76,8 +91,14 @@ QList<RecognizedItem> recognize(const QImage& grey) {
     api.SetPageSegMode(tesseract::PSM_AUTO);
     // Sauvola's local threshold copes with the uneven light of a phone photo.
     api.SetVariable("thresholding_method", "2");
+    // Retrying doubtful words as white on black doubles the time and never helps a sheet.
+    api.SetVariable("tessedit_do_invert", "0");
     api.SetImage(grey.constBits(), grey.width(), grey.height(), 1, int(grey.bytesPerLine()));
     api.SetSourceResolution(300);
+    if (mayEnlarge && qint64(grey.width()) * grey.height() * 4 <= maxPixels &&
+        medianLineHeight(api) < smallLinePixels)
+        return recognize(
+            grey.scaled(grey.size() * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), false);
     tesseract::ETEXT_DESC monitor;
     monitor.set_deadline_msecs(deadlineMs);
     if (api.Recognize(&monitor) != 0) {
@@ -131,7 +152,7 @@ QImage loadImage(const QString& path) {
 
 QStringList lines(const QImage& image) {
     if (image.isNull()) return {};
-    return OcrLines::group(recognize(prepared(image)));
+    return OcrLines::group(recognize(prepared(image), true));
 }
 
 QStringList readFile(const QString& path) {

@@ -2,6 +2,7 @@
 
 #include "records/Log.h"
 #include "timetable/OcrLines.h"
+#include "timetable/TimetableParser.h"
 
 #include <QFileInfo>
 #include <QFutureWatcher>
@@ -61,76 +62,106 @@ QImage prepared(const QImage& image) {
     return grey.convertToFormat(QImage::Format_Grayscale8);
 }
 
-// The layout pass alone is quick; its text lines tell how large the print is.
-int medianLineHeight(tesseract::TessBaseAPI& api) {
-    const std::unique_ptr<tesseract::PageIterator> it(api.AnalyseLayout());
-    QList<int> heights;
-    if (it) {
+// One loaded English model for the passes over one image.
+class Recognizer {
+public:
+    bool load() {
+        const std::vector<std::string> names{"load_system_dawg", "load_freq_dawg"};
+        const std::vector<std::string> values{"0", "0"};
+        if (api_.Init(nullptr, "eng", tesseract::OEM_LSTM_ONLY, nullptr, 0, &names, &values,
+                      false) != 0) {
+            logLine(QStringLiteral("Tarvanel: text recognition is not available (no English "
+                                   "model)"));
+            return false;
+        }
+        // Sauvola's local threshold copes with the uneven light of a phone photo.
+        api_.SetVariable("thresholding_method", "2");
+        // Retrying doubtful words as white on black doubles the time and never helps a sheet.
+        api_.SetVariable("tessedit_do_invert", "0");
+        return true;
+    }
+
+    // The layout pass alone is quick; its text lines tell how large the print is.
+    int medianLineHeight(const QImage& grey) {
+        setImage(grey, tesseract::PSM_AUTO);
+        const std::unique_ptr<tesseract::PageIterator> it(api_.AnalyseLayout());
+        QList<int> heights;
+        if (it) {
+            do {
+                int left, top, right, bottom;
+                if (it->BoundingBox(tesseract::RIL_TEXTLINE, &left, &top, &right, &bottom))
+                    heights << bottom - top;
+            } while (it->Next(tesseract::RIL_TEXTLINE));
+        }
+        if (heights.isEmpty()) return std::numeric_limits<int>::max();
+        std::sort(heights.begin(), heights.end());
+        return heights[heights.size() / 2];
+    }
+
+    // Word boxes, turned back by the page's skew so that a slightly tilted photo still gives
+    // level lines.
+    QList<RecognizedItem> words(const QImage& grey, tesseract::PageSegMode mode) {
+        setImage(grey, mode);
+        tesseract::ETEXT_DESC monitor;
+        monitor.set_deadline_msecs(deadlineMs);
+        if (api_.Recognize(&monitor) != 0) {
+            logLine(QStringLiteral("Tarvanel: text recognition failed"));
+            return {};
+        }
+        const std::unique_ptr<tesseract::ResultIterator> it(api_.GetIterator());
+        if (!it) return {};
+        tesseract::Orientation orientation;
+        tesseract::WritingDirection direction;
+        tesseract::TextlineOrder order;
+        float deskew = 0;
+        it->Orientation(&orientation, &direction, &order, &deskew);
+        const double c = std::cos(-deskew), s = std::sin(-deskew);
+        const double cx = grey.width() / 2.0, cy = grey.height() / 2.0;
+
+        QList<RecognizedItem> items;
         do {
+            const std::unique_ptr<char[]> text(it->GetUTF8Text(tesseract::RIL_WORD));
             int left, top, right, bottom;
-            if (it->BoundingBox(tesseract::RIL_TEXTLINE, &left, &top, &right, &bottom))
-                heights << bottom - top;
-        } while (it->Next(tesseract::RIL_TEXTLINE));
+            if (!text || !it->BoundingBox(tesseract::RIL_WORD, &left, &top, &right, &bottom))
+                continue;
+            const QString word = QString::fromUtf8(text.get()).trimmed();
+            if (word.isEmpty()) continue;
+            // Rotate the box's centre about the image's centre; keep its size.
+            const double x = (left + right) / 2.0 - cx, y = (top + bottom) / 2.0 - cy;
+            const double rx = cx + x * c - y * s, ry = cy + x * s + y * c;
+            const int halfW = (right - left) / 2, halfH = (bottom - top) / 2;
+            items.append(
+                {word, OcrLines::relativeBox(int(rx) - halfW, int(ry) - halfH, int(rx) + halfW,
+                                             int(ry) + halfH, grey.width(), grey.height())});
+        } while (it->Next(tesseract::RIL_WORD));
+        return items;
     }
-    if (heights.isEmpty()) return std::numeric_limits<int>::max();
-    std::sort(heights.begin(), heights.end());
-    return heights[heights.size() / 2];
-}
 
-// Word boxes, turned back by the page's skew so that a slightly tilted photo still gives
-// level lines.
-QList<RecognizedItem> recognize(const QImage& grey, bool mayEnlarge) {
-    tesseract::TessBaseAPI api;
-    const std::vector<std::string> names{"load_system_dawg", "load_freq_dawg"};
-    const std::vector<std::string> values{"0", "0"};
-    if (api.Init(nullptr, "eng", tesseract::OEM_LSTM_ONLY, nullptr, 0, &names, &values, false) !=
-        0) {
-        logLine(QStringLiteral("Tarvanel: text recognition is not available (no English model)"));
-        return {};
+private:
+    void setImage(const QImage& grey, tesseract::PageSegMode mode) {
+        api_.SetPageSegMode(mode);
+        api_.SetImage(grey.constBits(), grey.width(), grey.height(), 1, int(grey.bytesPerLine()));
+        api_.SetSourceResolution(300);
     }
-    api.SetPageSegMode(tesseract::PSM_AUTO);
-    // Sauvola's local threshold copes with the uneven light of a phone photo.
-    api.SetVariable("thresholding_method", "2");
-    // Retrying doubtful words as white on black doubles the time and never helps a sheet.
-    api.SetVariable("tessedit_do_invert", "0");
-    api.SetImage(grey.constBits(), grey.width(), grey.height(), 1, int(grey.bytesPerLine()));
-    api.SetSourceResolution(300);
-    if (mayEnlarge && qint64(grey.width()) * grey.height() * 4 <= maxPixels &&
-        medianLineHeight(api) < smallLinePixels)
-        return recognize(
-            grey.scaled(grey.size() * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), false);
-    tesseract::ETEXT_DESC monitor;
-    monitor.set_deadline_msecs(deadlineMs);
-    if (api.Recognize(&monitor) != 0) {
-        logLine(QStringLiteral("Tarvanel: text recognition failed"));
-        return {};
+
+    tesseract::TessBaseAPI api_;
+};
+
+// How much of a table the lines hold: the most times that rows of one width give together.
+struct TableShape {
+    int cells = 0;
+    int times = 0;
+};
+TableShape tableShape(const QStringList& lines) {
+    QMap<qsizetype, int> rowsWithCount;
+    TableShape shape;
+    for (const ParsedRow& row : TimetableParser::parse(lines)) {
+        ++rowsWithCount[row.times.size()];
+        shape.times += int(row.times.size());
     }
-    const std::unique_ptr<tesseract::ResultIterator> it(api.GetIterator());
-    if (!it) return {};
-
-    tesseract::Orientation orientation;
-    tesseract::WritingDirection direction;
-    tesseract::TextlineOrder order;
-    float deskew = 0;
-    it->Orientation(&orientation, &direction, &order, &deskew);
-    const double c = std::cos(-deskew), s = std::sin(-deskew);
-    const double cx = grey.width() / 2.0, cy = grey.height() / 2.0;
-
-    QList<RecognizedItem> items;
-    do {
-        const std::unique_ptr<char[]> text(it->GetUTF8Text(tesseract::RIL_WORD));
-        int left, top, right, bottom;
-        if (!text || !it->BoundingBox(tesseract::RIL_WORD, &left, &top, &right, &bottom)) continue;
-        const QString word = QString::fromUtf8(text.get()).trimmed();
-        if (word.isEmpty()) continue;
-        // Rotate the box's centre about the image's centre; keep its size.
-        const double x = (left + right) / 2.0 - cx, y = (top + bottom) / 2.0 - cy;
-        const double rx = cx + x * c - y * s, ry = cy + x * s + y * c;
-        const int halfW = (right - left) / 2, halfH = (bottom - top) / 2;
-        items.append({word, OcrLines::relativeBox(int(rx) - halfW, int(ry) - halfH, int(rx) + halfW,
-                                                  int(ry) + halfH, grey.width(), grey.height())});
-    } while (it->Next(tesseract::RIL_WORD));
-    return items;
+    for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it)
+        shape.cells = std::max(shape.cells, it.value() * int(it.key()));
+    return shape;
 }
 
 } // namespace
@@ -152,7 +183,20 @@ QImage loadImage(const QString& path) {
 
 QStringList lines(const QImage& image) {
     if (image.isNull()) return {};
-    return OcrLines::group(recognize(prepared(image), true));
+    Recognizer recognizer;
+    if (!recognizer.load()) return {};
+    QImage grey = prepared(image);
+    if (qint64(grey.width()) * grey.height() * 4 <= maxPixels &&
+        recognizer.medianLineHeight(grey) < smallLinePixels)
+        grey = grey.scaled(grey.size() * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QStringList page = OcrLines::group(recognizer.words(grey, tesseract::PSM_AUTO));
+    // Automatic layout sometimes cuts a wide table into blocks and its rows into pieces; then
+    // reading the page as one column of rows gives more whole rows.
+    const TableShape shape = tableShape(page);
+    if (shape.times == 0 || shape.cells == shape.times) return page;
+    const QStringList column =
+        OcrLines::group(recognizer.words(grey, tesseract::PSM_SINGLE_COLUMN));
+    return tableShape(column).cells > shape.cells ? column : page;
 }
 
 QStringList readFile(const QString& path) {

@@ -115,6 +115,7 @@ public:
         tesseract::TextlineOrder order;
         float deskew = 0;
         it->Orientation(&orientation, &direction, &order, &deskew);
+        if (std::abs(deskew) < 1e-4) deskew = baselineTilt();
         const double c = std::cos(-deskew), s = std::sin(-deskew);
         const double cx = grey.width() / 2.0, cy = grey.height() / 2.0;
 
@@ -138,6 +139,22 @@ public:
     }
 
 private:
+    // Without a page layout there is no page skew; the text lines' baselines show the tilt.
+    float baselineTilt() {
+        const std::unique_ptr<tesseract::ResultIterator> it(api_.GetIterator());
+        QList<double> slopes;
+        if (it) {
+            do {
+                int x1, y1, x2, y2;
+                if (it->Baseline(tesseract::RIL_TEXTLINE, &x1, &y1, &x2, &y2) && x2 - x1 > 100)
+                    slopes << std::atan2(double(y2 - y1), double(x2 - x1));
+            } while (it->Next(tesseract::RIL_TEXTLINE));
+        }
+        if (slopes.isEmpty()) return 0;
+        std::sort(slopes.begin(), slopes.end());
+        return float(slopes[slopes.size() / 2]);
+    }
+
     void setImage(const QImage& grey, tesseract::PageSegMode mode) {
         api_.SetPageSegMode(mode);
         api_.SetImage(grey.constBits(), grey.width(), grey.height(), 1, int(grey.bytesPerLine()));
@@ -189,14 +206,14 @@ QStringList lines(const QImage& image) {
     if (qint64(grey.width()) * grey.height() * 4 <= maxPixels &&
         recognizer.medianLineHeight(grey) < smallLinePixels)
         grey = grey.scaled(grey.size() * 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    const QStringList page = OcrLines::group(recognizer.words(grey, tesseract::PSM_AUTO));
-    // Automatic layout sometimes cuts a wide table into blocks and its rows into pieces; then
-    // reading the page as one column of rows gives more whole rows.
-    const TableShape shape = tableShape(page);
-    if (shape.times == 0 || shape.cells == shape.times) return page;
+    // A sheet read as one column of rows is quickest and keeps wide rows whole; a tilted photo
+    // needs the automatic layout, which also measures the tilt that the grouping takes out.
     const QStringList column =
         OcrLines::group(recognizer.words(grey, tesseract::PSM_SINGLE_COLUMN));
-    return tableShape(column).cells > shape.cells ? column : page;
+    const TableShape shape = tableShape(column);
+    if (shape.times == 0 || shape.cells == shape.times) return column;
+    const QStringList page = OcrLines::group(recognizer.words(grey, tesseract::PSM_AUTO));
+    return tableShape(page).cells > shape.cells ? page : column;
 }
 
 QStringList readFile(const QString& path) {

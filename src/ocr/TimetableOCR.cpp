@@ -78,6 +78,8 @@ public:
         api_.SetVariable("thresholding_method", "2");
         // Retrying doubtful words as white on black doubles the time and never helps a sheet.
         api_.SetVariable("tessedit_do_invert", "0");
+        // Capitals that look like digits (7, 1, 2, 8, 6, 0) and begin no month name.
+        api_.SetVariable("tessedit_char_blacklist", "TLIZBGQ");
         return true;
     }
 

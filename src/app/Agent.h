@@ -80,7 +80,9 @@ InstallOutcome installAgent(); // waits: the --install-agent command
 // show its settings, or installs and starts the agent, or offers to move this copy to
 // ~/.local/bin. `finish` gets the exit status. Without a display `platform` is null: the
 // questions are logged and answered with their last button.
-void handOffToAgent(Platform* platform, std::function<void(int status)> finish);
+// With `importFile`, a running copy is asked to open it in its import window instead.
+void handOffToAgent(Platform* platform, std::function<void(int status)> finish,
+                    const QString& importFile = {});
 
 // Absent when cancelled; otherwise whether to delete the user's data too.
 std::optional<bool> confirmUninstall(Platform& platform, const QString& extra);

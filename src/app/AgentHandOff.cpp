@@ -24,11 +24,16 @@ const QString name = QLatin1String(appDisplayName);
 // Lives until it reports the exit status.
 class HandOff : public QObject {
 public:
-    HandOff(Platform* platform, std::function<void(int)> finish)
-        : platform_(platform), finish_(std::move(finish)) {}
+    HandOff(Platform* platform, std::function<void(int)> finish, QString importFile)
+        : platform_(platform), finish_(std::move(finish)), importFile_(std::move(importFile)) {}
 
     void start() {
         if (!acquireInstanceLock()) return askAgentToShowSettings();
+        if (!importFile_.isEmpty()) {
+            logLine(QStringLiteral("Tarvanel: no running copy to hand ") + importFile_ +
+                    QStringLiteral(" to"));
+            return end(1);
+        }
         releaseInstanceLock(); // this copy only tested it
         if (isInApplicationsFolder()) return installHere();
         const QString info =
@@ -49,6 +54,7 @@ public:
 private:
     Platform* platform_;
     std::function<void(int)> finish_;
+    QString importFile_; // handed to the running copy instead of asking for its settings
 
     void end(int status) {
         finish_(status);
@@ -73,9 +79,11 @@ private:
                                    "its settings"));
             return end(0);
         }
-        bus.send(QDBusMessage::createSignal(QStringLiteral("/com/velmora/tarvanel"),
-                                            QLatin1String(appLabel),
-                                            QStringLiteral("showSettings")));
+        QDBusMessage signal = QDBusMessage::createSignal(
+            QStringLiteral("/com/velmora/tarvanel"), QLatin1String(appLabel),
+            importFile_.isEmpty() ? QStringLiteral("showSettings") : QStringLiteral("importFile"));
+        if (!importFile_.isEmpty()) signal << QFileInfo(importFile_).absoluteFilePath();
+        bus.send(signal);
         const QDBusMessage ping = QDBusMessage::createMethodCall(
             QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
             QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
@@ -141,8 +149,9 @@ private:
 
 } // namespace
 
-void handOffToAgent(Platform* platform, std::function<void(int status)> finish) {
-    (new HandOff(platform, std::move(finish)))->start();
+void handOffToAgent(Platform* platform, std::function<void(int status)> finish,
+                    const QString& importFile) {
+    (new HandOff(platform, std::move(finish), importFile))->start();
 }
 
 } // namespace tarvanel

@@ -30,7 +30,7 @@ static void printError(const QString& text) {
 
 // A copy the user opened by hand hands off to the login agent and ends: only an application
 // object (for its questions), no tray, watcher or window.
-static int runHandOff(int& argc, char** argv) {
+static int runHandOff(int& argc, char** argv, const QString& importFile) {
     const bool display = !displayProblem(QProcessEnvironment::systemEnvironment());
     std::unique_ptr<QCoreApplication> app;
     std::unique_ptr<QtPlatform> platform;
@@ -41,8 +41,9 @@ static int runHandOff(int& argc, char** argv) {
     } else {
         app = std::make_unique<QCoreApplication>(argc, argv);
     }
-    QTimer::singleShot(0, app.get(), [&platform] {
-        handOffToAgent(platform.get(), [](int status) { QCoreApplication::exit(status); });
+    QTimer::singleShot(0, app.get(), [&platform, &importFile] {
+        handOffToAgent(
+            platform.get(), [](int status) { QCoreApplication::exit(status); }, importFile);
     });
     return QCoreApplication::exec();
 }
@@ -81,6 +82,13 @@ int main(int argc, char** argv) {
         if (!out.reason.isEmpty()) print(out.reason + QLatin1Char('\n'));
         return out.ok ? 0 : 1;
     }
-    if (!cl.testLockSeconds && !cl.testNudge && !launchedByAgent()) return runHandOff(argc, argv);
+    const bool testRun = cl.testLockSeconds || cl.testNudge;
+    if (cl.importFile && !testRun && !launchedByAgent()) {
+        // A file from the file manager: the running copy opens it; with none running, this
+        // copy is the program and opens it itself.
+        if (!acquireInstanceLock()) return runHandOff(argc, argv, *cl.importFile);
+        return runDesktopApplication(argc, argv, cl);
+    }
+    if (!testRun && !launchedByAgent()) return runHandOff(argc, argv, {});
     return runDesktopApplication(argc, argv, cl);
 }

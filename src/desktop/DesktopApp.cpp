@@ -3,6 +3,7 @@
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SystemEvents.h"
+#include "ocr/TimetableOCR.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -36,6 +37,7 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     }
 
 #ifdef TARVANEL_HAVE_CONTROLLER
+    TimetableOCR::restartWithThreadLimit(argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarvanel"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tarvanel"));
@@ -53,6 +55,8 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
                      [&delegate] { delegate.poweringOff(); });
     QObject::connect(&system, &SystemEvents::showSettingsRequested, &app,
                      [&delegate] { delegate.showSettingsRequested(); });
+    QObject::connect(&system, &SystemEvents::importFileRequested, &app,
+                     [&delegate](const QString& path) { delegate.openTimetableImport(path); });
 
     QTimer tick;
     tick.setInterval(1000);
@@ -67,7 +71,9 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
         if (!testRun) {
             system.watchPowerOff();
             system.watchShowSettings();
+            system.watchImportFile();
             platform.tray().ensureCreated();
+            if (cl.importFile) delegate.openTimetableImport(*cl.importFile);
         }
         tick.start();
     });

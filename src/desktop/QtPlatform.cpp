@@ -1,9 +1,10 @@
 #include "desktop/QtPlatform.h"
 
 #include "desktop/Dialogs.h"
+#include "desktop/TimetableImportView.h"
 #include "desktop/settings/PrayerSettingsView.h"
-#include "settings/CitySearch.h"
 #include "records/StateFiles.h"
+#include "settings/CitySearch.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -111,6 +112,10 @@ void QtPlatform::openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
 
 bool QtPlatform::settingsWindowOpen() const {
     return settings_.isOpen();
+}
+
+void QtPlatform::openTimetableImport(const QString& file, std::function<void()> used) {
+    tarvanel::openTimetableImport(file, std::move(used));
 }
 
 void QtPlatform::post(std::function<void()> work) {

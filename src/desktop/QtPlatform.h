@@ -43,6 +43,7 @@ public:
     void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
                             PrayerSettingsActions actions) override;
     bool settingsWindowOpen() const override;
+    void openTimetableImport(const QString& file, std::function<void()> used) override;
     void post(std::function<void()> work) override;
     void singleShot(int milliseconds, std::function<void()> work) override;
     void exitProcess(int status) override;

@@ -3,6 +3,8 @@
 #include "records/Log.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QFileInfo>
 #include <QSocketNotifier>
 #include <csignal>
 #include <fcntl.h>
@@ -81,6 +83,33 @@ bool SystemEvents::watchShowSettings() {
         return false;
     }
     return true;
+}
+
+bool SystemEvents::watchImportFile() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected() ||
+        !bus.connect(QString(), QString::fromLatin1(showSettingsPath),
+                     QString::fromLatin1(showSettingsInterface),
+                     QString::fromLatin1(importFileMember), this, SLOT(onImportFile(QString)))) {
+        logLine(QStringLiteral("Tarvanel: no session bus; files from other copies are not "
+                               "received"));
+        return false;
+    }
+    return true;
+}
+
+bool sendImportFile(const QString& path) {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) return false;
+    QDBusMessage signal = QDBusMessage::createSignal(QString::fromLatin1(showSettingsPath),
+                                                     QString::fromLatin1(showSettingsInterface),
+                                                     QString::fromLatin1(importFileMember));
+    signal << QFileInfo(path).absoluteFilePath();
+    return bus.send(signal);
+}
+
+void SystemEvents::onImportFile(const QString& path) {
+    emit importFileRequested(path);
 }
 
 void SystemEvents::onPrepareForShutdown(bool starting) {

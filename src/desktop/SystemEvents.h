@@ -2,6 +2,7 @@
 // Events from outside the program, delivered on the event loop: termination signals, the
 // system's power-off announcement and the request of another copy to show the settings.
 #include <QObject>
+#include <QString>
 
 class QSocketNotifier;
 
@@ -11,6 +12,11 @@ namespace tarvanel {
 inline constexpr const char* showSettingsPath = "/com/velmora/tarvanel";
 inline constexpr const char* showSettingsInterface = "com.velmora.tarvanel";
 inline constexpr const char* showSettingsMember = "showSettings";
+// Same path and interface: another copy hands over a file to import (one string, its path).
+inline constexpr const char* importFileMember = "importFile";
+
+// Sends the import-file signal with `path` made absolute; false without a session bus.
+bool sendImportFile(const QString& path);
 
 class SystemEvents : public QObject {
     Q_OBJECT
@@ -24,15 +30,19 @@ public:
     bool watchPowerOff();
     // The show-settings signal becomes showSettingsRequested; false without a session bus.
     bool watchShowSettings();
+    // The import-file signal becomes importFileRequested; false without a session bus.
+    bool watchImportFile();
 
 signals:
     void terminateRequested(int signalNumber);
     void poweringOff();
     void showSettingsRequested();
+    void importFileRequested(const QString& path);
 
 private slots:
     void onPrepareForShutdown(bool starting);
     void onShowSettings();
+    void onImportFile(const QString& path);
 
 private:
     void readSignal();

@@ -5,7 +5,6 @@
 #include "app/Agent.h"
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
-#include "timetable/Timetable.h"
 #include "lock/DayRules.h"
 #include "lock/Presence.h"
 #include "records/History.h"
@@ -13,6 +12,7 @@
 #include "records/Log.h"
 #include "records/StateFiles.h"
 #include "records/TravelLocator.h"
+#include "timetable/Timetable.h"
 
 #include <QFile>
 

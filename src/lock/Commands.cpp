@@ -5,13 +5,13 @@
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
-#include "settings/CitySearch.h"
-#include "settings/PrayerSettingsModel.h"
 #include "records/Excused.h"
 #include "records/History.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
 #include "records/TravelLocator.h"
+#include "settings/CitySearch.h"
+#include "settings/PrayerSettingsModel.h"
 #include "timetable/Timetable.h"
 
 #include <QDir>
@@ -109,10 +109,10 @@ void AppDelegate::openSettings() {
     // No Shortcuts app here: make the pair for this desktop when there is none, then show
     // the folder so the user can read or change them.
     services.openShortcuts = [self] {
-        if (!FocusShortcuts::installed()) FocusShortcuts::createFor(FocusShortcuts::currentDesktop());
+        if (!FocusShortcuts::installed())
+            FocusShortcuts::createFor(FocusShortcuts::currentDesktop());
         QDir().mkpath(FocusShortcuts::folder());
-        if (self)
-            self->platform_.openUrl(QUrl::fromLocalFile(FocusShortcuts::folder()).toString());
+        if (self) self->platform_.openUrl(QUrl::fromLocalFile(FocusShortcuts::folder()).toString());
     };
     services.playSound = [self](const QString& path) {
         return self && self->platform_.playSoundFile(path);
@@ -126,7 +126,9 @@ void AppDelegate::openSettings() {
     actions.previewLock = weak(&AppDelegate::previewLock);
     actions.uninstall = weak(&AppDelegate::uninstall);
     actions.exportHistory = weak(&AppDelegate::exportHistory);
-    actions.importTimetable = weak(&AppDelegate::openTimetableImport);
+    actions.importTimetable = [self] {
+        if (self) self->openTimetableImport();
+    };
     auto model = std::make_unique<PrayerSettingsModel>(config_, !QFile::exists(configURL()),
                                                        std::move(services));
     platform_.openSettingsWindow(std::move(model), std::move(actions));

@@ -89,6 +89,10 @@ public:
     virtual void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
                                     PrayerSettingsActions actions) = 0;
     virtual bool settingsWindowOpen() const = 0;
+    // The timetable import window (a fresh one; an open one closes first), with `file` read
+    // at once when it is not empty. `used` runs after the chosen days were merged into
+    // timetable.json, before the window closes.
+    virtual void openTimetableImport(const QString& file, std::function<void()> used) = 0;
 
     // Event loop services: run after the current event, run once after a delay, end the
     // process.

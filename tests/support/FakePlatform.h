@@ -23,6 +23,8 @@ public:
     QStringList sounds; // named sounds, and "file:<path>" for played files
     QList<AlertRequest> alerts;
     QStringList openedUrls;
+    QStringList importsOpened;        // the file of every import window opened
+    std::function<void()> importUsed; // what "Use This Timetable" of the last one runs
     std::unique_ptr<PrayerSettingsModel> settingsModel; // the model of the last window opened
     PrayerSettingsActions settingsActions;
     std::optional<int> exitStatus;
@@ -89,6 +91,10 @@ public:
         settingsOpen = true;
         settingsModel = std::move(model);
         settingsActions = std::move(actions);
+    }
+    void openTimetableImport(const QString& file, std::function<void()> used) override {
+        importsOpened << file;
+        importUsed = std::move(used);
     }
     bool settingsWindowOpen() const override { return settingsOpen; }
     void post(std::function<void()> work) override { posted << std::move(work); }

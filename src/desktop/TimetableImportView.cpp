@@ -1,0 +1,289 @@
+#include "desktop/TimetableImportView.h"
+
+#include "timetable/Timetable.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QFrame>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
+
+namespace tarvanel {
+
+namespace {
+
+QFont monospaced() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSize(12);
+    return font;
+}
+
+QLabel* secondary(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setWordWrap(true);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setAccessibleName(text);
+    return label;
+}
+
+// A titled section with its explanatory footer under the rows.
+QGroupBox* section(const QString& header, const QString& footer, QLayout* rows, QWidget* parent) {
+    auto* box = new QGroupBox(header, parent);
+    box->setAccessibleName(header);
+    auto* layout = new QVBoxLayout(box);
+    layout->addLayout(rows);
+    if (!footer.isEmpty()) layout->addWidget(secondary(footer, box));
+    return box;
+}
+
+} // namespace
+
+TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> save,
+                                         std::function<void()> cancel, QWidget* parent)
+    : QWidget(parent), save_(std::move(save)), cancel_(std::move(cancel)),
+      model_(new TimetableImportModel(this)), reader_(new TimetableImageReader(this)) {
+    setMinimumSize(576, 520);
+    auto* form = new QWidget;
+    auto* formLayout = new QVBoxLayout(form);
+
+    // 1. The text.
+    auto* textRows = new QVBoxLayout;
+    editor_ = new QPlainTextEdit(form);
+    editor_->setFont(monospaced());
+    editor_->setMinimumHeight(150);
+    editor_->setAccessibleName(QStringLiteral("1. Your masjid's timetable"));
+    textRows->addWidget(editor_);
+    auto* fileRow = new QHBoxLayout;
+    auto* choose = new QPushButton(QStringLiteral("Choose File…"), form);
+    choose->setAccessibleName(choose->text());
+    spinner_ = new QProgressBar(form);
+    spinner_->setRange(0, 0);
+    spinner_->setMaximumWidth(48);
+    spinner_->setTextVisible(false);
+    spinner_->setAccessibleName(QStringLiteral("Reading"));
+    status_ = secondary(QString(), form);
+    fileRow->addWidget(choose);
+    fileRow->addWidget(spinner_);
+    fileRow->addWidget(status_, 1);
+    textRows->addLayout(fileRow);
+    formLayout->addWidget(section(
+        QStringLiteral("1. Your masjid's timetable"),
+        QStringLiteral("Paste it from the masjid's website or PDF, or choose a CSV, a photo or a "
+                       "screenshot of the printed sheet. Photos are read on your computer; "
+                       "nothing is uploaded."),
+        textRows, form));
+
+    // 2. The columns, month and year.
+    auto* pickRows = new QFormLayout;
+    for (const QString& prayer : TimetableImportModel::prayers()) {
+        auto* picker = new QComboBox(form);
+        picker->setAccessibleName(prayer);
+        pickRows->addRow(prayer, picker);
+        pickers_ << picker;
+        connect(picker, &QComboBox::activated, this, [this, prayer, picker](int index) {
+            model_->setColumn(prayer, picker->itemData(index).toInt());
+        });
+    }
+    month_ = new QComboBox(form);
+    month_->setAccessibleName(QStringLiteral("Month"));
+    const QStringList months = TimetableImportModel::monthNames();
+    for (int m = 1; m <= 12; ++m)
+        month_->addItem(months[m - 1], m);
+    pickRows->addRow(QStringLiteral("Month"), month_);
+    year_ = new QSpinBox(form);
+    year_->setRange(2020, 2100);
+    year_->setGroupSeparatorShown(false);
+    year_->setAccessibleName(QStringLiteral("Year"));
+    pickRows->addRow(QStringLiteral("Year"), year_);
+    formLayout->addWidget(section(
+        QStringLiteral("2. Which column is which"),
+        QStringLiteral("Pick the jamaat (iqamah) column for each prayer, the time you actually "
+                       "pray. Times without AM/PM are read as morning for Fajr, midday for "
+                       "Dhuhr, and afternoon or evening for the rest."),
+        pickRows, form));
+
+    // 3. The preview.
+    previewRows_ = new QVBoxLayout;
+    auto* previewBox = section(QString(), QString(), previewRows_, form);
+    previewBox_ = previewBox;
+    formLayout->addWidget(previewBox);
+    formLayout->addStretch(1);
+
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(form);
+
+    auto* divider = new QFrame(this);
+    divider->setFrameShape(QFrame::HLine);
+    auto* bar = new QHBoxLayout;
+    bar->setContentsMargins(16, 16, 16, 16);
+    bar->addStretch(1);
+    auto* cancelButton = new QPushButton(QStringLiteral("Cancel"), this);
+    cancelButton->setAccessibleName(cancelButton->text());
+    use_ = new QPushButton(QStringLiteral("Use This Timetable"), this);
+    use_->setAccessibleName(use_->text());
+    use_->setDefault(true);
+    bar->addWidget(cancelButton);
+    bar->addWidget(use_);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
+    outer->addWidget(scroll, 1);
+    outer->addWidget(divider);
+    outer->addLayout(bar);
+
+    connect(editor_, &QPlainTextEdit::textChanged, this, [this] {
+        if (editor_->toPlainText() != model_->text()) model_->setText(editor_->toPlainText());
+    });
+    connect(model_, &TimetableImportModel::textChanged, this, [this] {
+        if (editor_->toPlainText() != model_->text()) editor_->setPlainText(model_->text());
+    });
+    connect(model_, &TimetableImportModel::changed, this, &TimetableImportView::refresh);
+    connect(month_, &QComboBox::activated, this,
+            [this](int index) { model_->setMonth(month_->itemData(index).toInt()); });
+    connect(year_, &QSpinBox::valueChanged, this, [this](int year) { model_->setYear(year); });
+    connect(reader_, &TimetableImageReader::finished, model_,
+            &TimetableImportModel::imageReadFinished);
+    connect(choose, &QPushButton::clicked, this, &TimetableImportView::chooseFile);
+    connect(cancelButton, &QPushButton::clicked, this, [this] { cancel_(); });
+    connect(use_, &QPushButton::clicked, this, [this] {
+        const DayTable days = model_->days();
+        if (!days.isEmpty()) save_(days);
+    });
+    refresh();
+}
+
+void TimetableImportView::openFile(const QString& path) {
+    if (TimetableImportModel::kindOf(path) == ImportFileKind::Text) {
+        model_->loadTextFile(path);
+        return;
+    }
+    model_->imageReadStarted(QFileInfo(path).fileName());
+    reader_->read(path);
+}
+
+void TimetableImportView::chooseFile() {
+    auto* dialog = new QFileDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(
+        {QStringLiteral("Timetables (*.csv *.txt *.tsv *.png *.jpg *.jpeg *.gif *.bmp *.tif "
+                        "*.tiff *.webp *.pdf)"),
+         QStringLiteral("All files (*)")});
+    dialog->setLabelText(QFileDialog::Accept, QStringLiteral("Read Timetable"));
+    connect(dialog, &QFileDialog::fileSelected, this, &TimetableImportView::openFile);
+    dialog->open();
+}
+
+void TimetableImportView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        cancel_();
+    } else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+               use_->isEnabled()) {
+        use_->click();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void TimetableImportView::refresh() {
+    spinner_->setVisible(model_->reading());
+    status_->setText(model_->status());
+    status_->setAccessibleName(model_->status());
+    refreshPickers();
+    month_->setCurrentIndex(model_->month() - 1);
+    const QSignalBlocker block(year_);
+    year_->setValue(model_->year());
+    refreshPreview();
+}
+
+void TimetableImportView::refreshPickers() {
+    QStringList captions{QStringLiteral("Not in the timetable")};
+    for (int i = 0; i < model_->columnCount(); ++i)
+        captions << model_->columnLabel(i);
+    const QStringList& prayers = TimetableImportModel::prayers();
+    for (int p = 0; p < prayers.size(); ++p) {
+        QComboBox* picker = pickers_[p];
+        if (captions != pickerCaptions_) {
+            picker->clear();
+            for (int i = 0; i < captions.size(); ++i)
+                picker->addItem(captions[i], i - 1);
+        }
+        picker->setCurrentIndex(picker->findData(model_->column(prayers[p])));
+    }
+    pickerCaptions_ = captions;
+}
+
+void TimetableImportView::refreshPreview() {
+    const DayTable days = model_->days();
+    static_cast<QGroupBox*>(previewBox_)
+        ->setTitle(QStringLiteral("3. Preview (%1 days)").arg(days.size()));
+    previewBox_->setAccessibleName(static_cast<QGroupBox*>(previewBox_)->title());
+    use_->setEnabled(!days.isEmpty());
+    while (QLayoutItem* item = previewRows_->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    const auto preview = model_->preview();
+    if (preview.isEmpty()) {
+        previewRows_->addWidget(
+            secondary(QStringLiteral("No days yet. Check the month and the columns."), this));
+        return;
+    }
+    for (const auto& [key, times] : preview) {
+        QStringList cells;
+        for (const QString& prayer : TimetableImportModel::prayers())
+            if (times.contains(prayer)) cells << prayer.left(3) + u' ' + times[prayer];
+        auto* row = new QWidget;
+        auto* layout = new QHBoxLayout(row);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(new QLabel(key, row));
+        layout->addStretch(1);
+        auto* line = new QLabel(cells.join(QStringLiteral("  ")), row);
+        line->setFont(monospaced());
+        layout->addWidget(line);
+        previewRows_->addWidget(row);
+    }
+}
+
+TimetableImportView* openTimetableImport(const QString& file, std::function<void()> onUse) {
+    static QPointer<QWidget> open;
+    if (open) open->close();
+    auto* window = new QWidget;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(QStringLiteral("Import Masjid Timetable"));
+    window->resize(640, 700);
+    const QPointer<QWidget> self(window);
+    auto* view = new TimetableImportView(
+        [self, onUse = std::move(onUse)](const DayTable& days) {
+            Timetable::merge(days);
+            if (onUse) onUse();
+            if (self) self->close();
+        },
+        [self] {
+            if (self) self->close();
+        },
+        window);
+    auto* layout = new QVBoxLayout(window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view);
+    open = window;
+    window->show();
+    window->raise();
+    window->activateWindow();
+    if (!file.isEmpty()) view->openFile(file);
+    return view;
+}
+
+} // namespace tarvanel

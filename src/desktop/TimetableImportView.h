@@ -1,0 +1,63 @@
+#pragma once
+// The import form: the sheet's text (typed, pasted, or read from a file), which column is
+// which prayer, month and year, and a preview of the days that "Use This Timetable" saves.
+#include "ocr/TimetableOCR.h"
+#include "timetable/TimetableImportModel.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QPlainTextEdit;
+class QProgressBar;
+class QPushButton;
+class QSpinBox;
+class QVBoxLayout;
+
+namespace tarvanel {
+
+class TimetableImportView : public QWidget {
+    Q_OBJECT
+public:
+    // `save` gets the day table to store; `cancel` closes. Both come from the opener.
+    TimetableImportView(std::function<void(const DayTable&)> save, std::function<void()> cancel,
+                        QWidget* parent = nullptr);
+
+    TimetableImportModel& model() { return *model_; }
+    // Reads a text, CSV, image or PDF file into the model (images on the thread pool).
+    void openFile(const QString& path);
+    void chooseFile(); // the open panel; nothing happens when it is cancelled
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void refresh();
+    void refreshPickers();
+    void refreshPreview();
+
+    std::function<void(const DayTable&)> save_;
+    std::function<void()> cancel_;
+    TimetableImportModel* model_;
+    TimetableImageReader* reader_;
+    QPlainTextEdit* editor_;
+    QProgressBar* spinner_;
+    QLabel* status_;
+    QList<QComboBox*> pickers_;
+    QComboBox* month_;
+    QSpinBox* year_;
+    QWidget* previewBox_;
+    QVBoxLayout* previewRows_;
+    QPushButton* use_;
+    QStringList pickerCaptions_;
+};
+
+// The window host until the settings window's host takes it over: title "Import Masjid
+// Timetable", 640 × 700. Opening again first closes an open one. Saving merges into
+// timetable.json, then calls `onUse` (the controller's follow-up) and closes. `file`, when not
+// empty, is read at once.
+TimetableImportView* openTimetableImport(const QString& file, std::function<void()> onUse);
+
+} // namespace tarvanel

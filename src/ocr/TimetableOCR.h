@@ -1,0 +1,44 @@
+#pragma once
+// Text recognition of a timetable photo, screenshot or PDF with Tesseract, and its running
+// beside the event loop. Needs QtGui (QImage), so it lives apart from the GUI-free core.
+#include <QImage>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+namespace tarvanel {
+
+namespace TimetableOCR {
+
+// An image file, or the first page of a PDF drawn at 300 dpi; at most `maxPixels` pixels
+// (larger ones are scaled down while they are decoded). Null when the file does not load:
+// not an image, no pages, a password.
+inline constexpr qint64 maxPixels = 12'000'000;
+QImage loadImage(const QString& path);
+
+// The sheet's text lines, top to bottom; empty when nothing was recognised or the recogniser
+// failed (one log line). Loads the English model for the call and frees it afterwards.
+QStringList lines(const QImage& image);
+
+QStringList readFile(const QString& path);
+
+// Tesseract's OpenMP threads spin against each other on a small machine (ten times slower).
+// The limit is read when the process starts, so a process without it starts itself again
+// with OMP_THREAD_LIMIT=1. Returns only when no restart was needed or it failed.
+void restartWithThreadLimit(char** argv);
+
+} // namespace TimetableOCR
+
+// Reads image files on the thread pool, one task per file; each result arrives through the
+// event loop in the order the reads finish.
+class TimetableImageReader : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+    void read(const QString& path);
+
+signals:
+    void finished(const QString& fileName, const QStringList& lines);
+};
+
+} // namespace tarvanel

@@ -1,0 +1,255 @@
+#include "timetable/TimetableImportModel.h"
+
+#include <QDate>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <algorithm>
+
+namespace tarvanel {
+
+namespace {
+
+// A timetable file is a few kilobytes; anything far bigger is not one and must not stall the
+// window while it is decoded and parsed.
+constexpr qint64 maxTextFileBytes = 1 << 20;
+
+bool isLineBreak(QChar c) {
+    const char16_t u = c.unicode();
+    return (u >= 0x0A && u <= 0x0D) || u == 0x85 || u == 0x2028 || u == 0x2029;
+}
+
+QStringList splitLines(const QString& text) {
+    QStringList lines;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (!isLineBreak(text[i])) continue;
+        lines << text.mid(start, i - start);
+        start = i + 1;
+    }
+    lines << text.mid(start);
+    return lines;
+}
+
+bool isBlank(const QString& text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
+
+QString couldNotRead(const QString& fileName) {
+    return QStringLiteral("Couldn't read any text in ") + fileName + QLatin1Char('.');
+}
+
+std::optional<QString> decodeText(const QByteArray& bytes) {
+    if (const auto bom = QStringConverter::encodingForData(bytes)) {
+        QStringDecoder decoder(*bom, QStringDecoder::Flag::Stateless);
+        QString text = decoder(bytes);
+        if (decoder.hasError()) return std::nullopt;
+        return text;
+    }
+    // UTF-16 without a mark and binary files are full of NULs, which UTF-8 would accept.
+    if (bytes.contains('\0')) return std::nullopt;
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString text = decoder(bytes);
+    if (decoder.hasError()) return std::nullopt;
+    return text;
+}
+
+} // namespace
+
+TimetableImportModel::TimetableImportModel(QObject* parent)
+    : QObject(parent), month_(QDate::currentDate().month()), year_(QDate::currentDate().year()) {}
+
+const QStringList& TimetableImportModel::prayers() {
+    static const QStringList names{QStringLiteral("Fajr"), QStringLiteral("Dhuhr"),
+                                   QStringLiteral("Asr"),  QStringLiteral("Maghrib"),
+                                   QStringLiteral("Isha"), QStringLiteral("Jumu'ah")};
+    return names;
+}
+
+QStringList TimetableImportModel::monthNames() {
+    const QLocale locale = QLocale::system();
+    QStringList names;
+    for (int m = 1; m <= 12; ++m) {
+        QString name = locale.standaloneMonthName(m, QLocale::LongFormat);
+        if (name.isEmpty()) name = QLocale::c().standaloneMonthName(m, QLocale::LongFormat);
+        names << name;
+    }
+    return names;
+}
+
+std::optional<MonthAndYear> TimetableImportModel::monthAndYear(const QString& text) {
+    const QString haystack = text.toLower();
+    const QStringList names = monthNames();
+    auto letterAt = [&](qsizetype i) {
+        return i >= 0 && i < haystack.size() && haystack[i].isLetter();
+    };
+    qsizetype bestAt = -1;
+    qsizetype bestLength = 0;
+    int bestMonth = 0;
+    for (int m = 1; m <= 12; ++m) {
+        const QString full = names[m - 1].toLower();
+        for (const QString& form : {full, full.left(3)}) {
+            if (form.isEmpty()) continue;
+            const bool shortForm = form.size() < full.size();
+            for (qsizetype at = haystack.indexOf(form); at >= 0;
+                 at = haystack.indexOf(form, at + 1)) {
+                if (letterAt(at - 1) || (shortForm && letterAt(at + form.size()))) continue;
+                if (bestAt < 0 || at < bestAt) {
+                    bestAt = at;
+                    bestLength = form.size();
+                    bestMonth = m;
+                }
+                break;
+            }
+        }
+    }
+    if (bestAt < 0) return std::nullopt;
+    static const QRegularExpression yearPattern(QStringLiteral("20\\d\\d"));
+    const QRegularExpressionMatch year = yearPattern.match(haystack.mid(bestAt + bestLength, 12));
+    MonthAndYear found{bestMonth, std::nullopt};
+    if (year.hasMatch()) found.year = year.captured().toInt();
+    return found;
+}
+
+ImportFileKind TimetableImportModel::kindOf(const QString& path) {
+    static const QStringList images{"png",  "jpg", "jpeg", "gif", "bmp",  "tif", "tiff",
+                                    "webp", "pbm", "pgm",  "ppm", "heic", "heif"};
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("pdf")) return ImportFileKind::Pdf;
+    return images.contains(suffix) ? ImportFileKind::Image : ImportFileKind::Text;
+}
+
+void TimetableImportModel::setText(const QString& text) {
+    text_ = text;
+    reparse();
+    emit textChanged();
+}
+
+void TimetableImportModel::reparse() {
+    rows_ = TimetableParser::parse(splitLines(text_));
+
+    QMap<qsizetype, int> rowsWithCount;
+    for (const ParsedRow& row : rows_)
+        ++rowsWithCount[row.times.size()];
+    columnCount_ = 0;
+    int most = 0;
+    for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it) {
+        // Ascending counts: `>=` lets the larger count win a tie.
+        if (it.value() >= most) {
+            most = it.value();
+            columnCount_ = int(it.key());
+        }
+    }
+
+    columns_ = TimetableParser::guessColumns(columnCount_);
+    columns_.insert(QStringLiteral("Jumu'ah"), -1);
+
+    const auto dated = std::find_if(rows_.begin(), rows_.end(),
+                                    [](const ParsedRow& row) { return row.date.has_value(); });
+    if (dated != rows_.end()) {
+        month_ = dated->date->month();
+        year_ = dated->date->year();
+    } else if (const auto found = monthAndYear(text_)) {
+        month_ = found->month;
+        if (found->year) year_ = *found->year;
+    }
+
+    if (rows_.isEmpty()) {
+        status_ =
+            isBlank(text_) ? QString() : QStringLiteral("No rows with prayer times found yet.");
+    } else {
+        status_ = QStringLiteral("Found %1 row%2 with %3 times each.")
+                      .arg(rows_.size())
+                      .arg(rows_.size() == 1 ? "" : "s")
+                      .arg(columnCount_);
+    }
+    emit changed();
+}
+
+void TimetableImportModel::setColumn(const QString& prayer, int position) {
+    columns_.insert(prayer, position);
+    emit changed();
+}
+
+void TimetableImportModel::setMonth(int month) {
+    if (month < 1 || month > 12 || month == month_) return;
+    month_ = month;
+    emit changed();
+}
+
+void TimetableImportModel::setYear(int year) {
+    if (year == year_) return;
+    year_ = year;
+    emit changed();
+}
+
+void TimetableImportModel::setStatus(const QString& status) {
+    status_ = status;
+    emit changed();
+}
+
+QList<ParsedRow> TimetableImportModel::usableRows() const {
+    int largest = -1;
+    for (int position : columns_)
+        largest = std::max(largest, position);
+    QList<ParsedRow> usable;
+    for (const ParsedRow& row : rows_)
+        if (row.times.size() >= largest + 1) usable << row;
+    return usable;
+}
+
+DayTable TimetableImportModel::days() const {
+    ColumnMap chosen;
+    for (auto it = columns_.begin(); it != columns_.end(); ++it)
+        if (it.value() >= 0) chosen.insert(it.key(), it.value());
+    return TimetableParser::days(usableRows(), month_, year_, chosen);
+}
+
+QList<std::pair<QString, QMap<QString, QString>>> TimetableImportModel::preview() const {
+    const DayTable table = days(); // a map: already in day-key order
+    QList<std::pair<QString, QMap<QString, QString>>> first;
+    for (auto it = table.begin(); it != table.end() && first.size() < 7; ++it)
+        first.append({it.key(), it.value()});
+    return first;
+}
+
+QString TimetableImportModel::columnLabel(int i) const {
+    QString label = QStringLiteral("Column %1").arg(i + 1);
+    const auto typical = std::find_if(rows_.begin(), rows_.end(), [this](const ParsedRow& row) {
+        return row.times.size() == columnCount_;
+    });
+    if (typical != rows_.end() && i >= 0 && i < typical->times.size())
+        label += QStringLiteral("  \u00B7  ") + typical->times[i].label();
+    return label;
+}
+
+void TimetableImportModel::loadTextFile(const QString& path) {
+    const QFileInfo info(path);
+    QFile file(path);
+    std::optional<QString> text;
+    if (info.size() <= maxTextFileBytes && file.open(QIODevice::ReadOnly))
+        text = decodeText(file.read(maxTextFileBytes + 1));
+    if (!text) {
+        setStatus(couldNotRead(info.fileName()));
+        return;
+    }
+    setText(*text);
+}
+
+void TimetableImportModel::imageReadStarted(const QString& fileName) {
+    ++readsUnderWay_;
+    setStatus(QStringLiteral("Reading ") + fileName + QStringLiteral("\u2026"));
+}
+
+void TimetableImportModel::imageReadFinished(const QString& fileName, const QStringList& lines) {
+    readsUnderWay_ = std::max(0, readsUnderWay_ - 1);
+    if (lines.isEmpty()) {
+        setStatus(couldNotRead(fileName));
+        return;
+    }
+    setText(lines.join(QLatin1Char('\n')));
+}
+
+} // namespace tarvanel

@@ -1,0 +1,83 @@
+#pragma once
+// The import window's state and logic: the sheet's text, the rows found in it, the chosen
+// columns, month and year, and the day table that "Use This Timetable" would save.
+#include "timetable/TimetableParser.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <utility>
+
+namespace tarvanel {
+
+struct MonthAndYear {
+    int month = 0; // 1-12
+    std::optional<int> year;
+    bool operator==(const MonthAndYear&) const = default;
+};
+
+// What a picked file is read as.
+enum class ImportFileKind { Text, Image, Pdf };
+
+class TimetableImportModel : public QObject {
+    Q_OBJECT
+public:
+    explicit TimetableImportModel(QObject* parent = nullptr);
+
+    // The pickers' and the preview's order: the five prayers, then "Jumu'ah".
+    static const QStringList& prayers();
+    // The locale's full month names, January first; English where the locale has none.
+    static QStringList monthNames();
+    static std::optional<MonthAndYear> monthAndYear(const QString& text);
+    static ImportFileKind kindOf(const QString& path);
+
+    const QString& text() const { return text_; }
+    void setText(const QString& text); // runs reparse
+    void reparse();
+
+    const QList<ParsedRow>& rows() const { return rows_; }
+    int columnCount() const { return columnCount_; }
+    const ColumnMap& columns() const { return columns_; }
+    int column(const QString& prayer) const { return columns_.value(prayer, -1); }
+    void setColumn(const QString& prayer, int position);
+    int month() const { return month_; }
+    void setMonth(int month);
+    int year() const { return year_; }
+    void setYear(int year);
+    const QString& status() const { return status_; }
+    bool reading() const { return readsUnderWay_ > 0; }
+
+    QList<ParsedRow> usableRows() const;
+    DayTable days() const;
+    QList<std::pair<QString, QMap<QString, QString>>> preview() const;
+    QString columnLabel(int i) const;
+
+    // A text or CSV file: UTF-8, or UTF-16/32 with a byte-order mark. Anything else (too big,
+    // binary, unreadable) leaves `text` alone and says so in `status`.
+    void loadTextFile(const QString& path);
+    // An image or PDF read elsewhere: announce it, then hand over the recognised lines. Each
+    // finished read with lines sets `text`, so the one that finishes last wins.
+    void imageReadStarted(const QString& fileName);
+    void imageReadFinished(const QString& fileName, const QStringList& lines);
+
+signals:
+    void textChanged();
+    // rows, columnCount, columns, month, year, status or reading changed.
+    void changed();
+
+private:
+    void setStatus(const QString& status);
+
+    QString text_;
+    QList<ParsedRow> rows_;
+    int columnCount_ = 0;
+    ColumnMap columns_;
+    int month_;
+    int year_;
+    QString status_;
+    int readsUnderWay_ = 0;
+};
+
+} // namespace tarvanel

@@ -1,0 +1,128 @@
+#include "timetable/TimetableImportModel.h"
+#include "support/TestEnv.h"
+#include "timetable/OcrLines.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace tarvanel;
+
+namespace {
+// "1  05:01 05:31 06:40 12:10 13:15 …": eleven times per day, the jamaat ones every other.
+QString sheet(int days, const QString& title = "Masjid timetable March 2025") {
+    QString text = title + "\nDate Fajr Jamaat Sunrise Zuhr Jamaat Asr Jamaat Maghrib Jamaat "
+                           "Isha Jamaat\n";
+    for (int d = 1; d <= days; ++d) {
+        QStringList times;
+        for (int i = 0; i < (d == 5 || d == 9 ? 10 : 11); ++i)
+            times << QString::asprintf("%d:%02d", 1 + i, d);
+        text += QString::number(d) + " Sat  " + times.join("  ") + "\r\n";
+    }
+    return text;
+}
+} // namespace
+
+TEST(TimetableImportModelTest, PastedSheetGivesRowsGuessMonthAndPreview) {
+    TimetableImportModel model;
+    model.setText(sheet(30));
+    EXPECT_EQ(model.status(), "Found 30 rows with 11 times each.");
+    EXPECT_EQ(model.columns(), ColumnMap({{"Fajr", 1},
+                                          {"Dhuhr", 4},
+                                          {"Asr", 6},
+                                          {"Maghrib", 8},
+                                          {"Isha", 10},
+                                          {"Jumu'ah", -1}}));
+    EXPECT_EQ(std::pair(model.month(), model.year()), std::pair(3, 2025));
+    EXPECT_EQ(model.columnLabel(2), "Column 3  \u00B7  3:01");
+    EXPECT_EQ(model.columnLabel(11), "Column 12");
+    // Days 5 and 9 miss Isha's column and drop out; the preview shows 7 of 28.
+    EXPECT_EQ(model.usableRows().size(), 28);
+    EXPECT_EQ(model.days().size(), 28);
+    const auto preview = model.preview();
+    ASSERT_EQ(preview.size(), 7);
+    EXPECT_EQ(preview[4].first, "2025-03-06");
+    EXPECT_EQ(preview[0].second, (QMap<QString, QString>{{"Fajr", "02:01"},
+                                                         {"Dhuhr", "05:01"},
+                                                         {"Asr", "19:01"},
+                                                         {"Maghrib", "21:01"},
+                                                         {"Isha", "23:01"}}));
+    // A pick lasts until the text changes; a dated row beats the title's month.
+    model.setColumn("Isha", -1);
+    EXPECT_EQ(model.days().size(), 30);
+    model.setText(sheet(3, "April") + "2024-02-10 5:00 6:00 7:00");
+    EXPECT_EQ(model.column("Isha"), 10);
+    EXPECT_EQ(std::pair(model.month(), model.year()), std::pair(2, 2024));
+    // Equal numbers of rows with 6 and 5 times: 6 wins.
+    model.setText("1 1:00 2:00 3:00 4:00 5:00\n2 1:00 2:00 3:00 4:00 5:00 6:00");
+    EXPECT_EQ(model.columnCount(), 6);
+    model.setText("Nothing here 12:00");
+    EXPECT_EQ(model.status(), "No rows with prayer times found yet.");
+    EXPECT_TRUE(model.days().isEmpty());
+    model.setText(" \n\u2029\t");
+    EXPECT_EQ(model.status(), "");
+}
+
+TEST(TimetableImportModelTest, MonthAndYearInFreeText) {
+    const QList<std::pair<QString, std::optional<MonthAndYear>>> cases = {
+        {"Prayer timetable \u2013 Ramadan / March 2025", MonthAndYear{3, 2025}},
+        {"Mar 2025", MonthAndYear{3, 2025}},
+        {"Marks for 2025", std::nullopt},
+        {"March", MonthAndYear{3, std::nullopt}},
+        {"SEPTEMBER ... and a long way on 2026", MonthAndYear{9, std::nullopt}},
+        {"Decemberish 2031, then jan", MonthAndYear{12, 2031}},
+        {"xmay 2025", std::nullopt}};
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(TimetableImportModel::monthAndYear(text), expected) << text.toStdString();
+}
+
+TEST(TimetableImportModelTest, FilesAndImageReadsReportInTheStatusLine) {
+    QTemporaryDir dir;
+    auto write = [&](const QString& name, const QByteArray& bytes) {
+        QFile f(dir.filePath(name));
+        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+        return f.fileName();
+    };
+    const QString csv = "date,fajr,dhuhr,asr\n1,5:00,1:00,4:00\n";
+    TimetableImportModel model;
+    model.loadTextFile(write(
+        "utf16.csv", QByteArray("\xFF\xFE") +
+                         QByteArray(reinterpret_cast<const char*>(csv.utf16()), csv.size() * 2)));
+    EXPECT_EQ(model.status(), "Found 1 row with 3 times each.");
+    for (const auto& [name, bytes] : {std::pair("bare16.csv", QByteArray("1\0,\0"
+                                                                         "5\0:\0",
+                                                                         8)),
+                                      std::pair("latin1.txt", QByteArray("5:00 \xE9")),
+                                      std::pair("big.txt", QByteArray(2 << 20, '1'))}) {
+        model.loadTextFile(write(name, bytes));
+        EXPECT_EQ(model.status(), QString("Couldn't read any text in %1.").arg(name));
+        EXPECT_EQ(model.text(), csv);
+    }
+    model.imageReadStarted("a.png");
+    model.imageReadStarted("b.pdf");
+    EXPECT_EQ(model.status(), "Reading b.pdf\u2026");
+    model.imageReadFinished("b.pdf", {"1 5:00 6:00 7:00"});
+    EXPECT_TRUE(model.reading());
+    model.imageReadFinished("a.png", {});
+    EXPECT_FALSE(model.reading());
+    EXPECT_EQ(model.status(), "Couldn't read any text in a.png.");
+    EXPECT_EQ(model.text(), "1 5:00 6:00 7:00");
+    EXPECT_EQ(TimetableImportModel::kindOf("/x/Sheet.JPG"), ImportFileKind::Image);
+    EXPECT_EQ(TimetableImportModel::kindOf("s.pdf"), ImportFileKind::Pdf);
+    EXPECT_EQ(TimetableImportModel::kindOf("s.csv"), ImportFileKind::Text);
+}
+
+TEST(TimetableImportModelTest, RecognisedWordsGroupIntoLevelLines) {
+    // Pixel boxes (y down) of a 1000 × 1000 image: two columns of text at nearly the same
+    // height, a slightly lower word, a tall header, and a line far below.
+    auto item = [](const char* text, int left, int top, int height = 20) {
+        return RecognizedItem{
+            text, OcrLines::relativeBox(left, top, left + 80, top + height, 1000, 1000)};
+    };
+    const QList<RecognizedItem> items = {item("5:12", 300, 105), item("1", 10, 100),
+                                         item("1:15", 500, 108), item("Sat", 100, 100),
+                                         item("2", 10, 200),     item("TITLE", 10, 10, 60)};
+    EXPECT_EQ(OcrLines::group(items), QStringList({"TITLE", "1   Sat   5:12   1:15", "2"}));
+    EXPECT_EQ(OcrLines::relativeBox(100, 0, 300, 50, 1000, 500), QRectF(0.1, 0.9, 0.2, 0.1));
+    EXPECT_TRUE(OcrLines::group({}).isEmpty());
+}

@@ -131,6 +131,7 @@ void AppDelegate::openSettings() {
     };
     auto model = std::make_unique<PrayerSettingsModel>(config_, !QFile::exists(configURL()),
                                                        std::move(services));
+    if (!lastGoodConfig() && lastConfigError()) model->setConfigProblem(*lastConfigError());
     platform_.openSettingsWindow(std::move(model), std::move(actions));
 }
 

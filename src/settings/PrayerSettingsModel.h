@@ -94,6 +94,14 @@ public:
     bool firstRun() const {
         return firstRun_;
     }
+    // Why config.json could not be used (its line and reason), shown above the form; empty when
+    // the settings came from the file or its absence.
+    const QString& configProblem() const {
+        return configProblem_;
+    }
+    void setConfigProblem(const QString& problem) {
+        configProblem_ = problem;
+    }
     const Config& base() const {
         return base_;
     }
@@ -153,6 +161,7 @@ private:
     TARVANEL_SETTINGS_FIELDS(TARVANEL_FIELD_MEMBER)
 #undef TARVANEL_FIELD_MEMBER
 
+    QString configProblem_;
     bool firstRun_ = false;
     Config base_;
     SettingsServices services_;

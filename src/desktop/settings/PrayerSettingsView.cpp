@@ -38,6 +38,18 @@ PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> mode
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeHeader());
+    if (!model_->configProblem().isEmpty()) {
+        const QString text = QStringLiteral("Your settings file can't be used (") +
+                             model_->configProblem() +
+                             QStringLiteral("), so nothing locks yet. Check the settings below "
+                                            "and save to start again.");
+        auto* problem = new QLabel(text, this);
+        problem->setWordWrap(true);
+        problem->setContentsMargins(20, 6, 20, 6);
+        problem->setStyleSheet(QStringLiteral("color: #c62828;"));
+        problem->setAccessibleName(text);
+        column->addWidget(problem);
+    }
 
     auto* scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);

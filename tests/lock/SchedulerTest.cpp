@@ -24,9 +24,6 @@ Config with(std::function<void(Config&)> change, Config cfg = fixedTimesConfig()
 TEST_F(SchedulerTest, RoadOfDhuhrToTheSecond) {
     DaySimulator sim(fixedTimesConfig(), at("12:30"));
     sim.runUntil(at("13:20"), [&] {
-        if (sim.now == at("13:09:59")) {
-            EXPECT_EQ(sim.app->lockState()->countdown(), "Screen unlocks in 0:01");
-        }
         if (sim.now > at("12:55") && sim.now < at("13:10")) {
             EXPECT_TRUE(sim.platform.lockWindowsUp);
             EXPECT_EQ(sim.platform.title, "🕌 Dhuhr");
@@ -190,7 +187,6 @@ TEST_F(SchedulerTest, TravellingCombinesPrayers) {
         EXPECT_EQ(sim.whats("lock:"), QStringList({"lock: Dhuhr & Asr", "lock: Maghrib & Isha"}));
         EXPECT_EQ(loadHistory().value("2026-01-14"),
                   QStringList({"Dhuhr", "Asr", "Maghrib", "Isha"}));
-        EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
     }
 }
 

@@ -21,8 +21,16 @@ namespace {
 using StatusMenuTest = SimTest;
 using Sim = DaySimulator;
 
-TEST_F(StatusMenuTest, DayRowsWaqtPartsTheNextMarkerAndTheGrid) {
-    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+// Before Fajr there is nothing to mark; once a window has ended it is qada, not elsewhere.
+TEST_F(StatusMenuTest, DayRowsTheGridAndMarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
+    DaySimulator sim(fixedTimesConfig(), at("01:00"));
+    auto mark = [&] { return sim.item("Mark as Prayed").submenu; };
+    ASSERT_EQ(mark().size(), 1);
+    EXPECT_FALSE(mark()[0].enabled);
+    EXPECT_EQ(sim.item("🔥").text, "🔥 Streak: 0 days");
+
+    sim.sleepUntil(at("12:00"));
+    sim.step();
     const MenuModel menu = sim.app->buildMenu();
     EXPECT_EQ(menu[0].text, "London — " + methodSummary(fixedTimesConfig()));
     EXPECT_TRUE(menu[1].text.endsWith(" AH")) << menu[1].text.toStdString();
@@ -43,19 +51,6 @@ TEST_F(StatusMenuTest, DayRowsWaqtPartsTheNextMarkerAndTheGrid) {
     for (const QString& row : grid)
         EXPECT_EQ(row.mid(8).split(' ').size(), 5);
 
-    sim.sleepUntil(at("19:00"));
-    sim.step();
-    EXPECT_TRUE(Sim::texts(sim.app->buildMenu()).filter("◀ next").isEmpty());
-}
-
-// Before Fajr there is nothing to mark; once a window has ended it is qada, not elsewhere.
-TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
-    DaySimulator sim(fixedTimesConfig(), at("01:00"));
-    auto mark = [&] { return sim.item("Mark as Prayed").submenu; };
-    ASSERT_EQ(mark().size(), 1);
-    EXPECT_FALSE(mark()[0].enabled);
-    EXPECT_EQ(sim.item("🔥").text, "🔥 Streak: 0 days");
-
     sim.sleepUntil(at("13:00"));
     sim.step();
     EXPECT_EQ(Sim::texts(mark()),
@@ -66,9 +61,10 @@ TEST_F(StatusMenuTest, MarkAsPrayedOffersQadaOnlyAfterTheWindowEnds) {
     EXPECT_EQ(mark()[0].text, "✓ Fajr");
     EXPECT_EQ(sim.item("🔥").text, "🔥 Streak: 1 day");
 
-    // Isha is never late; out-of-range tags do nothing.
+    // No prayer is next after Isha; Isha is never late; out-of-range tags do nothing.
     sim.sleepUntil(at("23:30"));
     sim.step();
+    EXPECT_TRUE(sim.menuTexts().filter("◀ next").isEmpty());
     EXPECT_EQ(mark().last().text, "Isha: Prayed Elsewhere");
     const HistoryMap before = loadHistory();
     for (const int tag : {5, 105, -1})

@@ -49,7 +49,6 @@ DaySimulator::DaySimulator(const std::optional<Config>& cfg, const QDateTime& st
     setLogSink([this](const QString& line) { logs << line; });
     if (cfg) saveConfig(*cfg);
     makeApp(cl);
-    launch();
 }
 
 DaySimulator::~DaySimulator() {
@@ -71,6 +70,9 @@ void DaySimulator::makeApp(const CommandLine& cl) {
         if (!didPrayAnswers.empty()) didPrayAnswers.pop_front();
         return answer;
     };
+    app->launchFinished();
+    platform.runPosted();
+    record();
 }
 
 void DaySimulator::restart(const CommandLine& cl) {
@@ -78,13 +80,6 @@ void DaySimulator::restart(const CommandLine& cl) {
     releaseInstanceLockForTesting();
     platform.lockWindowsUp = false;
     makeApp(cl);
-    launch();
-}
-
-void DaySimulator::launch() {
-    app->launchFinished();
-    platform.runPosted();
-    record();
 }
 
 void DaySimulator::step(double seconds) {
@@ -123,13 +118,6 @@ QStringList DaySimulator::timeline(const QString& prefix, int from, int length) 
     QStringList out;
     for (const QString& e : events)
         if (QStringView(e).mid(9).startsWith(prefix)) out << e.mid(from, length);
-    return out;
-}
-
-QStringList DaySimulator::logsContaining(const QString& part) const {
-    QStringList out;
-    for (const QString& line : logs)
-        if (line.contains(part)) out << line;
     return out;
 }
 

@@ -56,7 +56,7 @@ public:
     QStringList timeline(const QString& prefix = {}, int from = 0, int length = -1) const;
     QStringList whats(const QString& prefix) const { return timeline(prefix, 9); }
     QStringList times(const QString& prefix) const { return timeline(prefix, 0, 8); }
-    QStringList logsContaining(const QString& part) const;
+    QStringList logsContaining(const QString& part) const { return logs.filter(part); }
     // The texts of the status menu's top level, as it would open now.
     QStringList menuTexts() const { return texts(app->buildMenu()); }
     static QStringList texts(const QList<MenuItem>& items);
@@ -66,8 +66,7 @@ public:
 
 private:
     std::optional<MenuItem> find(const QString& prefix) const;
-    void launch(); // the launch callback at the current instant
-    void makeApp(const CommandLine& cl);
+    void makeApp(const CommandLine& cl); // and runs its launch callback at the current instant
     void record();
 
     qsizetype seenBanners_ = 0, seenShows_ = 0, seenCloses_ = 0, seenAlerts_ = 0;

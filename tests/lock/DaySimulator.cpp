@@ -1,6 +1,7 @@
 #include "DaySimulator.h"
 
 #include "app/Agent.h"
+#include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
 #include "records/Log.h"
 
@@ -23,18 +24,16 @@ QString localText(const QDateTime& instant) {
     return formatLocal(instant, QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
 }
 
-Config fixedTimesConfig(const QString& fajr, const QString& dhuhr, const QString& asr,
-                        const QString& maghrib, const QString& isha) {
+Config fixedTimesConfig(const QStringList& times) {
     Config cfg;
     cfg.locationName = QStringLiteral("London");
     cfg.latitude = 51.5074;
     cfg.longitude = -0.1278;
     cfg.method = QStringLiteral("MWL");
-    cfg.prayerOverrides = QMap<QString, QString>{{QStringLiteral("Fajr"), fajr},
-                                                 {QStringLiteral("Dhuhr"), dhuhr},
-                                                 {QStringLiteral("Asr"), asr},
-                                                 {QStringLiteral("Maghrib"), maghrib},
-                                                 {QStringLiteral("Isha"), isha}};
+    QStringList all{"06:30", "13:00", "15:00", "16:30", "18:30"};
+    cfg.prayerOverrides.emplace();
+    for (int i = 0; i < 5; ++i)
+        cfg.prayerOverrides->insert(prayerNames()[i], times.value(i, all[i]));
     return cfg;
 }
 
@@ -65,12 +64,15 @@ void DaySimulator::makeApp(const CommandLine& cl) {
         ++callChecks;
         return inCall;
     };
-    app->askDidPray = [this](const QString&) -> std::optional<bool> {
-        if (didPrayAnswers.empty()) return std::nullopt;
-        const std::optional<bool> answer = didPrayAnswers.front();
-        didPrayAnswers.pop_front();
+    app->askDidPray = [this](const QString&) {
+        const std::optional<bool> answer =
+            didPrayAnswers.empty() ? std::nullopt : didPrayAnswers.front();
+        if (!didPrayAnswers.empty()) didPrayAnswers.pop_front();
         return answer;
     };
+    app->launchFinished();
+    platform.runPosted();
+    record();
 }
 
 void DaySimulator::restart(const CommandLine& cl) {
@@ -78,13 +80,6 @@ void DaySimulator::restart(const CommandLine& cl) {
     releaseInstanceLockForTesting();
     platform.lockWindowsUp = false;
     makeApp(cl);
-    launch();
-}
-
-void DaySimulator::launch() {
-    app->launchFinished();
-    platform.runPosted();
-    record();
 }
 
 void DaySimulator::step(double seconds) {
@@ -119,32 +114,30 @@ void DaySimulator::record() {
         add(QStringLiteral("alert: ") + platform.alerts[seenAlerts_].message);
 }
 
-QStringList DaySimulator::timeline(const QString& prefix) const {
+QStringList DaySimulator::timeline(const QString& prefix, int from, int length) const {
     QStringList out;
     for (const QString& e : events)
-        if (QStringView(e).mid(9).startsWith(prefix)) out << e;
+        if (QStringView(e).mid(9).startsWith(prefix)) out << e.mid(from, length);
     return out;
 }
 
-QStringList DaySimulator::column(const QString& prefix, int from, int length) const {
+QStringList DaySimulator::texts(const QList<MenuItem>& items) {
     QStringList out;
-    for (const QString& e : timeline(prefix))
-        out << e.mid(from, length);
-    return out;
-}
-
-QStringList DaySimulator::logsContaining(const QString& part) const {
-    QStringList out;
-    for (const QString& line : logs)
-        if (line.contains(part)) out << line;
-    return out;
-}
-
-QStringList DaySimulator::menuTexts() const {
-    QStringList out;
-    for (const MenuItem& item : app->buildMenu())
+    for (const MenuItem& item : items)
         out << item.text;
     return out;
+}
+
+std::optional<MenuItem> DaySimulator::find(const QString& prefix) const {
+    for (const MenuItem& item : app->buildMenu())
+        if (item.text.startsWith(prefix)) return item;
+    return std::nullopt;
+}
+
+MenuItem DaySimulator::item(const QString& prefix) const {
+    const auto found = find(prefix);
+    EXPECT_TRUE(found) << "no menu item " << prefix.toStdString();
+    return found.value_or(MenuItem::info({}));
 }
 
 } // namespace tarvanel::test

@@ -21,16 +21,13 @@ QDateTime localAt(const QDate& date, const QString& time);
 // "2026-01-14 12:55:00.000" local: how traces and event records name an instant.
 QString localText(const QDateTime& instant);
 
-// Settings with fixed lock times, so a day's schedule is known to the second.
-Config fixedTimesConfig(const QString& fajr = QStringLiteral("06:30"),
-                        const QString& dhuhr = QStringLiteral("13:00"),
-                        const QString& asr = QStringLiteral("15:00"),
-                        const QString& maghrib = QStringLiteral("16:30"),
-                        const QString& isha = QStringLiteral("18:30"));
+// Settings with fixed lock times, so a day's schedule is known to the second. The times given
+// replace Fajr's, Dhuhr's, … in order; the rest stay 06:30 13:00 15:00 16:30 18:30.
+Config fixedTimesConfig(const QStringList& times = {});
 
 class DaySimulator {
 public:
-    // Writes cfg as config.json unless absent; the controller is created at `start`.
+    // Writes cfg as config.json unless absent; the controller is created and launched at `start`.
     DaySimulator(const std::optional<Config>& cfg, const QDateTime& start,
                  const CommandLine& cl = {});
     ~DaySimulator();
@@ -45,8 +42,6 @@ public:
     std::deque<std::optional<bool>> didPrayAnswers; // empty: the question goes to the alert
     int modalTicks = 2; // seconds that tick by while each modal question is open
 
-    // The launch callback at the current instant.
-    void launch();
     // One tick `seconds` from now; the posted work of that tick runs after it.
     void step(double seconds = 1);
     // Ticks once a second until `end` (inclusive). `check` runs after every tick under a
@@ -58,16 +53,20 @@ public:
     void restart(const CommandLine& cl = {});
 
     // Events whose text starts with `prefix`: as recorded, their texts, their local times.
-    QStringList timeline(const QString& prefix = {}) const;
-    QStringList whats(const QString& prefix) const { return column(prefix, 9, -1); }
-    QStringList times(const QString& prefix) const { return column(prefix, 0, 8); }
-    QStringList logsContaining(const QString& part) const;
+    QStringList timeline(const QString& prefix = {}, int from = 0, int length = -1) const;
+    QStringList whats(const QString& prefix) const { return timeline(prefix, 9); }
+    QStringList times(const QString& prefix) const { return timeline(prefix, 0, 8); }
+    QStringList logsContaining(const QString& part) const { return logs.filter(part); }
     // The texts of the status menu's top level, as it would open now.
-    QStringList menuTexts() const;
+    QStringList menuTexts() const { return texts(app->buildMenu()); }
+    static QStringList texts(const QList<MenuItem>& items);
+    // The first top-level item starting with `prefix` (a failure and an empty item if none).
+    MenuItem item(const QString& prefix) const;
+    bool has(const QString& prefix) const { return find(prefix).has_value(); }
 
 private:
-    void makeApp(const CommandLine& cl);
-    QStringList column(const QString& prefix, int from, int length) const;
+    std::optional<MenuItem> find(const QString& prefix) const;
+    void makeApp(const CommandLine& cl); // and runs its launch callback at the current instant
     void record();
 
     qsizetype seenBanners_ = 0, seenShows_ = 0, seenCloses_ = 0, seenAlerts_ = 0;

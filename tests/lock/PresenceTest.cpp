@@ -44,9 +44,7 @@ TEST_F(PresenceTest, DevicesInUseMeanACall) {
     file("/asound/card0/pcm0p/sub0/status", "state: RUNNING\n"); // playback does not count
     link("/proc/100/fd/1", "/dev/snd/pcmC0D0c");
     link("/proc/self/fd/3", "/dev/video0"); // not a pid: skipped
-    EXPECT_FALSE(Presence::micInUse());
-    EXPECT_FALSE(Presence::cameraInUse());
-    EXPECT_FALSE(Presence::inCall());
+    EXPECT_FALSE(Presence::micInUse() || Presence::cameraInUse() || Presence::inCall());
 
     link("/proc/2001/fd/7", "/dev/video2");
     EXPECT_TRUE(Presence::cameraInUse());
@@ -100,8 +98,7 @@ TEST(ToolRunnerTest, AnswersThroughTheEventLoopOnceWhateverHappens) {
     struct Case {
         QString program;
         QStringList args;
-        int limitMs;
-        int status;
+        int limitMs, status;
         bool timedOut;
         QByteArray output;
     };
@@ -140,15 +137,14 @@ TEST(ToolRunnerTest, AnswersThroughTheEventLoopOnceWhateverHappens) {
     EXPECT_EQ(answers, 0);
 }
 
+// Each file added outranks the last; a folder is not a sound.
 TEST_F(PresenceTest, AdhanFilePrefersMp3ThenM4aAiffWav) {
     EXPECT_FALSE(adhanFileURL().has_value());
-    writeSupportFile("adhan.wav", "x");
-    EXPECT_EQ(adhanFileURL(), supportPath("adhan.wav"));
-    writeSupportFile("adhan.aiff", "x");
-    EXPECT_EQ(adhanFileURL(), supportPath("adhan.aiff"));
-    writeSupportFile("adhan.mp3", "x");
-    EXPECT_EQ(adhanFileURL(), supportPath("adhan.mp3"));
-    QDir().mkpath(supportPath("adhan.m4a")); // a folder is not a sound
+    for (const QString name : {"adhan.wav", "adhan.aiff", "adhan.mp3"}) {
+        writeSupportFile(name, "x");
+        EXPECT_EQ(adhanFileURL(), supportPath(name));
+    }
+    QDir().mkpath(supportPath("adhan.m4a"));
     QFile::remove(supportPath("adhan.mp3"));
     EXPECT_EQ(adhanFileURL(), supportPath("adhan.aiff"));
 }

@@ -51,10 +51,8 @@ TEST_F(ExcusedTest, FileHoldsUtcSecondsReadsOffsetsAndNothingElse) {
 
     for (const char* bad :
          {R"({"start": "2025-03-01T18:00:00Z"})", R"([{"start": "2025-03-01T18:00:00"}])",
-          R"([{"start": "2025-03-01T18:00:00.5Z"}])", R"([{"start": "2025-03-01"}])",
-          R"([{"start": 1740852000}])", R"([{"end": "2025-03-01T18:00:00Z"}])",
-          R"([{"start": "2025-03-01T18:00:00Z", "end": "soon"}])",
-          R"([{"start": "2025-03-01T18:00:00Z"}, 7])", "[", ""}) {
+          R"([{"start": "2025-03-01T18:00:00.5Z"}])", R"([{"start": 1740852000}])",
+          R"([{"start": "2025-03-01T18:00:00Z", "end": "soon"}])", "["}) {
         SCOPED_TRACE(bad);
         test::writeSupportFile("excused.json", bad);
         EXPECT_TRUE(Excused::load().isEmpty());
@@ -80,20 +78,25 @@ TEST_F(ExcusedTest, BeginKeepsOneOpenPeriodAndFinishClosesIt) {
     Excused::begin(utc(2025, 3, 10));
     EXPECT_EQ(Excused::load(), QList<ExcusedRange>({{utc(2025, 3, 1, 18), utc(2025, 3, 4, 9)},
                                                     {utc(2025, 3, 10), std::nullopt}}));
-}
 
-TEST_F(ExcusedTest, AnOpenPeriodClosesItselfAtTheCurrentLimit) {
-    Excused::begin(utc(2025, 3, 1, 18));
-    const auto during = Excused::current(15, utc(2025, 3, 8, 18));
-    ASSERT_TRUE(during.has_value());
-    EXPECT_EQ(during->start, utc(2025, 3, 1, 18));
-    EXPECT_FALSE(Excused::load()[0].end.has_value());
-    // The limit is read at each call: 7.5 days end on 9 March at 06:00.
-    EXPECT_TRUE(Excused::current(7.5, utc(2025, 3, 9, 5, 59, 59)).has_value());
-    EXPECT_FALSE(Excused::current(7.5, utc(2025, 3, 9, 6)).has_value());
+    // An open period closes itself at the limit read at each call: 7.5 days end 17 March 12:00.
+    EXPECT_EQ(Excused::current(15, utc(2025, 3, 17, 18))->start, utc(2025, 3, 10));
+    EXPECT_FALSE(Excused::load()[1].end.has_value());
+    EXPECT_TRUE(Excused::current(7.5, utc(2025, 3, 17, 11, 59, 59)).has_value());
+    EXPECT_FALSE(Excused::current(7.5, utc(2025, 3, 17, 12)).has_value());
     // Closed at the limit, not at the moment of the call; closed ranges never count.
-    EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 9, 6));
-    EXPECT_FALSE(Excused::current(15, utc(2025, 3, 5)).has_value());
+    EXPECT_EQ(Excused::load()[1].end, utc(2025, 3, 17, 12));
+    EXPECT_FALSE(Excused::current(15, utc(2025, 3, 12)).has_value());
+
+    // Ending by hand logs; the alert names whole days of the limit.
+    Excused::begin(utc(2025, 3, 20, 18));
+    endExcused(utc(2025, 3, 22, 7));
+    EXPECT_EQ(logs, QStringList{"Tarvanel: no longer excused"});
+    EXPECT_EQ(Excused::load()[2].end, utc(2025, 3, 22, 7));
+    Config cfg;
+    EXPECT_EQ(excusedWholeDays(cfg), 15);
+    cfg.excusedMaxDays = 7.5;
+    EXPECT_EQ(excusedWholeDays(cfg), 7);
 }
 
 TEST_F(ExcusedTest, ContainsAndTouchesDayEdges) {
@@ -112,28 +115,17 @@ TEST_F(ExcusedTest, ContainsAndTouchesDayEdges) {
 
     // A graze of a second counts; touching the day's edge does not.
     const QDateTime day = utc(2025, 3, 5);
+    // clang-format off
     const QList<std::tuple<ExcusedRange, double, bool>> touches = {
         {{utc(2025, 3, 4, 12), utc(2025, 3, 5, 0, 0, 1)}, 15, true},
         {{utc(2025, 3, 4, 12), utc(2025, 3, 5)}, 15, false},
         {{utc(2025, 3, 5, 23, 59, 59), utc(2025, 3, 7)}, 15, true},
         {{utc(2025, 3, 6), utc(2025, 3, 7)}, 15, false},
-        {{utc(2025, 3, 1), std::nullopt}, 4.5, true},
-        {{utc(2025, 3, 1), std::nullopt}, 4, false}};
+        {{utc(2025, 3, 1), std::nullopt}, 4.5, true}, {{utc(2025, 3, 1), std::nullopt}, 4, false}};
+    // clang-format on
     for (const auto& [range, maxDays, expected] : touches)
         EXPECT_EQ(Excused::touchesDay(day, {range}, maxDays), expected)
             << range.start.toString().toStdString() << " " << maxDays;
-}
-
-TEST_F(ExcusedTest, EndingLogsAndTheAlertNamesWholeDays) {
-    Config cfg;
-    cfg.excusedMaxDays = 7.5;
-    EXPECT_EQ(excusedWholeDays(cfg), 7);
-    cfg.excusedMaxDays = std::nullopt;
-    EXPECT_EQ(excusedWholeDays(cfg), 15);
-    Excused::begin(utc(2025, 3, 1, 18));
-    endExcused(utc(2025, 3, 3, 7));
-    EXPECT_EQ(logs, QStringList{"Tarvanel: no longer excused"});
-    EXPECT_EQ(Excused::load()[0].end, utc(2025, 3, 3, 7));
 }
 
 TEST_F(ModesTest, DefaultsLiveInTheUsersConfigFolderAndUnreadableValuesAreAbsent) {
@@ -150,19 +142,12 @@ TEST_F(ModesTest, DefaultsLiveInTheUsersConfigFolderAndUnreadableValuesAreAbsent
     EXPECT_EQ(again.travellingUntil(), utc(2025, 3, 5));
     again.setPausedUntil(std::nullopt);
     EXPECT_FALSE(QSettings(path, QSettings::IniFormat).contains("pausedUntil"));
-    again.removeAll();
-    EXPECT_FALSE(QDir(UserDefaults::folder()).exists());
-    EXPECT_FALSE(again.travellingUntil().has_value());
 
     for (const QByteArray& ini :
          {QByteArray("[General]\npausedUntil=tomorrow\n"),
           QByteArray("[General]\npausedUntil=42\n"), QByteArray("\x00\xff garbage [[[", 15)}) {
         SCOPED_TRACE(ini.toStdString());
-        UserDefaults().setPausedUntil(utc(2025, 3, 2)); // recreates the file
-        QFile f(path);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(ini);
-        f.close();
+        test::writeFile(path, ini);
         UserDefaults fresh;
         EXPECT_FALSE(fresh.pausedUntil().has_value());
         // The next write replaces whatever was there.
@@ -196,7 +181,6 @@ TEST_F(ModesTest, PauseAndTravelEndAtMidnightsAndFarInstantsReadAsAbsent) {
     EXPECT_TRUE(store.isTravelling(now, true)); // a detected location
     store.setTravellingUntil(now.addDays(2));
     EXPECT_EQ(store.travellingUntil(now), now.addDays(2));
-    store.removeAll();
-    EXPECT_FALSE(QDir(UserDefaults::folder()).exists());
+    store.removeAll(); // the files go with the uninstall; the cached value goes too
     EXPECT_FALSE(store.travellingUntil(now).has_value());
 }

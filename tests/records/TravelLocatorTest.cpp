@@ -14,18 +14,16 @@ using namespace tarvanel;
 
 namespace {
 
-// A one-route HTTP server on loopback: answers every request with the scripted status and body.
-class TinyServer : public QObject {
-public:
-    int status = 200;
-    QByteArray body;
-    QStringList requestLines;
-
-    TinyServer() {
+class TravelLocatorTest : public test::ScratchTest {
+protected:
+    // A one-route HTTP server on loopback answers every request with `status` and `body`.
+    void SetUp() override {
+        ScratchTest::SetUp();
+        setLogSink([this](const QString& line) { logs << line; });
         server.listen(QHostAddress::LocalHost, 0);
-        connect(&server, &QTcpServer::newConnection, this, [this] {
+        QObject::connect(&server, &QTcpServer::newConnection, [this] {
             while (QTcpSocket* s = server.nextPendingConnection()) {
-                connect(s, &QTcpSocket::readyRead, s, [this, s] {
+                QObject::connect(s, &QTcpSocket::readyRead, s, [this, s] {
                     buffer[s] += s->readAll();
                     if (!buffer[s].contains("\r\n\r\n")) return;
                     requestLines << QString::fromLatin1(buffer[s].left(buffer[s].indexOf("\r\n")));
@@ -35,26 +33,11 @@ public:
                              body);
                     s->disconnectFromHost();
                 });
-                connect(s, &QTcpSocket::disconnected, s, &QObject::deleteLater);
+                QObject::connect(s, &QTcpSocket::disconnected, s, &QObject::deleteLater);
             }
         });
-    }
-    QUrl url() const {
-        return QUrl(QStringLiteral("http://127.0.0.1:%1/json/").arg(server.serverPort()));
-    }
-
-private:
-    QTcpServer server;
-    QHash<QTcpSocket*, QByteArray> buffer;
-};
-
-class TravelLocatorTest : public test::ScratchTest {
-protected:
-    void SetUp() override {
-        ScratchTest::SetUp();
-        setLogSink([this](const QString& line) { logs << line; });
         locator = std::make_unique<TravelLocator>();
-        locator->setEndpoint(server.url());
+        locator->setEndpoint(QUrl(QString("http://127.0.0.1:%1/json/").arg(server.serverPort())));
         locator->onScheduleInvalidated = [this] { ++invalidations; };
         cfg.latitude = 51.5074; // London
         cfg.longitude = -0.1278;
@@ -76,7 +59,11 @@ protected:
 
     QDateTime at(int hours) const { return start.addSecs(qint64(hours) * 3600); }
 
-    TinyServer server;
+    QTcpServer server;
+    QHash<QTcpSocket*, QByteArray> buffer;
+    int status = 200;
+    QByteArray body;
+    QStringList requestLines;
     std::unique_ptr<TravelLocator> locator;
     Config cfg;
     QStringList logs;
@@ -86,6 +73,7 @@ protected:
 
 const QByteArray paris =
     R"({"ip":"192.0.2.1","city":"Paris","latitude":48.8566,"longitude":2.3522})";
+const QByteArray westminster = R"({"city":"Westminster","latitude":51.4975,"longitude":-0.1357})";
 } // namespace
 
 TEST_F(TravelLocatorTest, FarRepliesAreAnnouncedSameCityIsSilentAndHomeEndsIt) {
@@ -96,21 +84,20 @@ TEST_F(TravelLocatorTest, FarRepliesAreAnnouncedSameCityIsSilentAndHomeEndsIt) {
         int invalidations;
         const char* log;
     } steps[] = {
+        // clang-format off
         {paris, TravelCoords{48.8566, 2.3522, "Paris"}, 1, "Tarvanel: travel mode \u2192 Paris"},
-        {R"({"city":"Paris","latitude":48.86,"longitude":2.36})",
-         TravelCoords{48.86, 2.36, "Paris"}, 1, nullptr},
+        {R"({"city":"Paris","latitude":48.86,"longitude":2.36})", TravelCoords{48.86, 2.36, "Paris"},
+         1, nullptr},
         {R"({"latitude": 40.4168, "longitude": -3.7038, "city": null})",
-         TravelCoords{40.4168, -3.7038, "Travelling"}, 2,
-         "Tarvanel: travel mode \u2192 Travelling"},
-        {R"({"city":"Westminster","latitude":51.4975,"longitude":-0.1357})", std::nullopt, 3,
-         "Tarvanel: travel mode \u2192 home"},
-        {R"({"city":"Westminster","latitude":51.4975,"longitude":-0.1357})", std::nullopt, 3,
-         nullptr}};
+         TravelCoords{40.4168, -3.7038, "Travelling"}, 2, "Tarvanel: travel mode \u2192 Travelling"},
+        {westminster, std::nullopt, 3, "Tarvanel: travel mode \u2192 home"},
+        {westminster, std::nullopt, 3, nullptr}};
+    // clang-format on
     QStringList expectedLogs;
     int hours = 0;
     for (const auto& step : steps) {
         SCOPED_TRACE(step.body.toStdString());
-        server.body = step.body;
+        body = step.body;
         ASSERT_TRUE(checkAndWait(at(hours)));
         EXPECT_EQ(locator->travelCoords(), step.coords);
         EXPECT_EQ(locator->lastGeoCheck(), at(hours));
@@ -119,8 +106,8 @@ TEST_F(TravelLocatorTest, FarRepliesAreAnnouncedSameCityIsSilentAndHomeEndsIt) {
         EXPECT_EQ(logs, expectedLogs);
         hours += 6;
     }
-    EXPECT_EQ(server.requestLines.size(), 5);
-    EXPECT_EQ(server.requestLines[0], "GET /json/ HTTP/1.1");
+    EXPECT_EQ(requestLines.size(), 5);
+    EXPECT_EQ(requestLines[0], "GET /json/ HTTP/1.1");
 }
 
 TEST_F(TravelLocatorTest, BadRepliesAndNoServerChangeNothingAndWaitSixHours) {
@@ -132,38 +119,33 @@ TEST_F(TravelLocatorTest, BadRepliesAndNoServerChangeNothingAndWaitSixHours) {
         {200, R"({"city": "Paris", "latitude": 48.8})"},
         {500, paris},
         {429, R"({"error": true})"}};
-    for (const auto& [status, body] : replies) {
-        SCOPED_TRACE(
-            QString("%1 %2").arg(status).arg(QString::fromLatin1(body.left(40))).toStdString());
-        server.status = status;
-        server.body = body;
+    for (const auto& [code, reply] : replies) {
+        SCOPED_TRACE(code);
+        status = code;
+        body = reply;
         locator->clear();
         ASSERT_TRUE(checkAndWait(at(0)));
         EXPECT_FALSE(locator->travelCoords().has_value());
         EXPECT_EQ(locator->lastGeoCheck(), at(0));
     }
-    EXPECT_EQ(server.requestLines.size(), replies.size());
+    EXPECT_EQ(requestLines.size(), replies.size());
     EXPECT_TRUE(logs.isEmpty());
     EXPECT_EQ(invalidations, 0);
 
     // Within six hours of the failed lookup nothing is sent.
-    server.status = 200;
-    server.body = paris;
+    status = 200;
+    body = paris;
     locator->check(cfg, at(5));
     EXPECT_EQ(locator->lastGeoCheck(), at(0));
     ASSERT_TRUE(checkAndWait(at(6)));
-    EXPECT_EQ(server.requestLines.size(), replies.size() + 1);
+    EXPECT_EQ(requestLines.size(), replies.size() + 1);
     EXPECT_TRUE(locator->travelCoords().has_value());
     logs.clear();
 
-    // No server listening is just another failed lookup.
-    QTcpServer closed;
-    ASSERT_TRUE(closed.listen(QHostAddress::LocalHost, 0));
-    const quint16 port = closed.serverPort();
-    closed.close();
+    // No server listening (port 1 on loopback refuses) is just another failed lookup.
     locator->clear(); // forgets the location and the last lookup
     EXPECT_FALSE(locator->travelCoords().has_value() || locator->lastGeoCheck().has_value());
-    locator->setEndpoint(QUrl(QStringLiteral("http://127.0.0.1:%1/json/").arg(port)));
+    locator->setEndpoint(QUrl("http://127.0.0.1:1/json/"));
     ASSERT_TRUE(checkAndWait(at(7)));
     EXPECT_FALSE(locator->travelCoords().has_value());
     EXPECT_EQ(locator->lastGeoCheck(), at(7));
@@ -171,7 +153,7 @@ TEST_F(TravelLocatorTest, BadRepliesAndNoServerChangeNothingAndWaitSixHours) {
 }
 
 TEST_F(TravelLocatorTest, TravelModeOffNeverAsksAndFiftyKilometresIsHome) {
-    server.body = paris;
+    body = paris;
     ASSERT_TRUE(checkAndWait(at(0)));
     cfg.travelMode = false; // drops the location without a log line
     locator->check(cfg, at(8));
@@ -180,7 +162,7 @@ TEST_F(TravelLocatorTest, TravelModeOffNeverAsksAndFiftyKilometresIsHome) {
     cfg.travelMode = std::nullopt; // absent counts as off
     locator->check(cfg, at(16));
     QEventLoop().processEvents();
-    EXPECT_EQ(server.requestLines.size(), 1);
+    EXPECT_EQ(requestLines.size(), 1);
     EXPECT_EQ(logs.size(), 1);
 
     // Fifty kilometres from home (here 0° N 0° E) is still home.
@@ -193,7 +175,7 @@ TEST_F(TravelLocatorTest, TravelModeOffNeverAsksAndFiftyKilometresIsHome) {
 }
 
 TEST_F(TravelLocatorTest, AReplyAfterTheLocatorIsGoneDoesNothing) {
-    server.body = paris;
+    body = paris;
     locator->check(cfg, at(0));
     locator.reset();
     // Let the request and any hand-back run; nothing may touch the destroyed locator.

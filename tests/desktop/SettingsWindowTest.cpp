@@ -7,7 +7,6 @@
 
 #include <QAbstractSpinBox>
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -45,9 +44,9 @@ TEST(SettingsWindow, FirstRunFormSavesOnlyWithALocationAndNeverOnCancel) {
     host.show("Welcome to Tarvanel", QSize(620, 780), view);
     QWidget* w = host.window();
     ASSERT_TRUE(w);
-    EXPECT_TRUE(showsText(w, "Welcome to Tarvanel"));
-    EXPECT_TRUE(showsText(w, "Get up and pray, on time"));
-    EXPECT_TRUE(showsText(w, "Find your city to begin"));
+    for (const char* text :
+         {"Welcome to Tarvanel", "Get up and pray, on time", "Find your city to begin"})
+        EXPECT_TRUE(showsText(w, text)) << text;
 
     // Every control is reachable by the name a screen reader reads.
     for (const char* name : {"City", "Find", "Method", "Lock lasts", "Reminders (minutes before)",

@@ -30,9 +30,9 @@ TEST(TimetableImportViewTest, PastedSheetFillsPickersPreviewAndSaves) {
     press(&view, Qt::Key_Return);
     EXPECT_FALSE(saved);
 
-    auto* editor = view.findChild<QPlainTextEdit*>();
-    editor->setPlainText("April 2026\n1 Wed 5:01 1:10 4:20 7:30 8:40\n2 Thu 5:02 1:11 4:21 7:31 "
-                         "8:41\n");
+    view.findChild<QPlainTextEdit*>()->setPlainText(
+        "April 2026\n1 Wed 5:01 1:10 4:20 7:30 8:40\n2 Thu 5:02 1:11 4:21 7:31 "
+        "8:41\n");
     EXPECT_TRUE(use->isEnabled());
     // Every control is named as it reads; the pickers offer "Not in the timetable" and 5 columns.
     QStringList names;
@@ -49,10 +49,7 @@ TEST(TimetableImportViewTest, PastedSheetFillsPickersPreviewAndSaves) {
     }
     EXPECT_EQ(names, QStringList({"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha", "Jumu'ah", "Month"}));
     EXPECT_EQ(view.findChild<QSpinBox*>()->text(), "2026");
-    QStringList titles;
-    for (auto* group : view.findChildren<QGroupBox*>())
-        titles << group->title();
-    EXPECT_EQ(titles.last(), "3. Preview (2 days)");
+    EXPECT_EQ(view.findChildren<QGroupBox*>().last()->title(), "3. Preview (2 days)");
     bool previewRow = false;
     for (auto* label : view.findChildren<QLabel*>())
         previewRow |= label->text() == "Faj 05:02  Dhu 13:11  Asr 16:21  Mag 19:31  Ish 20:41";

@@ -1,9 +1,9 @@
 // Recognition quality on sheets the test draws itself, and files that hold no timetable.
 #include "ocr/TimetableOCR.h"
+#include "support/TestEnv.h"
 #include "timetable/TimetableImportModel.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryDir>
@@ -129,7 +129,7 @@ double cellsRight(const QStringList& truth, const QStringList& read) {
 
 } // namespace
 
-TEST(TimetableOcrTest, EveryJamaatCellOfDrawnSheetsIsReadBack) {
+TEST(TimetableOcrTest, EveryJamaatCellOfDrawnSheetsIsReadBackAndFilesWithoutATimetableGiveNoLines) {
     // clang-format off
     const Sheet sheets[] = {
         {"clean sans 24-hour", "DejaVu Sans", 26, false, false, 0, false, false, 1.0},
@@ -153,15 +153,11 @@ TEST(TimetableOcrTest, EveryJamaatCellOfDrawnSheetsIsReadBack) {
                     timer.elapsed());
         EXPECT_GE(share, s.floor) << s.name << "\n" << read.join('\n').toStdString();
     }
-}
 
-TEST(TimetableOcrTest, FilesWithoutATimetableGiveNoLines) {
-    QTemporaryDir dir;
+    // Files that hold no timetable give no lines.
     auto file = [&](const char* name, const QByteArray& bytes) {
-        QFile f(dir.filePath(name));
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
-        return f.fileName();
+        test::writeFile(dir.filePath(name), bytes);
+        return dir.filePath(name);
     };
     QImage blank(2000, 1400, QImage::Format_Grayscale8);
     blank.fill(255);
@@ -179,12 +175,8 @@ TEST(TimetableOcrTest, FilesWithoutATimetableGiveNoLines) {
     const QString paths[] = {dir.filePath("blank.png"),        dir.filePath("huge.jpg"),
                              file("nopages.pdf", noPages),     file("locked.pdf", locked),
                              file("fake.png", "not an image"), dir.filePath("missing.pdf")};
-    for (const QString& path : paths) {
-        QElapsedTimer timer;
-        timer.start();
+    for (const QString& path : paths)
         EXPECT_EQ(TimetableOCR::readFile(path), QStringList()) << path.toStdString();
-        std::printf("%-12s read in %lld ms\n", qPrintable(path.section('/', -1)), timer.elapsed());
-    }
     EXPECT_LE(TimetableOCR::loadImage(dir.filePath("huge.jpg")).sizeInBytes(),
               TimetableOCR::maxPixels * 4);
 }

@@ -32,7 +32,7 @@ bool opaque(const QColor& c) {
 }
 } // namespace
 
-TEST(TrayIcon, MinutesAreReadOnlyFromAShortCountdown) {
+TEST(TrayIcon, MinutesFromAShortCountdownPaintedInTheTitlesColourReadableOnAnyPanel) {
     const QList<std::pair<QString, std::optional<QString>>> cases = {
         {"🕌 Dhuhr in 23m", "23"},
         {"🌙 Iftar in 0m", "0"},
@@ -43,9 +43,7 @@ TEST(TrayIcon, MinutesAreReadOnlyFromAShortCountdown) {
         {"🕌", {}}};
     for (const auto& [title, minutes] : cases)
         EXPECT_EQ(titleMinutes(title), minutes) << title.toStdString();
-}
 
-TEST(TrayIcon, PaintedInTheTitlesColourWithMinutesWhereTheyFitReadableOnAnyPanel) {
     struct Case {
         const char* title;
         TitleColor colour;
@@ -111,9 +109,8 @@ TEST(TrayMenu, BuiltAfreshFromTheCoresModelEachTimeItOpens) {
     EXPECT_FALSE(actions[0]->isEnabled());
     EXPECT_TRUE(actions[1]->isSeparator());
     EXPECT_FALSE(actions[2]->isEnabled());
-    const QFontInfo gridFont(actions[2]->font());
-    EXPECT_TRUE(gridFont.fixedPitch() || gridFont.family().contains("Mono"))
-        << gridFont.family().toStdString();
+    const QFontInfo grid(actions[2]->font());
+    EXPECT_TRUE(grid.fixedPitch() || grid.family().contains("Mono")) << grid.family().toStdString();
     ASSERT_NE(actions[3]->menu(), nullptr);
     EXPECT_TRUE(actions[3]->isEnabled()); // a submenu opens even from an information item
     const QList<QAction*> sub = actions[3]->menu()->actions();

@@ -13,7 +13,7 @@ QDateTime noonOf(int y, int m, int d) {
 }
 } // namespace
 
-TEST_F(HijriTest, UmmAlQuraDatesAndRamadanInEnglishWhateverTheLanguage) {
+TEST_F(HijriTest, UmmAlQuraDatesAndRamadanInEnglishOnTheLocalDateWhateverTheLanguage) {
     qputenv("LC_ALL", "ar_SA.UTF-8"); // an Arabic-speaking user still gets English, Western digits
     qputenv("LANG", "ar_SA.UTF-8");
     EXPECT_EQ(hijriString(noonOf(2025, 3, 14)), "14 Ramadan 1446 AH");
@@ -28,9 +28,6 @@ TEST_F(HijriTest, UmmAlQuraDatesAndRamadanInEnglishWhateverTheLanguage) {
     for (int year : {1, 1600, 2200, 9999})
         EXPECT_GT(hijriString(startOfLocalDay(QDate(year, 6, 1))).size(), 3) << year;
     EXPECT_EQ(hijriString(QDateTime()), " AH");
-}
-
-TEST_F(HijriTest, FollowsTheLocalDateNotUtc) {
     // 23:30 UTC on 17 February 2026 is already 18 February (1 Ramadan) in Tokyo.
     const QDateTime instant(QDate(2026, 2, 17), QTime(23, 30), Qt::UTC);
     test::setTimeZone("Asia/Tokyo");
@@ -40,7 +37,7 @@ TEST_F(HijriTest, FollowsTheLocalDateNotUtc) {
     EXPECT_FALSE(isRamadan(instant));
 }
 
-TEST(QuotesTest, PickFollowsThePrayer) {
+TEST(QuotesAndMethods, PickFollowsThePrayerAndMethodsAreKnownByIdOrAngles) {
     const QList<Quote>& q = quotes();
     ASSERT_EQ(q.size(), 21);
     const auto isGeneral = [](const Quote& quote) { return quote.prayers.isEmpty(); };
@@ -57,9 +54,7 @@ TEST(QuotesTest, PickFollowsThePrayer) {
     for (int i = 0; i < 6000; ++i)
         specific += pickQuote("Isha") == q[18];
     EXPECT_NEAR(specific / 6000.0, 2.0 / 3, 0.05);
-}
 
-TEST(CalcMethodsTest, RecognisesMethodsFromIdOrAngles) {
     Config c;
     EXPECT_EQ(methodSummary(c), "Standard Asr, Muslim World League");
     c.ishaAngle = 18;

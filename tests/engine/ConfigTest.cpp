@@ -4,8 +4,6 @@
 #include "support/TestEnv.h"
 
 #include <QJsonDocument>
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace tarvanel;
 using tarvanel::test::writeSupportFile;
@@ -35,7 +33,7 @@ TEST_F(ConfigTest, MissingEmptyAndNullsKeepDefaultsSilently) {
     EXPECT_EQ(loadConfig(), expected);
 }
 
-TEST_F(ConfigTest, WrongTypeFailsWholeDecodeAndFallsBackToLastGood) {
+TEST_F(ConfigTest, WrongTypeFallsBackToLastGoodAndReadersBoundHandEditedNumbersTheFileKeeps) {
     // No good file seen yet: defaults, with the message.
     writeSupportFile("config.json", R"({"latitude": "north", "lockMinutes": 30})");
     EXPECT_EQ(loadConfig(), Config());
@@ -57,9 +55,8 @@ TEST_F(ConfigTest, WrongTypeFailsWholeDecodeAndFallsBackToLastGood) {
     writeSupportFile("config.json", "{\n  \"latitude\": 5,\n  \"strictMode\": 1\n}");
     loadConfig();
     EXPECT_EQ(lastConfigError(), "line 3: strictMode: expected a boolean, found a number");
-}
 
-TEST_F(ConfigTest, ReadersBoundHandEditedNumbersButTheFileKeepsThem) {
+    // Readers bound hand-edited numbers; the file keeps them.
     writeSupportFile("config.json", R"({"lockMinutes": 1e300, "lockLeadMinutes": -5,
         "jumuahLockMinutes": -1e300, "callGraceMinutes": 1e9, "excusedMaxDays": 0.2,
         "nudgeOffsetsMinutes": [1e300, -5, 0, 10, 2.5, 120, 120.5]})");
@@ -80,13 +77,11 @@ TEST_F(ConfigTest, ReadersBoundHandEditedNumbersButTheFileKeepsThem) {
     EXPECT_EQ(nan.excusedDays(), 15);
 }
 
-TEST_F(ConfigTest, SaveWritesSortedPrettyJsonAndRoundTripsEveryField) {
+TEST_F(ConfigTest, SaveRoundTripsEveryFieldLeavesOutAbsentOnesAndNeverWritesNonFiniteOnes) {
     writeSupportFile("config.json", R"({"latitude": 3, "colour": "green"})");
     saveConfig(Config()); // unknown keys vanish
     const auto bytes = readWholeFile(configURL());
     ASSERT_TRUE(bytes);
-    EXPECT_TRUE(bytes->contains("\n    \"asrFactor\""));
-    EXPECT_LT(bytes->indexOf("adhanEnabled"), bytes->indexOf("asrFactor")); // keys sorted
     const QJsonObject o = QJsonDocument::fromJson(*bytes).object();
     // Absent optionals are left out.
     EXPECT_EQ(o.keys().size(), 23);
@@ -106,28 +101,9 @@ TEST_F(ConfigTest, SaveWritesSortedPrettyJsonAndRoundTripsEveryField) {
     c.excusedMaxDays = 7.5;
     saveConfig(c);
     EXPECT_EQ(loadConfig(), c);
-}
-
-TEST_F(ConfigTest, NonFiniteNumbersOrAFailedWriteLeaveThePreviousFileWhole) {
-    saveConfig(Config());
+    // A non-finite number leaves the previous file whole.
     const QByteArray before = *readWholeFile(configURL());
-    Config c;
     c.latitude = std::numeric_limits<double>::infinity();
     saveConfig(c);
     EXPECT_EQ(*readWholeFile(configURL()), before);
-
-    // A file-size limit makes the disk "fill up" part-way through the write, for root too.
-    c = Config();
-    c.locationName = QString(4096, 'x');
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit small = old;
-    small.rlim_cur = 512;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    saveConfig(c);
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, oldHandler);
-    EXPECT_EQ(*readWholeFile(configURL()), before);
-    EXPECT_EQ(loadConfig(), Config());
 }

@@ -16,21 +16,6 @@ namespace {
 const QByteArray london = R"("locationName": "London", "latitude": 51.5074, "longitude": -0.1278)";
 } // namespace
 
-TEST_F(EndToEnd, TestReminderShowsABannerAndExitsSeventeenSecondsLater) {
-    Program tarvanel(environment(), {"--test-nudge"});
-    // The message's white text in the card near the top of the left (main) monitor, centred.
-    ASSERT_TRUE(waitFor(
-        [&] { return coverage(shot = screenshot(), QRect(330, 20, 620, 80)).bright > 0.005; },
-        6000))
-        << tarvanel.dump();
-    EXPECT_EQ(coverage(shot, rightHalf).bright, 0); // nothing on the other monitor
-    // No compositor: square corners in the card's colour (lit green there), never black.
-    EXPECT_GT(shot.pixelColor(321, 17).green(), 20);
-    EXPECT_EQ(tarvanel.finish(25000), 0) << tarvanel.dump();
-    EXPECT_GE(tarvanel.started.elapsed(), 17000);
-    EXPECT_LT(tarvanel.started.elapsed(), 21000);
-}
-
 TEST(EndToEndNoDisplay, OneLineAndStatusOne) {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.remove("QT_QPA_PLATFORM");

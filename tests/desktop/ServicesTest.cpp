@@ -147,13 +147,6 @@ TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxTheAnswersAndTheDatesMinimum) {
 
 TEST(QtPlatform, EventLoopServicesAndOneSettingsWindow) {
     QtPlatform platform;
-    QStringList order;
-    platform.post([&] { order << "posted"; });
-    platform.singleShot(50, [&] { order << "later"; });
-    order << "now";
-    waitFor([&] { return order.size() == 3; }, 2000);
-    EXPECT_EQ(order, (QStringList{"now", "posted", "later"}));
-
     EXPECT_EQ(platform.screenCount(), 2);
     EXPECT_FALSE(platform.settingsWindowOpen());
     platform.openSettingsWindow(std::make_unique<PrayerSettingsModel>(Config(), true), {});

@@ -64,22 +64,6 @@ TEST_F(SchedulerTest, WholeDaysLockEachPrayerOnceAndAskAboutCallsOnlyWhenDue) {
     }
 }
 
-TEST_F(SchedulerTest, ReminderMinutesCountFromTheTickAndTheTailFollowsTheOffset) {
-    DaySimulator sim(with([](Config& c) {
-                         c.nudgeOffsetsMinutes = {10, 2.5};
-                         c.lockLeadMinutes = 0;
-                     }),
-                     at("12:49:59.5"));
-    sim.runUntil(at("12:58"));
-    EXPECT_EQ(sim.whats("banner:"),
-              QStringList(
-                  {"banner: 🕌  Dhuhr in 10 minutes. Start finishing up.",
-                   "banner: 🕌  Dhuhr in 3 min — the screen is about to lock. Go make wudu."}));
-    // 2.5 minutes takes the last wording but stays in the normal style; its key is truncated.
-    EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::normal);
-    EXPECT_EQ(sim.platform.banners.last().seconds, 16);
-}
-
 TEST_F(SchedulerTest, SleepBeforeInsideAndAfterAWindow) {
     DaySimulator sim(fixedTimesConfig(), at("06:00"));
     sim.sleepUntil(at("06:22")); // wakes before Fajr's window: only the old reminders are skipped

@@ -188,27 +188,6 @@ TEST_F(SettingsModel, GuardianCodeTypedWithASpaceIsAccepted) {
     EXPECT_FALSE(Guardian::isSet());
 }
 
-TEST_F(SettingsModel, CalendarAccessAnsweredFromAnotherThread) {
-    SettingsServices s = services();
-    bool grant = false;
-    s.calendarAuthorized = [] { return false; };
-    s.requestCalendarAccess = [&grant](std::function<void(bool)> done) {
-        std::thread([done, g = grant] { done(g); }).detach();
-    };
-    s.writableCalendars = [] { return QList<CalendarChoice>{{"acct/work", "Work", "acct"}}; };
-    PrayerSettingsModel m(Config(), false, s);
-    m.calendarToggled(true);
-    EXPECT_EQ(m.calendarMessage(), "Asking for Calendar access…");
-    ASSERT_TRUE(waitFor([&] { return !m.calendarSync(); }));
-    EXPECT_EQ(m.calendarMessage(), "Calendar access is off. Turn on Tarvanel in System Settings → "
-                                   "Privacy & Security → Calendars.");
-    grant = true;
-    m.calendarToggled(true);
-    ASSERT_TRUE(waitFor([&] { return !m.calendars().isEmpty(); }));
-    EXPECT_TRUE(m.calendarSync() && m.calendarMessage().isEmpty());
-    EXPECT_FALSE(m.makeConfig().calendarSync.value()); // on, but no calendar chosen yet
-}
-
 TEST(CitySearch, FoldsSpellingsAndPrefersTheMostPopulous) {
     EXPECT_EQ(foldPlaceName("  KÖLN-Süd "), "koln sud");
     const QString table = R"(Mecca|Makkah al Mukarramah|SA;Koln|Cologne|DE;Köln|Cologne|DE

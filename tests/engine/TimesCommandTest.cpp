@@ -86,7 +86,9 @@ TEST_F(TimesCommandTest,
     EXPECT_TRUE(typo.out.isEmpty());
     EXPECT_TRUE(typo.err.startsWith("tarvanel: unknown option --tims\nUsage: tarvanel"));
 
-    // Clock-change days print the same table whatever the hour.
+    // Clock-change days print the same table whatever the hour. libfaketime cannot be preloaded
+    // ahead of the address sanitizer's runtime, so the sanitizer build leaves this to the other.
+#ifndef __SANITIZE_ADDRESS__
     for (auto [zone, day] :
          {std::pair{"Europe/London", "2025-03-30"}, std::pair{"Europe/London", "2025-10-26"},
           std::pair{"America/New_York", "2025-11-02"},
@@ -96,6 +98,7 @@ TEST_F(TimesCommandTest,
         ASSERT_EQ(asked.status, 0);
         EXPECT_EQ(run({"--times"}, zone, QString(day) + " 15:00:00").out, asked.out);
     }
+#endif
 
     // Values, files and mistyped options as parsed.
     const auto parse = [](const QStringList& args) {

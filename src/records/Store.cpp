@@ -5,20 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonParseError>
-#include <sys/stat.h>
 
 namespace tarvanel {
-
-StoreStamp StoreStamp::of(const QString& path) {
-    struct stat st {};
-    if (::stat(QFile::encodeName(path).constData(), &st) != 0) return {};
-    return {true,
-            qint64(st.st_mtim.tv_sec),
-            qint64(st.st_mtim.tv_nsec),
-            qint64(st.st_size),
-            quint64(st.st_ino),
-            quint64(st.st_dev)};
-}
 
 StoreFile::StoreFile(QString name, QJsonDocument::JsonFormat format, bool createsFolder)
     : name_(std::move(name)), format_(format), createsFolder_(createsFolder) {}
@@ -30,7 +18,7 @@ QString StoreFile::path() const {
 bool StoreFile::changed() const {
     if (!known_) return true;
     const QString p = path();
-    return p != knownPath_ || StoreStamp::of(p) != stamp_;
+    return p != knownPath_ || FileStamp::of(QFile::encodeName(p)) != stamp_;
 }
 
 std::optional<QJsonDocument> StoreFile::read() {
@@ -38,7 +26,7 @@ std::optional<QJsonDocument> StoreFile::read() {
     knownPath_ = p;
     known_ = true;
     stuck_ = false;
-    stamp_ = StoreStamp::of(p);
+    stamp_ = FileStamp::of(QFile::encodeName(p));
     if (!stamp_.exists) return std::nullopt;
     makeOwnerOnly(p);
     QString error;
@@ -67,7 +55,7 @@ void StoreFile::setAside(const QString& reason) {
     if (stuck_)
         stuckReason_ = reason;
     else
-        stamp_ = StoreStamp::of(p);
+        stamp_ = FileStamp::of(QFile::encodeName(p));
 }
 
 bool StoreFile::write(const QJsonDocument& doc) {
@@ -84,7 +72,7 @@ bool StoreFile::write(const QJsonDocument& doc) {
     if (!writeFileAtomically(p, doc.toJson(format_))) return false;
     knownPath_ = p;
     known_ = true;
-    stamp_ = StoreStamp::of(p);
+    stamp_ = FileStamp::of(QFile::encodeName(p));
     return true;
 }
 
@@ -94,7 +82,7 @@ bool StoreFile::remove() {
     knownPath_ = p;
     known_ = removed; // a file that stayed is read again
     stuck_ = false;
-    stamp_ = StoreStamp::of(p);
+    stamp_ = FileStamp::of(QFile::encodeName(p));
     return removed;
 }
 

@@ -2,21 +2,14 @@
 // One JSON file in supportDir held in memory. The file is read again only when its stamp (size,
 // modification time, inode) changes; save() and remove() are the cache's one invalidation point.
 // A file that exists but does not parse or decode is moved aside, never overwritten.
+#include "records/FileStamp.h"
+
 #include <QJsonDocument>
 #include <QString>
 #include <functional>
 #include <optional>
 
 namespace tarvanel {
-
-// What tells a rewritten file from the one read before: one stat, no read.
-struct StoreStamp {
-    bool exists = false;
-    qint64 seconds = 0, nanoseconds = 0, size = 0;
-    quint64 inode = 0, device = 0;
-    static StoreStamp of(const QString& path);
-    bool operator==(const StoreStamp&) const = default;
-};
 
 class StoreFile {
 public:
@@ -41,7 +34,7 @@ private:
     QJsonDocument::JsonFormat format_;
     bool createsFolder_;
     bool known_ = false, stuck_ = false;
-    StoreStamp stamp_;
+    FileStamp stamp_;
 };
 
 template <typename T> class JsonStore {

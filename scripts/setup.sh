@@ -9,7 +9,7 @@ packages=(
     qt6-base-dev qt6-multimedia-dev libicu-dev libqrencode-dev libical-dev khal
     gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core fonts-noto-color-emoji tzdata
     libxcb1-dev
-    libtesseract-dev tesseract-ocr-eng libpoppler-qt6-dev
+    libtesseract-dev libleptonica-dev tesseract-ocr-eng libpoppler-qt6-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     libgeonames-dev
     python3-pyatspi at-spi2-core dbus-daemon

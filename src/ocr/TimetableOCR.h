@@ -1,6 +1,8 @@
 #pragma once
 // Text recognition of a timetable photo, screenshot or PDF with Tesseract, and its running
 // beside the event loop. Needs QtGui (QImage), so it lives apart from the GUI-free core.
+#include "ocr/PageImage.h"
+
 #include <QImage>
 #include <QObject>
 #include <QString>
@@ -10,10 +12,8 @@ namespace tarvanel {
 
 namespace TimetableOCR {
 
-// An image file, or the first page of a PDF drawn at 300 dpi; at most `maxPixels` pixels
-// (larger ones are scaled down while they are decoded). Null when the file does not load:
-// not an image, no pages, a password.
-inline constexpr qint64 maxPixels = 12'000'000;
+using PageImage::maxPixels;
+// See PageImage::load.
 QImage loadImage(const QString& path);
 
 // The sheet's text lines, top to bottom; empty when nothing was recognised or the recogniser

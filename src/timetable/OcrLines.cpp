@@ -1,11 +1,16 @@
 #include "timetable/OcrLines.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace tarvanel::OcrLines {
 
-QStringList group(const QList<RecognizedItem>& items) {
+namespace {
+
+// Item indices per line, top to bottom, each line left to right.
+QList<QList<qsizetype>> lineIndices(const QList<RecognizedItem>& items) {
     if (items.isEmpty()) return {};
     QList<qreal> heights;
     for (const RecognizedItem& item : items)
@@ -13,30 +18,169 @@ QStringList group(const QList<RecognizedItem>& items) {
     std::sort(heights.begin(), heights.end());
     const qreal typical = heights[heights.size() / 2];
 
-    QList<RecognizedItem> sorted = items;
-    auto middle = [](const RecognizedItem& item) { return item.box.center().y(); };
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [&](const auto& a, const auto& b) { return middle(a) > middle(b); });
+    QList<qsizetype> order(items.size());
+    std::iota(order.begin(), order.end(), 0);
+    auto middle = [&](qsizetype i) { return items[i].box.center().y(); };
+    std::stable_sort(order.begin(), order.end(),
+                     [&](qsizetype a, qsizetype b) { return middle(a) > middle(b); });
 
-    QList<QList<RecognizedItem>> lines;
-    for (const RecognizedItem& item : sorted) {
-        if (!lines.isEmpty() &&
-            std::abs(middle(item) - middle(lines.last().first())) < 0.6 * typical)
-            lines.last() << item;
+    QList<QList<qsizetype>> lines;
+    for (qsizetype i : order) {
+        if (!lines.isEmpty() && std::abs(middle(i) - middle(lines.last().first())) < 0.6 * typical)
+            lines.last() << i;
         else
-            lines.append({item});
+            lines.append(QList<qsizetype>{i});
     }
+    for (QList<qsizetype>& line : lines)
+        std::stable_sort(line.begin(), line.end(), [&](qsizetype a, qsizetype b) {
+            return items[a].box.left() < items[b].box.left();
+        });
+    return lines;
+}
 
+bool isMeridiem(const QString& word) {
+    static const QRegularExpression re(QStringLiteral("^[AaPp]\\.?[Mm]\\.?$"));
+    return re.match(word).hasMatch();
+}
+
+} // namespace
+
+bool isTime(const QString& word) {
+    static const QRegularExpression re(
+        QStringLiteral("^([01]?\\d|2[0-3])[:.][0-5]\\d( ?[AaPp]\\.?[Mm]\\.?)?$"));
+    return re.match(word).hasMatch();
+}
+
+bool isDay(const QString& word) {
+    static const QRegularExpression re(QStringLiteral("^([1-9]|[12]\\d|3[01])$"));
+    return re.match(word).hasMatch();
+}
+
+QStringList group(const QList<RecognizedItem>& items) {
     QStringList out;
-    for (QList<RecognizedItem>& line : lines) {
-        std::stable_sort(line.begin(), line.end(),
-                         [](const auto& a, const auto& b) { return a.box.left() < b.box.left(); });
+    for (const QList<qsizetype>& line : lineIndices(items)) {
         QStringList texts;
-        for (const RecognizedItem& item : line)
-            texts << item.text;
+        for (qsizetype i : line)
+            texts << items[i].text;
         out << texts.join(QStringLiteral("   "));
     }
     return out;
+}
+
+namespace {
+
+// Minutes on a twelve-hour dial: a sheet may print 13:05 or 1:05 for the same time.
+int dialMinutes(const QString& time) {
+    const qsizetype colon = time.indexOf(QRegularExpression(QStringLiteral("[:.]")));
+    return (time.left(colon).toInt() % 12) * 60 + time.mid(colon + 1, 2).toInt();
+}
+
+int dialDistance(int a, int b) {
+    const int d = std::abs(a - b) % 720;
+    return std::min(d, 720 - d);
+}
+
+int midway(int a, int b) {
+    int d = (b - a + 720) % 720;
+    if (d > 360) d -= 720;
+    return (a + d / 2 + 720) % 720;
+}
+
+} // namespace
+
+QString timeCharacters(const QList<RecognizedItem>& items) {
+    QString allowed = QStringLiteral("0123456789:.");
+    for (const RecognizedItem& item : items)
+        if (isTime(item.text) || isMeridiem(item.text))
+            for (QChar c : item.text)
+                if (c.isLetter() && !allowed.contains(c)) allowed += c;
+    return allowed;
+}
+
+QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
+    const QList<QList<qsizetype>> lines = lineIndices(items);
+    QList<qsizetype> table; // the lines that read as rows of times
+    for (qsizetype l = 0; l < lines.size(); ++l)
+        if (std::count_if(lines[l].begin(), lines[l].end(),
+                          [&](qsizetype i) { return isTime(items[i].text); }) >= 3)
+            table << l;
+    if (table.size() < 2) return {};
+
+    // The clean time of another line that stands in the same column as item i.
+    auto timeBelowOrAbove = [&](qsizetype line, qsizetype i) -> qsizetype {
+        const qreal x = items[i].box.center().x();
+        for (qsizetype j : lines[line])
+            if (isTime(items[j].text) && items[j].box.left() <= x && x <= items[j].box.right())
+                return j;
+        return -1;
+    };
+
+    QList<Doubt> doubts;
+    // A word stands in a column of times when clean times of several other rows span its
+    // middle. Only lines between the table's first and last row count: the heading above
+    // the time columns is no time.
+    const int evidence = std::max<int>(2, int(table.size() / 3));
+    for (qsizetype l = table.first(); l <= table.last(); ++l) {
+        for (qsizetype i : lines[l]) {
+            if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
+            const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
+                return t != l && timeBelowOrAbove(t, i) >= 0;
+            });
+            if (rows >= evidence) doubts.append({i, Doubt::Time});
+        }
+    }
+
+    // A printed time moves by a minute or two from day to day. One that stands apart from the
+    // agreeing days above and below it is likely misread (1 for 7, 3 for 8).
+    for (qsizetype k = 1; k + 1 < table.size(); ++k) {
+        for (qsizetype i : lines[table[k]]) {
+            if (!isTime(items[i].text)) continue;
+            const qsizetype above = timeBelowOrAbove(table[k - 1], i);
+            const qsizetype below = timeBelowOrAbove(table[k + 1], i);
+            if (above < 0 || below < 0) continue;
+            const int a = dialMinutes(items[above].text), b = dialMinutes(items[below].text);
+            const int x = dialMinutes(items[i].text);
+            if (dialDistance(a, b) <= 4 && std::min(dialDistance(x, a), dialDistance(x, b)) >= 4)
+                doubts.append({i, Doubt::Time, midway(a, b)});
+        }
+    }
+
+    // Day numbers down the first column: one that is no number, or breaks the count between
+    // its neighbours, is read again; the count tells what it should be.
+    QList<qsizetype> firsts;
+    for (qsizetype l : table)
+        firsts << lines[l].first();
+    const auto days = std::count_if(firsts.begin(), firsts.end(),
+                                    [&](qsizetype i) { return isDay(items[i].text); });
+    if (days * 2 < firsts.size()) return doubts;
+    auto day = [&](qsizetype k) {
+        return k >= 0 && k < firsts.size() && isDay(items[firsts[k]].text)
+                   ? items[firsts[k]].text.toInt()
+                   : -1;
+    };
+    for (qsizetype k = 0; k < firsts.size(); ++k) {
+        const int before = day(k - 1), after = day(k + 1);
+        const int counted = before > 0 && (after < 0 || after == before + 2) ? before + 1
+                            : after > 1 && before < 0                        ? after - 1
+                                                                             : -1;
+        if (day(k) < 0 || (counted > 0 && day(k) != counted))
+            doubts.append({firsts[k], Doubt::Day, counted});
+    }
+    return doubts;
+}
+
+QString settle(const Doubt& doubt, const QString& first, const QString& second) {
+    if (doubt.kind == Doubt::Day) {
+        if (doubt.expected > 0 && isDay(QString::number(doubt.expected)))
+            return QString::number(doubt.expected);
+        return isDay(second) ? second : first;
+    }
+    if (!isTime(second)) return first;
+    if (doubt.expected < 0 || !isTime(first)) return second;
+    return dialDistance(dialMinutes(second), doubt.expected) <
+                   dialDistance(dialMinutes(first), doubt.expected)
+               ? second
+               : first;
 }
 
 QRectF relativeBox(int left, int top, int right, int bottom, int width, int height) {

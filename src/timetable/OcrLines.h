@@ -21,6 +21,31 @@ namespace OcrLines {
 // three spaces.
 QStringList group(const QList<RecognizedItem>& items);
 
+// A word that stands where a table's times or day numbers stand but does not read as one;
+// worth reading again with only the characters those are written with.
+struct Doubt {
+    enum Kind { Time, Day };
+    qsizetype item;
+    Kind kind;
+    // What the neighbouring rows say it should be: minutes on a twelve-hour dial for a time
+    // that stands apart from the days around it, the day the count gives for a day number;
+    // -1 when they say nothing.
+    int expected = -1;
+};
+QList<Doubt> doubtful(const QList<RecognizedItem>& items);
+// The text to keep for a doubtful item read `first` and then, with fewer characters allowed,
+// `second`: a second reading that is no time or day never wins, nor one further from what the
+// neighbours say; a day the count gives wins over both readings.
+QString settle(const Doubt& doubt, const QString& first, const QString& second);
+
+// The characters the page's clean times are written with: digits, separators and the letters
+// of its am/pm markers, in the case the page prints them.
+QString timeCharacters(const QList<RecognizedItem>& items);
+
+// One clock time ("5:12", "13.05", "5:12pm", "5:12 am") or one day of the month, whole.
+bool isTime(const QString& word);
+bool isDay(const QString& word);
+
 // A box in pixels (y down, as recognisers report it) made image-relative with y up.
 QRectF relativeBox(int left, int top, int right, int bottom, int width, int height);
 

@@ -22,7 +22,7 @@ struct Sheet {
     double tilt = 0;       // degrees
     bool degraded = false; // blurred, unevenly lit, saved as JPEG
     bool pdf = false;
-    // The aim is every cell; this is what today's tuning reaches, kept from slipping back.
+    // Every cell of a clean sheet; a photo may lose one cell in fifty.
     double floor = 1.0;
 };
 
@@ -132,14 +132,14 @@ double cellsRight(const QStringList& truth, const QStringList& read) {
 TEST(TimetableOcrTest, EveryJamaatCellOfDrawnSheetsIsReadBackAndFilesWithoutATimetableGiveNoLines) {
     // clang-format off
     const Sheet sheets[] = {
-        {"clean sans 24-hour", "DejaVu Sans", 26, false, false, 0, false, false, 1.0},
-        {"clean serif 12-hour", "Nimbus Roman", 30, true, false, 0, false, false, 0.75},
-        {"clean small am/pm screenshot", "Noto Sans", 16, true, true, 0, false, false, 1.0},
-        {"clean mono am/pm", "DejaVu Sans Mono", 24, true, true, 0, false, false, 0.85},
-        {"pdf serif", "C059", 22, true, false, 0, false, true, 0.85},
-        {"photo tilted 1 degree", "Nimbus Sans", 28, false, false, 1.0, false, false, 0.95},
-        {"photo blurred and shaded", "DejaVu Serif", 30, true, false, 0, true, false, 0.45},
-        {"photo tilted, blurred, am/pm", "Noto Sans", 30, true, true, -1.0, true, false, 0.0}};
+        {"clean sans 24-hour", "DejaVu Sans", 26, false, false},
+        {"clean serif 12-hour", "Nimbus Roman", 30, true, false},
+        {"clean small am/pm screenshot", "Noto Sans", 16, true, true},
+        {"clean mono am/pm", "DejaVu Sans Mono", 24, true, true},
+        {"pdf serif", "C059", 22, true, false, 0, false, true},
+        {"photo tilted 1 degree", "Nimbus Sans", 28, false, false, 1.0, false, false, 0.98},
+        {"photo blurred and shaded", "DejaVu Serif", 30, true, false, 0, true, false, 0.98},
+        {"photo tilted, blurred, am/pm", "Noto Sans", 30, true, true, -1.0, true, false, 0.98}};
     // clang-format on
     QTemporaryDir dir;
     for (const Sheet& s : sheets) {

@@ -1,0 +1,142 @@
+#include "ocr/PageImage.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <leptonica/allheaders.h>
+#include <poppler-qt6.h>
+#include <vector>
+
+namespace tarvanel::PageImage {
+
+void PixFree::operator()(Pix* pix) const {
+    pixDestroy(&pix);
+}
+
+namespace {
+
+QSize boundedSize(QSize size) {
+    const qint64 pixels = qint64(size.width()) * size.height();
+    if (pixels <= maxPixels) return size;
+    const double f = std::sqrt(double(maxPixels) / double(pixels));
+    return QSize(std::max(1, int(size.width() * f)), std::max(1, int(size.height() * f)));
+}
+
+QImage loadPdfPage(const QString& path) {
+    const std::unique_ptr<Poppler::Document> doc = Poppler::Document::load(path);
+    if (!doc || doc->isLocked() || doc->numPages() < 1) return {};
+    const std::unique_ptr<Poppler::Page> page = doc->page(0);
+    if (!page) return {};
+    doc->setRenderHint(Poppler::Document::Antialiasing);
+    doc->setRenderHint(Poppler::Document::TextAntialiasing);
+    const QSizeF points = page->pageSizeF(); // 1/72 inch
+    double dpi = 300;
+    const double pixels = points.width() * points.height() * (dpi / 72) * (dpi / 72);
+    if (pixels > double(maxPixels)) dpi *= std::sqrt(double(maxPixels) / pixels);
+    return page->renderToImage(dpi, dpi);
+}
+
+PixPtr greyPix(const QImage& image) {
+    // Painted onto white first: a transparent screenshot would otherwise turn black.
+    QImage grey(image.size(), QImage::Format_RGB32);
+    grey.fill(Qt::white);
+    {
+        QPainter painter(&grey);
+        painter.drawImage(0, 0, image);
+    }
+    grey = grey.convertToFormat(QImage::Format_Grayscale8);
+    PixPtr pix(pixCreate(grey.width(), grey.height(), 8));
+    l_uint32* data = pixGetData(pix.get());
+    const int wpl = pixGetWpl(pix.get());
+    for (int y = 0; y < grey.height(); ++y) {
+        const uchar* from = grey.constScanLine(y);
+        l_uint32* line = data + y * wpl;
+        for (int x = 0; x < grey.width(); ++x)
+            SET_DATA_BYTE(line, x, from[x]);
+    }
+    return pix;
+}
+
+// The paper made evenly light: a photo's shadow would pass for ink in the steps that follow.
+PixPtr evenlyLit(PixPtr page) {
+    PixPtr even(pixBackgroundNorm(page.get(), nullptr, nullptr, 10, 15, 100, 40, 255, 2, 1));
+    return even ? std::move(even) : std::move(page);
+}
+
+// Turns the page level when its text lines lean (a photo held askew).
+PixPtr levelled(PixPtr page) {
+    const PixPtr binary(pixThresholdToBinary(page.get(), 150));
+    float degrees = 0, confidence = 0;
+    if (!binary || pixFindSkew(binary.get(), &degrees, &confidence) != 0) return page;
+    if (confidence < 3 || std::abs(degrees) < 0.05f) return page;
+    PixPtr level(pixRotateAMGray(page.get(), degrees * float(M_PI / 180), 255));
+    return level ? std::move(level) : std::move(page);
+}
+
+// Paints out dark runs longer than any word (the table's rules) in one direction: they join
+// the digits of neighbouring rows and columns into one shape for the recogniser.
+void withoutRules(Pix* page, int across, int along) {
+    const PixPtr rules(pixCloseGray(page, across, along));
+    if (!rules) return;
+    // Everything lighter than a rule's core becomes white, so adding the inverted rules
+    // lightens the rules' own pixels and nothing else.
+    pixThresholdToValue(rules.get(), rules.get(), 210, 255);
+    const PixPtr mask(pixThresholdToBinary(rules.get(), 210));
+    pixInvert(rules.get(), rules.get());
+    pixAddGray(page, page, rules.get());
+    // A character the rule ran through loses the pixels it shared with the rule; a short
+    // opening across the rule's line fills that gap again.
+    const PixPtr mended(pixOpenGray(page, along == 1 ? 1 : 5, along == 1 ? 5 : 1));
+    if (mask && mended) pixCombineMasked(page, mended.get(), mask.get());
+}
+
+} // namespace
+
+QImage load(const QString& path) {
+    if (QFileInfo(path).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) == 0)
+        return loadPdfPage(path);
+    QImageReader reader(path);
+    reader.setAutoTransform(true); // a phone photo's orientation tag
+    const QSize size = reader.size();
+    if (size.isValid()) reader.setScaledSize(boundedSize(size));
+    QImage image = reader.read();
+    if (image.isNull()) return {};
+    if (qint64(image.width()) * image.height() > maxPixels)
+        image =
+            image.scaled(boundedSize(image.size()), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return image;
+}
+
+PixPtr prepare(const QImage& image) {
+    if (image.isNull()) return {};
+    PixPtr page = levelled(evenlyLit(greyPix(image)));
+    withoutRules(page.get(), 51, 1);
+    withoutRules(page.get(), 1, 51);
+    return page;
+}
+
+PixPtr enlarged(Pix* page) {
+    return PixPtr(pixScaleGrayLI(page, 2, 2));
+}
+
+int typicalCharacterHeight(Pix* page) {
+    const PixPtr binary(pixThresholdToBinary(page, 128));
+    if (!binary) return 0;
+    Boxa* boxes = pixConnCompBB(binary.get(), 8);
+    if (!boxes) return 0;
+    std::vector<int> heights;
+    for (int i = 0; i < boxaGetCount(boxes); ++i) {
+        l_int32 x, y, w, h;
+        // Dots, colons and long rules say nothing about the size of the print.
+        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0 && h >= 4 && w <= 2 * h)
+            heights.push_back(h);
+    }
+    boxaDestroy(&boxes);
+    if (heights.empty()) return 0;
+    std::nth_element(heights.begin(), heights.begin() + heights.size() / 2, heights.end());
+    return heights[heights.size() / 2];
+}
+
+} // namespace tarvanel::PageImage

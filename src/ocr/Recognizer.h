@@ -1,0 +1,33 @@
+#pragma once
+// One loaded English Tesseract model, used for the passes over one prepared page.
+#include <QList>
+#include <QRect>
+#include <QString>
+#include <tesseract/baseapi.h>
+
+struct Pix;
+
+namespace tarvanel {
+
+class Recognizer {
+public:
+    struct Word {
+        QString text;
+        QRect box; // pixels of the page, y down
+    };
+
+    // False (one log line) when the model cannot be loaded.
+    bool load();
+    // Every word of the page in reading order of the given layout.
+    QList<Word> words(Pix* page, tesseract::PageSegMode mode);
+    // What one part of the page says when read with only the characters `allowed`, enlarged
+    // `scale` times; the pass for a cell whose first reading is doubtful.
+    QString reread(Pix* page, QRect box, const char* allowed, int scale);
+
+private:
+    bool recognize();
+
+    tesseract::TessBaseAPI api_;
+};
+
+} // namespace tarvanel

@@ -17,6 +17,10 @@ void PixFree::operator()(Pix* pix) const {
 
 namespace {
 
+// Print whose characters are lower than this is enlarged twice (a small screenshot); larger
+// print reads worse when enlarged, the smoothing blurs its strokes.
+constexpr int smallCharacterPixels = 14;
+
 QSize boundedSize(QSize size) {
     const qint64 pixels = qint64(size.width()) * size.height();
     if (pixels <= maxPixels) return size;
@@ -77,8 +81,11 @@ PixPtr levelled(PixPtr page) {
 
 // Paints out dark runs longer than any word (the table's rules) in one direction: they join
 // the digits of neighbouring rows and columns into one shape for the recogniser.
-void withoutRules(Pix* page, int across, int along) {
-    const PixPtr rules(pixCloseGray(page, across, along));
+void withoutRules(Pix* page, int width, int height) {
+    const bool horizontal = width > height;
+    // Thickened across first: a rule photographed askew and levelled again runs in steps.
+    const PixPtr thick(pixErodeGray(page, horizontal ? 1 : 3, horizontal ? 3 : 1));
+    const PixPtr rules(thick ? pixCloseGray(thick.get(), width, height) : nullptr);
     if (!rules) return;
     // Everything lighter than a rule's core becomes white, so adding the inverted rules
     // lightens the rules' own pixels and nothing else.
@@ -88,7 +95,7 @@ void withoutRules(Pix* page, int across, int along) {
     pixAddGray(page, page, rules.get());
     // A character the rule ran through loses the pixels it shared with the rule; a short
     // opening across the rule's line fills that gap again.
-    const PixPtr mended(pixOpenGray(page, along == 1 ? 1 : 5, along == 1 ? 5 : 1));
+    const PixPtr mended(pixOpenGray(page, horizontal ? 1 : 7, horizontal ? 7 : 1));
     if (mask && mended) pixCombineMasked(page, mended.get(), mask.get());
 }
 
@@ -112,25 +119,32 @@ QImage load(const QString& path) {
 PixPtr prepare(const QImage& image) {
     if (image.isNull()) return {};
     PixPtr page = levelled(evenlyLit(greyPix(image)));
-    withoutRules(page.get(), 51, 1);
-    withoutRules(page.get(), 1, 51);
+    const int character = typicalCharacterHeight(page.get());
+    // Longer than a word's strokes; short enough that a rule photographed askew and levelled
+    // again, which runs in steps, still counts.
+    const int rule = std::max(51, 3 * character) | 1;
+    withoutRules(page.get(), rule, 1);
+    withoutRules(page.get(), 1, rule);
+    if (character > 0 && character < smallCharacterPixels &&
+        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
+        PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));
+        if (twice) return twice;
+    }
     return page;
 }
 
-PixPtr enlarged(Pix* page) {
-    return PixPtr(pixScaleGrayLI(page, 2, 2));
-}
-
 int typicalCharacterHeight(Pix* page) {
-    const PixPtr binary(pixThresholdToBinary(page, 128));
+    const PixPtr binary(pixThresholdToBinary(page, 160));
     if (!binary) return 0;
     Boxa* boxes = pixConnCompBB(binary.get(), 8);
     if (!boxes) return 0;
     std::vector<int> heights;
     for (int i = 0; i < boxaGetCount(boxes); ++i) {
         l_int32 x, y, w, h;
-        // Dots, colons and long rules say nothing about the size of the print.
-        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0 && h >= 4 && w <= 2 * h)
+        // Dots, colons and rules say nothing about the size of the print; letters that touch
+        // (a word) do.
+        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0 && h >= 6 && h <= 8 * w &&
+            w < pixGetWidth(page) / 4)
             heights.push_back(h);
     }
     boxaDestroy(&boxes);

@@ -20,12 +20,10 @@ using PixPtr = std::unique_ptr<Pix, PixFree>;
 inline constexpr qint64 maxPixels = 12'000'000;
 QImage load(const QString& path);
 
-// Grey and opaque, turned level when the page is tilted, with long horizontal and vertical
-// rules painted out. Null for a null image.
+// Grey, opaque and evenly lit, turned level when the page is tilted, with the table's
+// horizontal and vertical rules painted out, and enlarged twice when the print is small.
+// Null for a null image.
 PixPtr prepare(const QImage& image);
-
-// The same page twice as large; the smoothing of the enlargement keeps small print legible.
-PixPtr enlarged(Pix* page);
 
 // The typical height of a character in pixels, from the page's dark blobs; 0 for an empty page.
 int typicalCharacterHeight(Pix* page);

@@ -16,10 +16,6 @@ namespace TimetableOCR {
 
 namespace {
 
-// Print whose characters are lower than this is enlarged twice before recognition (a small
-// screenshot); larger print reads worse when enlarged, the smoothing blurs its strokes.
-constexpr int smallCharacterPixels = 14;
-
 // How much of a table the lines hold: the most times that rows of one width give together.
 struct TableShape {
     int cells = 0;
@@ -89,14 +85,10 @@ QImage loadImage(const QString& path) {
 }
 
 QStringList lines(const QImage& image) {
-    PageImage::PixPtr page = PageImage::prepare(image);
+    const PageImage::PixPtr page = PageImage::prepare(image);
     if (!page) return {};
     Recognizer recognizer;
     if (!recognizer.load()) return {};
-    const int character = PageImage::typicalCharacterHeight(page.get());
-    if (character > 0 && character < smallCharacterPixels &&
-        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels)
-        page = PageImage::enlarged(page.get());
     // A sheet read as one block of rows is quickest and keeps wide rows whole; a page with
     // several blocks of text needs the automatic layout.
     const QStringList column = read(recognizer, page.get(), tesseract::PSM_SINGLE_BLOCK);

@@ -24,6 +24,7 @@ struct Sheet {
     bool pdf = false;
     // Every cell of a clean sheet; a photo may lose one cell in fifty.
     double floor = 1.0;
+    bool grid = false; // ruled between columns too, as a printed form
 };
 
 // 31 days of start and jamaat pairs with sunrise after Fajr: 11 times a row.
@@ -65,6 +66,9 @@ void paintSheet(QPainter& p, const Sheet& s, const QStringList& lines, QSize pag
         }
         p.drawLine(margin, y + rowHeight / 4, page.width() - margin, y + rowHeight / 4);
         const int width = (page.width() - 2 * margin) / int(cells.size());
+        for (int c = 0; s.grid && c <= cells.size(); ++c)
+            p.drawLine(margin + c * width, y - rowHeight * 3 / 4, margin + c * width,
+                       y + rowHeight / 4);
         for (int c = 0; c < cells.size(); ++c)
             p.drawText(QRect(margin + c * width, y - rowHeight, width, rowHeight), Qt::AlignCenter,
                        cells[c]);
@@ -136,9 +140,9 @@ TEST(TimetableOcrTest, EveryJamaatCellOfDrawnSheetsIsReadBackAndFilesWithoutATim
         {"clean serif 12-hour", "Nimbus Roman", 30, true, false},
         {"clean small am/pm screenshot", "Noto Sans", 16, true, true},
         {"clean mono am/pm", "DejaVu Sans Mono", 24, true, true},
-        {"pdf serif", "C059", 22, true, false, 0, false, true},
+        {"pdf serif, ruled", "C059", 22, true, false, 0, false, true, 1.0, true},
         {"photo tilted 1 degree", "Nimbus Sans", 28, false, false, 1.0, false, false, 0.98},
-        {"photo blurred and shaded", "DejaVu Serif", 30, true, false, 0, true, false, 0.98},
+        {"photo blurred, shaded, ruled", "DejaVu Serif", 30, true, false, 0, true, false, 0.98, true},
         {"photo tilted, blurred, am/pm", "Noto Sans", 30, true, true, -1.0, true, false, 0.98}};
     // clang-format on
     QTemporaryDir dir;

@@ -160,11 +160,16 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     };
     for (qsizetype k = 0; k < firsts.size(); ++k) {
         const int before = day(k - 1), after = day(k + 1);
-        const int counted = before > 0 && (after < 0 || after == before + 2) ? before + 1
-                            : after > 1 && before < 0                        ? after - 1
-                                                                             : -1;
-        if (day(k) < 0 || (counted > 0 && day(k) != counted))
-            doubts.append({firsts[k], Doubt::Day, counted});
+        const bool between = before > 0 && after == before + 2;
+        if (day(k) > 0) {
+            // A number is only overruled by two neighbours that agree.
+            if (between && day(k) != before + 1) doubts.append({firsts[k], Doubt::Day, before + 1});
+            continue;
+        }
+        const int counted = between || (before > 0 && after < 0) ? before + 1
+                            : before < 0 && after > 1            ? after - 1
+                                                                 : -1;
+        doubts.append({firsts[k], Doubt::Day, counted});
     }
     return doubts;
 }

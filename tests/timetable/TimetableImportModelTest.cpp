@@ -122,3 +122,36 @@ TEST(TimetableImportModelTest, RecognisedWordsGroupIntoLevelLines) {
     EXPECT_EQ(OcrLines::relativeBox(100, 0, 300, 50, 1000, 500), QRectF(0.1, 0.9, 0.2, 0.1));
     EXPECT_TRUE(OcrLines::group({}).isEmpty());
 }
+
+TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeighbours) {
+    // Day, then three time columns; a heading above the time columns and a note below.
+    const QStringList rows[] = {
+        {"Day", "Fajr", "Zuhr", "Asr", "Isha"},     {"1", "5:10", "1:05", "3:30", "7:50"},
+        {"A", "5:09", "1:05", "3:31", "7:52"},      {"3", "5:08", "7Al", "3:32", "7:57pm"},
+        {"1", "5:07", "1:05", "3:33", "7:50"},      {"5", "5:06", "1:05", "3:34", "7:48"},
+        {"Jumu'ah", "1:30", "in", "winter", "only"}};
+    QList<RecognizedItem> items;
+    for (int r = 0; r < 7; ++r)
+        for (int c = 0; c < 5; ++c)
+            items.append(
+                {rows[r][c], OcrLines::relativeBox(c * 200, r * 50 + r % 2 * 3, c * 200 + 80,
+                                                   r * 50 + 20, 1000, 1000)});
+    const auto doubts = OcrLines::doubtful(items);
+    QStringList found;
+    for (const OcrLines::Doubt& d : doubts)
+        found << items[d.item].text + (d.kind == OcrLines::Doubt::Day ? "/day " : "/time ") +
+                     QString::number(d.expected);
+    // "1" breaks the count 3, ?, 5; "7:57pm" stands apart from 7:52 and 7:50 (on a 12-hour
+    // dial: 471 minutes); the heading and the note stay as they are.
+    EXPECT_EQ(found, QStringList({"7Al/time -1", "7:57pm/time 471", "A/day 2", "1/day 4"}));
+    EXPECT_EQ(OcrLines::timeCharacters(items), "0123456789:.pm");
+
+    const OcrLines::Doubt cell = doubts[0], apart = doubts[1], day = doubts[2];
+    EXPECT_EQ(OcrLines::settle(cell, "7Al", "7:41"), "7:41");
+    EXPECT_EQ(OcrLines::settle(cell, "7Al", "7:1"), "7Al");
+    EXPECT_EQ(OcrLines::settle(apart, "7:57pm", "7:51pm"), "7:51pm");
+    EXPECT_EQ(OcrLines::settle(apart, "7:57pm", "7:59"), "7:57pm"); // further off: kept
+    EXPECT_EQ(OcrLines::settle(day, "A", "8"), "2");
+    EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Day}, "A", "8"), "8");
+    EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Day}, "A", "x"), "A");
+}

@@ -89,8 +89,8 @@ void withoutRules(Pix* page, int width, int height) {
     if (!rules) return;
     // Everything lighter than a rule's core becomes white, so adding the inverted rules
     // lightens the rules' own pixels and nothing else.
-    pixThresholdToValue(rules.get(), rules.get(), 210, 255);
-    const PixPtr mask(pixThresholdToBinary(rules.get(), 210));
+    pixThresholdToValue(rules.get(), rules.get(), 225, 255);
+    const PixPtr mask(pixThresholdToBinary(rules.get(), 225));
     pixInvert(rules.get(), rules.get());
     pixAddGray(page, page, rules.get());
     // A character the rule ran through loses the pixels it shared with the rule; a short

@@ -25,6 +25,8 @@ bool Recognizer::load() {
         logLine(QStringLiteral("Tarvanel: text recognition is not available (no English model)"));
         return false;
     }
+    // Tesseract's diagnostics (statistics of an empty cell) are no use in the log.
+    api_.SetVariable("debug_file", "/dev/null");
     // Sauvola's local threshold copes with the uneven light of a phone photo.
     api_.SetVariable("thresholding_method", "2");
     // Retrying doubtful words as white on black doubles the time and never helps a sheet.

@@ -51,6 +51,30 @@ bool isTime(const QString& word) {
     return re.match(word).hasMatch();
 }
 
+namespace {
+const QRegularExpression& colonless() {
+    static const QRegularExpression re(QStringLiteral("^([01]?\\d|2[0-3])[0-5]\\d$"));
+    return re;
+}
+// A time, or one whose colon went missing.
+bool isTimeLike(const QString& word) {
+    return isTime(word) || colonless().match(word).hasMatch();
+}
+// "5:015:42" or "5:01 5:42" as the times it is made of; empty unless it is times only.
+QStringList timesRunTogether(const QString& text) {
+    static const QRegularExpression next(QStringLiteral("\\s*(([01]?\\d|2[0-3])[:.][0-5]\\d)"));
+    QStringList times;
+    for (qsizetype at = 0; !QStringView(text).mid(at).trimmed().isEmpty();) {
+        const QRegularExpressionMatch m = next.match(text, at, QRegularExpression::NormalMatch,
+                                                     QRegularExpression::AnchorAtOffsetMatchOption);
+        if (!m.hasMatch()) return {};
+        times << m.captured(1);
+        at = m.capturedEnd();
+    }
+    return times;
+}
+} // namespace
+
 bool isDay(const QString& word) {
     static const QRegularExpression re(QStringLiteral("^([1-9]|[12]\\d|3[01])$"));
     return re.match(word).hasMatch();
@@ -102,17 +126,23 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     QList<qsizetype> table; // the lines that read as rows of times
     for (qsizetype l = 0; l < lines.size(); ++l)
         if (std::count_if(lines[l].begin(), lines[l].end(),
-                          [&](qsizetype i) { return isTime(items[i].text); }) >= 3)
+                          [&](qsizetype i) { return isTimeLike(items[i].text); }) >= 3)
             table << l;
     if (table.size() < 2) return {};
 
-    // The clean time of another line that stands in the same column as item i.
-    auto timeBelowOrAbove = [&](qsizetype line, qsizetype i) -> qsizetype {
-        const qreal x = items[i].box.center().x();
-        for (qsizetype j : lines[line])
-            if (isTime(items[j].text) && items[j].box.left() <= x && x <= items[j].box.right())
+    // The time of another line that stands in the same column as item i: under its middle, or
+    // anywhere under it for a word that may be two cells run together.
+    auto timeBelowOrAbove = [&](qsizetype line, qsizetype i, bool anywhere = false) {
+        const QRectF box = items[i].box;
+        const qreal x = box.center().x();
+        for (qsizetype j : lines[line]) {
+            const QRectF other = items[j].box;
+            if (isTimeLike(items[j].text) &&
+                (anywhere ? other.left() < box.right() && box.left() < other.right()
+                          : other.left() <= x && x <= other.right()))
                 return j;
-        return -1;
+        }
+        return qsizetype(-1);
     };
 
     QList<Doubt> doubts;
@@ -124,7 +154,7 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         for (qsizetype i : lines[l]) {
             if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
             const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
-                return t != l && timeBelowOrAbove(t, i) >= 0;
+                return t != l && timeBelowOrAbove(t, i, true) >= 0;
             });
             if (rows >= evidence) doubts.append({i, Doubt::Time});
         }
@@ -180,7 +210,16 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
             return QString::number(doubt.expected);
         return isDay(second) ? second : first;
     }
-    if (!isTime(second)) return first;
+    if (!isTime(second)) {
+        // Cells a rule's remains had joined.
+        const QStringList parts = timesRunTogether(second);
+        if (parts.size() > 1 && !isTime(first)) return parts.join(QStringLiteral("   "));
+        // A blurred colon is the first thing a photo loses: 448 in a column of times is 4:48.
+        for (const QString& reading : {second, first})
+            if (colonless().match(reading).hasMatch())
+                return reading.left(reading.size() - 2) + u':' + reading.right(2);
+        return first;
+    }
     if (doubt.expected < 0 || !isTime(first)) return second;
     return dialDistance(dialMinutes(second), doubt.expected) <
                    dialDistance(dialMinutes(first), doubt.expected)

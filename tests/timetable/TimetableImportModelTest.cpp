@@ -149,6 +149,9 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     const OcrLines::Doubt cell = doubts[0], apart = doubts[1], day = doubts[2];
     EXPECT_EQ(OcrLines::settle(cell, "7Al", "7:41"), "7:41");
     EXPECT_EQ(OcrLines::settle(cell, "7Al", "7:1"), "7Al");
+    EXPECT_EQ(OcrLines::settle(cell, "448", "4a8"), "4:48"); // a blurred colon
+    EXPECT_EQ(OcrLines::settle(cell, "5:01-5:42", "5:015:42"), "5:01   5:42");
+    EXPECT_EQ(OcrLines::settle(cell, "4325", "4325:11"), "4325");
     EXPECT_EQ(OcrLines::settle(apart, "7:57pm", "7:51pm"), "7:51pm");
     EXPECT_EQ(OcrLines::settle(apart, "7:57pm", "7:59"), "7:57pm"); // further off: kept
     EXPECT_EQ(OcrLines::settle(day, "A", "8"), "2");

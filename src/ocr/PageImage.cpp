@@ -133,10 +133,6 @@ PixPtr prepare(const QImage& image) {
     return page;
 }
 
-PixPtr sharpened(Pix* page) {
-    return PixPtr(pixUnsharpMaskingGray(page, 6, 1.5f));
-}
-
 int typicalCharacterHeight(Pix* page) {
     const PixPtr binary(pixThresholdToBinary(page, 160));
     if (!binary) return 0;

@@ -25,9 +25,6 @@ QImage load(const QString& path);
 // Null for a null image.
 PixPtr prepare(const QImage& image);
 
-// The page with its edges steepened: a blurred photo's colons and loops come back.
-PixPtr sharpened(Pix* page);
-
 // The typical height of a character in pixels, from the page's dark blobs; 0 for an empty page.
 int typicalCharacterHeight(Pix* page);
 

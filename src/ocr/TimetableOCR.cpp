@@ -89,24 +89,13 @@ QStringList lines(const QImage& image) {
     if (!page) return {};
     Recognizer recognizer;
     if (!recognizer.load()) return {};
-    // A sheet read as one block of rows is quickest and keeps wide rows whole. When its rows
-    // do not come out alike, the page may be out of focus (sharpened, its colons come back) or
-    // hold several blocks of text (the automatic layout); the reading with the most table wins.
-    QStringList best = read(recognizer, page.get(), tesseract::PSM_SINGLE_BLOCK);
-    TableShape shape = tableShape(best);
-    if (shape.times == 0 || shape.cells == shape.times) return best;
-    const PageImage::PixPtr sharp = PageImage::sharpened(page.get());
-    for (const auto& [pix, mode] : {std::pair{sharp.get(), tesseract::PSM_SINGLE_BLOCK},
-                                    std::pair{page.get(), tesseract::PSM_AUTO}}) {
-        if (!pix) continue;
-        QStringList other = read(recognizer, pix, mode);
-        const TableShape otherShape = tableShape(other);
-        if (otherShape.cells <= shape.cells) continue;
-        best = std::move(other);
-        shape = otherShape;
-        if (shape.cells == shape.times) break;
-    }
-    return best;
+    // A sheet read as one block of rows is quickest and keeps wide rows whole; a page with
+    // several blocks of text needs the automatic layout.
+    const QStringList column = read(recognizer, page.get(), tesseract::PSM_SINGLE_BLOCK);
+    const TableShape shape = tableShape(column);
+    if (shape.times == 0 || shape.cells == shape.times) return column;
+    const QStringList layout = read(recognizer, page.get(), tesseract::PSM_AUTO);
+    return tableShape(layout).cells > shape.cells ? layout : column;
 }
 
 QStringList readFile(const QString& path) {

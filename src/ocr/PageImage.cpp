@@ -99,6 +99,27 @@ void withoutRules(Pix* page, int width, int height) {
     if (mask && mended) pixCombineMasked(page, mended.get(), mask.get());
 }
 
+// The typical height of a character in pixels, from the page's dark blobs; 0 for an empty page.
+int typicalCharacterHeight(Pix* page) {
+    const PixPtr binary(pixThresholdToBinary(page, 160));
+    if (!binary) return 0;
+    Boxa* boxes = pixConnCompBB(binary.get(), 8);
+    if (!boxes) return 0;
+    std::vector<int> heights;
+    for (int i = 0; i < boxaGetCount(boxes); ++i) {
+        l_int32 x, y, w, h;
+        // Dots, colons and rules say nothing about the size of the print; letters that touch
+        // (a word) do.
+        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0 && h >= 6 && h <= 8 * w &&
+            w < pixGetWidth(page) / 4)
+            heights.push_back(h);
+    }
+    boxaDestroy(&boxes);
+    if (heights.empty()) return 0;
+    std::nth_element(heights.begin(), heights.begin() + heights.size() / 2, heights.end());
+    return heights[heights.size() / 2];
+}
+
 } // namespace
 
 QImage load(const QString& path) {
@@ -131,26 +152,6 @@ PixPtr prepare(const QImage& image) {
         if (twice) return twice;
     }
     return page;
-}
-
-int typicalCharacterHeight(Pix* page) {
-    const PixPtr binary(pixThresholdToBinary(page, 160));
-    if (!binary) return 0;
-    Boxa* boxes = pixConnCompBB(binary.get(), 8);
-    if (!boxes) return 0;
-    std::vector<int> heights;
-    for (int i = 0; i < boxaGetCount(boxes); ++i) {
-        l_int32 x, y, w, h;
-        // Dots, colons and rules say nothing about the size of the print; letters that touch
-        // (a word) do.
-        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0 && h >= 6 && h <= 8 * w &&
-            w < pixGetWidth(page) / 4)
-            heights.push_back(h);
-    }
-    boxaDestroy(&boxes);
-    if (heights.empty()) return 0;
-    std::nth_element(heights.begin(), heights.begin() + heights.size() / 2, heights.end());
-    return heights[heights.size() / 2];
 }
 
 } // namespace tarvanel::PageImage

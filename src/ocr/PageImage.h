@@ -25,7 +25,4 @@ QImage load(const QString& path);
 // Null for a null image.
 PixPtr prepare(const QImage& image);
 
-// The typical height of a character in pixels, from the page's dark blobs; 0 for an empty page.
-int typicalCharacterHeight(Pix* page);
-
 } // namespace tarvanel::PageImage

@@ -95,7 +95,8 @@ namespace {
 
 // Minutes on a twelve-hour dial: a sheet may print 13:05 or 1:05 for the same time.
 int dialMinutes(const QString& time) {
-    const qsizetype colon = time.indexOf(QRegularExpression(QStringLiteral("[:.]")));
+    qsizetype colon = time.indexOf(u':');
+    if (colon < 0) colon = time.indexOf(u'.');
     return (time.left(colon).toInt() % 12) * 60 + time.mid(colon + 1, 2).toInt();
 }
 
@@ -146,8 +147,8 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     };
 
     QList<Doubt> doubts;
-    // A word stands in a column of times when clean times of several other rows span its
-    // middle. Only lines between the table's first and last row count: the heading above
+    // A word stands in a column of times when times of several other rows stand above or
+    // below it. Only lines between the table's first and last row count: the heading above
     // the time columns is no time.
     const int evidence = std::max<int>(2, int(table.size() / 3));
     for (qsizetype l = table.first(); l <= table.last(); ++l) {

@@ -13,13 +13,13 @@ constexpr int settleMs = 500;
 } // namespace
 
 LockWindows::LockWindows(QObject* parent)
-    : QObject(parent), guard_(
-                           [this] {
-                               QList<LockWindow*> shown = windows_;
-                               shown.removeIf([](LockWindow* w) { return !w->isVisible(); });
-                               return shown;
-                           },
-                           this) {
+    : LockBackend(parent), guard_(
+                               [this] {
+                                   QList<LockWindow*> shown = windows_;
+                                   shown.removeIf([](LockWindow* w) { return !w->isVisible(); });
+                                   return shown;
+                               },
+                               this) {
     guardTick_.setInterval(1000);
     connect(&guardTick_, &QTimer::timeout, this, &LockWindows::guard);
     connect(&guard_, &LockGuard::lost, this, &LockWindows::screensChanged);
@@ -51,6 +51,19 @@ LockWindows::~LockWindows() {
     close();
 }
 
+QString LockWindows::mechanism() const {
+    return QGuiApplication::platformName() == QLatin1String("xcb")
+               ? QStringLiteral("X11 windows with keyboard and pointer grabs")
+               : QStringLiteral("ordinary windows (") + QGuiApplication::platformName() +
+                     QStringLiteral(")");
+}
+
+QString LockWindows::weakness() const {
+    // Under XWayland or Qt's Wayland windows the compositor keeps its own shortcuts.
+    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) return {};
+    return QStringLiteral("on this desktop a lock can be left by switching windows");
+}
+
 void LockWindows::watchScreen(QScreen* screen) {
     connect(screen, &QScreen::geometryChanged, this, [this] { settle_.start(); });
 }
@@ -64,7 +77,9 @@ void LockWindows::show(const QList<LockWindowContent>& perScreen, LockScreenStat
     for (int i = 0; i < screens.size(); ++i) {
         const LockWindowContent content =
             perScreen.isEmpty() ? LockWindowContent{} : perScreen.at(i % perScreen.size());
-        auto* window = new LockWindow(screens.at(i), content, state, onKey_);
+        auto* window =
+            new LockWindow(screens.at(i), content, state,
+                           [this](LockKey key, const QString& text) { forwardKey(key, text); });
         connect(window, &LockWindow::firstPaint, this, &LockWindows::onWindowPainted);
         window->present();
         windows_ << window;

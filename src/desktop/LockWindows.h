@@ -1,6 +1,8 @@
 #pragma once
-// The windows of one lock: one per screen, above everything, holding keyboard and pointer.
-// Screens that come, go or change size are reported so the core can rebuild the windows.
+// The X11 lock: one window per screen, above everything, holding keyboard and pointer. Screens
+// that come, go or change size are reported so the core can rebuild the windows. Also the last
+// resort on Wayland desktops that offer nothing better (through XWayland or Qt's own windows).
+#include "desktop/LockBackend.h"
 #include "desktop/LockGuard.h"
 #include "desktop/LockWindow.h"
 
@@ -12,35 +14,27 @@
 
 namespace tarvanel {
 
-class LockWindows : public QObject {
+class LockWindows : public LockBackend {
     Q_OBJECT
 public:
     explicit LockWindows(QObject* parent = nullptr);
     ~LockWindows() override;
 
-    void setKeyHandler(LockWindow::KeyHandler handler) { onKey_ = std::move(handler); }
+    QString mechanism() const override;
+    QString weakness() const override;
+    // Replaces the windows (screensChanged comes a moment after a new screen settles).
+    void show(const QList<LockWindowContent>& perScreen, LockScreenState* state) override;
+    void raise(bool focusFirst) override;
+    void close() override;
+    bool up() const override { return !windows_.isEmpty(); }
 
-    // Replaces the windows: entry i goes to screen i; screens beyond the list repeat its
-    // entries so that no screen stays uncovered.
-    void show(const QList<LockWindowContent>& perScreen, LockScreenState* state);
-    void raise(bool focusFirst);
-    void close();
-
-    bool up() const { return !windows_.isEmpty(); }
     const QList<LockWindow*>& windows() const { return windows_; }
-
-signals:
-    // Screens were added, removed or resized (after a moment for a new screen to settle).
-    void screensChanged();
-    // Every window of the latest show has been painted; `milliseconds` since show() began.
-    void covered(qint64 milliseconds);
 
 private:
     void watchScreen(QScreen* screen);
     void guard();
     void onWindowPainted();
 
-    LockWindow::KeyHandler onKey_;
     QList<LockWindow*> windows_;
     LockGuard guard_;
     QTimer guardTick_;

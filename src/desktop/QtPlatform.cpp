@@ -1,8 +1,10 @@
 #include "desktop/QtPlatform.h"
 
 #include "desktop/Dialogs.h"
+#include "desktop/LockBackendChoice.h"
 #include "desktop/TimetableImportView.h"
 #include "desktop/settings/PrayerSettingsView.h"
+#include "records/Log.h"
 #include "records/StateFiles.h"
 #include "settings/CitySearch.h"
 
@@ -21,18 +23,35 @@ QtPlatform::QtPlatform(QObject* parent)
     : QObject(parent), settings_([this] {
           if (events_) events_->showSettingsRequested();
       }) {
-    connect(&lock_, &LockWindows::screensChanged, this, [this] {
-        if (events_) events_->screensChanged();
-    });
+    adopt(&windows_);
 }
 
 QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::setEvents(PlatformEvents* events) {
     events_ = events;
-    lock_.setKeyHandler([this](LockKey key, const QString& text) {
+}
+
+void QtPlatform::adopt(LockBackend* backend) {
+    backend->setKeyHandler([this](LockKey key, const QString& text) {
         if (events_) events_->lockKey(key, text);
     });
+    connect(backend, &LockBackend::screensChanged, this, [this, backend] {
+        if (events_ && backend == lock_) events_->screensChanged();
+    });
+    connect(backend, &LockBackend::failed, this, [this, backend](const QString& why) {
+        if (backend == lock_) fallBack(why);
+    });
+}
+
+void QtPlatform::fallBack(const QString& why) {
+    logLine(QStringLiteral("Tarvanel: ") + lock_->mechanism() + QStringLiteral(" failed (") + why +
+            QStringLiteral("); locking with ") + windows_.mechanism());
+    if (!windows_.weakness().isEmpty()) logLine(QStringLiteral("Tarvanel: ") + windows_.weakness());
+    LockBackend* failed = lock_;
+    lock_ = &windows_;
+    if (!shown_.isEmpty()) windows_.show(shown_, state_);
+    failed->close();
 }
 
 int QtPlatform::screenCount() const {
@@ -41,19 +60,30 @@ int QtPlatform::screenCount() const {
 
 void QtPlatform::showLockWindows(const QList<LockWindowContent>& perScreen,
                                  LockScreenState* state) {
-    lock_.show(perScreen, state);
+    if (!lock_ || !lock_->up()) { // a new lock: the strongest mechanism the desktop offers now
+        stronger_ = strongestLock(this);
+        if (stronger_) adopt(stronger_.get());
+        lock_ = stronger_ ? stronger_.get() : &windows_;
+        logLine(QStringLiteral("Tarvanel: locking with ") + lock_->mechanism());
+        if (!lock_->weakness().isEmpty()) logLine(QStringLiteral("Tarvanel: ") + lock_->weakness());
+    }
+    shown_ = perScreen;
+    state_ = state;
+    lock_->show(perScreen, state);
 }
 
 void QtPlatform::raiseLockWindows(bool focusFirst) {
-    lock_.raise(focusFirst);
+    if (lock_) lock_->raise(focusFirst);
 }
 
 void QtPlatform::closeLockWindows() {
-    lock_.close();
+    shown_.clear();
+    if (lock_) lock_->close();
 }
 
 void QtPlatform::activateApp() {
-    if (!lock_.windows().isEmpty()) lock_.windows().first()->activateWindow();
+    if (lock_ == &windows_ && !windows_.windows().isEmpty())
+        windows_.windows().first()->activateWindow();
 }
 
 bool QtPlatform::showBanner(const BannerContent& banner) {

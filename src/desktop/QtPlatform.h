@@ -9,6 +9,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <memory>
 
 namespace tarvanel {
 
@@ -21,7 +22,10 @@ public:
     // Where lock keys and screen changes go (the core's event receiver).
     void setEvents(PlatformEvents* events);
     TrayIcon& tray() { return tray_; }
-    LockWindows& lockWindows() { return lock_; }
+    // The X11 windows, also the last resort elsewhere.
+    LockWindows& lockWindows() { return windows_; }
+    // The backend of the lock in progress (or of the last one); null before the first.
+    LockBackend* lockBackend() const { return lock_; }
     BannerPanel& banner() { return banner_; }
 
     int screenCount() const override;
@@ -49,8 +53,15 @@ public:
     void exitProcess(int status) override;
 
 private:
+    void adopt(LockBackend* backend);
+    void fallBack(const QString& why);
+
     PlatformEvents* events_ = nullptr;
-    LockWindows lock_;
+    LockWindows windows_;
+    std::unique_ptr<LockBackend> stronger_; // a compositor's own lock, when it has one
+    LockBackend* lock_ = nullptr;
+    QList<LockWindowContent> shown_;
+    QPointer<LockScreenState> state_;
     BannerPanel banner_;
     TrayIcon tray_;
     Sounds sounds_;

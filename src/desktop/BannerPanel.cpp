@@ -2,6 +2,8 @@
 
 #include "desktop/Look.h"
 #include "desktop/X11.h"
+#include "desktop/wayland/WaylandDisplay.h"
+#include "desktop/wayland/WaylandSurface.h"
 
 #include <QGuiApplication>
 #include <QLabel>
@@ -115,8 +117,35 @@ BannerPanel::~BannerPanel() {
     close();
 }
 
+bool BannerPanel::showOnLayerShell(const BannerContent& content) {
+    wayland_ = WaylandDisplay::open();
+    if (!wayland_ || !wayland_->layerShell() || wayland_->outputs().isEmpty()) {
+        wayland_.reset();
+        return false;
+    }
+    // Every Wayland compositor blends translucent surfaces: the corners can be round.
+    layerView_ = std::make_unique<BannerView>(content, true);
+    layerView_->adjustSize();
+    BannerView* view = layerView_.get();
+    layer_ = std::make_unique<WaylandSurface>(
+        *wayland_, wayland_->outputs().first(), WaylandSurface::Role::Banner,
+        [view](QPainter& painter, QSize) {
+            painter.setCompositionMode(QPainter::CompositionMode_Source);
+            painter.fillRect(QRect(QPoint(), view->size()), Qt::transparent);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+            view->render(&painter, {}, {}, QWidget::DrawChildren);
+        },
+        nullptr, view->size());
+    wayland_->flush();
+    return true;
+}
+
 bool BannerPanel::show(const BannerContent& content) {
     close();
+    if (showOnLayerShell(content)) {
+        closeTimer_.start(std::max(0, content.seconds) * 1000);
+        return true;
+    }
     QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return false;
 
@@ -151,6 +180,9 @@ void BannerPanel::close() {
     closeTimer_.stop();
     if (window_) window_->close();
     window_ = nullptr;
+    layer_.reset();
+    layerView_.reset();
+    wayland_.reset();
 }
 
 } // namespace tarvanel

@@ -6,10 +6,14 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <memory>
 
 class QLabel;
 
 namespace tarvanel {
+
+class WaylandDisplay;
+class WaylandSurface;
 
 class BannerView : public QWidget {
     Q_OBJECT
@@ -50,7 +54,13 @@ public:
     QWidget* window() const { return window_; }
 
 private:
+    // On a compositor with the layer shell: a top-layer surface, on a connection of its own.
+    bool showOnLayerShell(const BannerContent& content);
+
     QPointer<QWidget> window_;
+    std::unique_ptr<WaylandDisplay> wayland_;
+    std::unique_ptr<WaylandSurface> layer_;
+    std::unique_ptr<BannerView> layerView_;
     QTimer closeTimer_;
 };
 

@@ -30,6 +30,10 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     // Qt's ffmpeg media backend crashes on some machines; GStreamer plays every adhan format.
     qputenv("QT_MEDIA_BACKEND", "gstreamer");
 
+    // A Wayland session without XWayland: Qt's own Wayland platform, when it is installed.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
+        !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && qtWaylandInstalled())
+        qputenv("QT_QPA_PLATFORM", "wayland");
     if (const auto problem = displayProblem(QProcessEnvironment::systemEnvironment())) {
         printLine(QStringLiteral("Tarvanel: no display available (") + *problem +
                   QStringLiteral(")"));

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLibraryInfo>
 #include <QLocalSocket>
 #include <xcb/xcb.h>
 
@@ -48,6 +49,11 @@ std::optional<QString> displayProblem(const QProcessEnvironment& env) {
         if (platform == QLatin1String(headless)) return std::nullopt;
     if (platform.startsWith(QLatin1String("wayland"))) return waylandProblem(env);
     return x11Problem(env.value(QStringLiteral("DISPLAY")));
+}
+
+bool qtWaylandInstalled() {
+    return QFile::exists(QLibraryInfo::path(QLibraryInfo::PluginsPath) +
+                         QStringLiteral("/platforms/libqwayland-generic.so"));
 }
 
 void useOffscreenScreens(const QString& configPath, const QList<QRect>& screens) {

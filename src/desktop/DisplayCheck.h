@@ -13,6 +13,9 @@ namespace tarvanel {
 // available (…)".
 std::optional<QString> displayProblem(const QProcessEnvironment& env);
 
+// Whether Qt's Wayland platform plugin is there to load.
+bool qtWaylandInstalled();
+
 // Selects Qt's offscreen platform with these screens (96 dpi), described in a file written to
 // `configPath`: several screens without a display, for tests and benchmarks. Call it before
 // QApplication exists.

@@ -1,5 +1,7 @@
 #include "desktop/LockKeys.h"
 
+#include <xkbcommon/xkbcommon-keysyms.h>
+
 namespace tarvanel {
 
 namespace {
@@ -46,6 +48,29 @@ std::optional<ForwardedKey> translateLockKey(int key, Qt::KeyboardModifiers modi
     // Control characters (Tab, Return, Ctrl+letter) carry nothing the entry could use.
     if (text.isEmpty() || !text.at(0).isPrint()) return std::nullopt;
     return ForwardedKey{LockKey::Other, text};
+}
+
+std::optional<ForwardedKey> translateLockKeysym(quint32 keysym, const QString& text) {
+    // Keypad keys: digits with Num Lock on, navigation keys in the same places without it.
+    static const quint32 keypad[][2] = {
+        {XKB_KEY_KP_0, Qt::Key_0},           {XKB_KEY_KP_1, Qt::Key_1},
+        {XKB_KEY_KP_2, Qt::Key_2},           {XKB_KEY_KP_3, Qt::Key_3},
+        {XKB_KEY_KP_4, Qt::Key_4},           {XKB_KEY_KP_5, Qt::Key_5},
+        {XKB_KEY_KP_6, Qt::Key_6},           {XKB_KEY_KP_7, Qt::Key_7},
+        {XKB_KEY_KP_8, Qt::Key_8},           {XKB_KEY_KP_9, Qt::Key_9},
+        {XKB_KEY_KP_Insert, Qt::Key_Insert}, {XKB_KEY_KP_End, Qt::Key_End},
+        {XKB_KEY_KP_Down, Qt::Key_Down},     {XKB_KEY_KP_Page_Down, Qt::Key_PageDown},
+        {XKB_KEY_KP_Left, Qt::Key_Left},     {XKB_KEY_KP_Begin, Qt::Key_Clear},
+        {XKB_KEY_KP_Right, Qt::Key_Right},   {XKB_KEY_KP_Home, Qt::Key_Home},
+        {XKB_KEY_KP_Up, Qt::Key_Up},         {XKB_KEY_KP_Page_Up, Qt::Key_PageUp},
+    };
+    for (const auto& [sym, key] : keypad)
+        if (keysym == sym) return translateLockKey(int(key), Qt::KeypadModifier, text);
+    if (keysym == XKB_KEY_Escape) return translateLockKey(Qt::Key_Escape, {}, text);
+    if (keysym == XKB_KEY_BackSpace) return translateLockKey(Qt::Key_Backspace, {}, text);
+    if (keysym >= XKB_KEY_0 && keysym <= XKB_KEY_9)
+        return translateLockKey(Qt::Key_0 + int(keysym - XKB_KEY_0), {}, text);
+    return translateLockKey(Qt::Key_unknown, {}, text);
 }
 
 } // namespace tarvanel

@@ -19,4 +19,7 @@ struct ForwardedKey {
 std::optional<ForwardedKey> translateLockKey(int key, Qt::KeyboardModifiers modifiers,
                                              const QString& text);
 
+// The same for an XKB keysym and the text it types (Wayland keyboards).
+std::optional<ForwardedKey> translateLockKeysym(quint32 keysym, const QString& text);
+
 } // namespace tarvanel

@@ -4,6 +4,8 @@
 #include "desktop/LockBackendChoice.h"
 #include "desktop/TimetableImportView.h"
 #include "desktop/settings/PrayerSettingsView.h"
+#include "desktop/wayland/WaylandLock.h"
+#include "lock/LockScreenState.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
 #include "settings/CitySearch.h"
@@ -24,6 +26,11 @@ QtPlatform::QtPlatform(QObject* parent)
           if (events_) events_->showSettingsRequested();
       }) {
     adopt(&windows_);
+    // A session lock left by a killed copy is taken over by the first lock of this one; when
+    // none comes, it must not keep the screens locked.
+    QTimer::singleShot(3000, this, [this] {
+        if (!lock_ || !lock_->up()) WaylandLock::releaseAbandoned();
+    });
 }
 
 QtPlatform::~QtPlatform() = default;

@@ -47,6 +47,33 @@ TEST(LockKeys, DigitsFromMainRowAndKeypadEscapeAndBackspace) {
         EXPECT_EQ(got->key, *c.kind);
         EXPECT_EQ(got->text, c.expected);
     }
+    // The same from a Wayland keyboard's keysyms (X11 keysym values; xkbcommon's are equal).
+    struct SymCase {
+        quint32 sym;
+        QString text;
+        std::optional<LockKey> kind;
+        QString expected;
+    };
+    const QList<SymCase> syms = {
+        {0x0037 /* 7 */, "7", LockKey::Other, "7"},
+        {0xffb0 /* KP_0 */, "0", LockKey::Other, "0"},
+        {0xff9c /* KP_End, Num Lock off */, {}, LockKey::Other, "1"},
+        {0xff9d /* KP_Begin */, {}, LockKey::Other, "5"},
+        {0xff1b /* Escape */, "\x1b", LockKey::Escape, {}},
+        {0xff08 /* BackSpace */, "\b", LockKey::Backspace, {}},
+        {0x0664 + 0x1000000 /* Arabic-Indic four */, "٤", LockKey::Other, "٤"},
+        {0xff57 /* End on the main block */, {}, std::nullopt, {}},
+        {0xffeb /* Super */, {}, std::nullopt, {}},
+        {0xff09 /* Tab */, "\t", std::nullopt, {}},
+    };
+    for (const SymCase& c : syms) {
+        SCOPED_TRACE(QStringLiteral("keysym %1").arg(c.sym, 0, 16).toStdString());
+        const auto got = translateLockKeysym(c.sym, c.text);
+        ASSERT_EQ(got.has_value(), c.kind.has_value());
+        if (!got) continue;
+        EXPECT_EQ(got->key, *c.kind);
+        EXPECT_EQ(got->text, c.expected);
+    }
 }
 
 TEST(LockWindows, OnePerScreenFollowingTheStateRebuiltInPlaceWithKeysReachingTheCore) {

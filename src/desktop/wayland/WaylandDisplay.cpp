@@ -36,10 +36,18 @@ struct WaylandListeners {
         if (format == WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1) self(data)->keymap(fd, size);
         close(fd);
     }
-    static void enter(void*, wl_keyboard*, uint32_t, wl_surface*, wl_array*) {}
-    static void leave(void*, wl_keyboard*, uint32_t, wl_surface*) {}
+    static void enter(void* data, wl_keyboard*, uint32_t, wl_surface*, wl_array* keys) {
+        const auto* held = static_cast<const uint32_t*>(keys->data);
+        self(data)->heldAtEnter_ = QSet<quint32>(held, held + keys->size / sizeof(uint32_t));
+    }
+    static void leave(void* data, wl_keyboard*, uint32_t, wl_surface*) {
+        self(data)->heldAtEnter_.clear();
+    }
     static void key(void* data, wl_keyboard*, uint32_t, uint32_t, uint32_t key, uint32_t state) {
-        if (state == WL_KEYBOARD_KEY_STATE_PRESSED) self(data)->keyPressed(key);
+        // A key pressed just before the focus came (a keyboard that appeared with it) counts
+        // when it is released.
+        const bool held = self(data)->heldAtEnter_.remove(key);
+        if (state == WL_KEYBOARD_KEY_STATE_PRESSED || held) self(data)->keyPressed(key);
     }
     static void modifiers(void* data, wl_keyboard*, uint32_t, uint32_t depressed, uint32_t latched,
                           uint32_t locked, uint32_t group) {
@@ -58,8 +66,13 @@ struct WaylandListeners {
     static void motion(void*, wl_pointer*, uint32_t, wl_fixed_t, wl_fixed_t) {}
     static void button(void*, wl_pointer*, uint32_t, uint32_t, uint32_t, uint32_t) {}
     static void axis(void*, wl_pointer*, uint32_t, uint32_t, wl_fixed_t) {}
-    static constexpr wl_pointer_listener pointer{&pointerEnter, &pointerLeave, &motion, &button,
-                                                 &axis};
+    static void frame(void*, wl_pointer*) {}
+    static void axisSource(void*, wl_pointer*, uint32_t) {}
+    static void axisStop(void*, wl_pointer*, uint32_t, uint32_t) {}
+    static void axisSteps(void*, wl_pointer*, uint32_t, int32_t) {}
+    static constexpr wl_pointer_listener pointer{
+        &pointerEnter, &pointerLeave, &motion,   &button,    &axis,
+        &frame,        &axisSource,   &axisStop, &axisSteps, &axisSteps};
 
     static void geometry(void*, wl_output*, int32_t, int32_t, int32_t, int32_t, int32_t,
                          const char*, const char*, int32_t) {}
@@ -68,7 +81,8 @@ struct WaylandListeners {
     static void scale(void* data, wl_output*, int32_t factor) {
         static_cast<WaylandOutput*>(data)->scale = std::max(1, int(factor));
     }
-    static constexpr wl_output_listener output{&geometry, &mode, &done, &scale};
+    static void text(void*, wl_output*, const char*) {}
+    static constexpr wl_output_listener output{&geometry, &mode, &done, &scale, &text, &text};
 };
 
 std::unique_ptr<WaylandDisplay> WaylandDisplay::open() {
@@ -160,13 +174,24 @@ void WaylandDisplay::removeGlobal(quint32 name) {
 }
 
 void WaylandDisplay::seatCapabilities(quint32 caps) {
-    if ((caps & WL_SEAT_CAPABILITY_KEYBOARD) && !keyboard_) {
+    // A keyboard unplugged takes the capability with it; the next one brings a new object.
+    const bool keyboard = caps & WL_SEAT_CAPABILITY_KEYBOARD;
+    if (keyboard && !keyboard_) {
         keyboard_ = wl_seat_get_keyboard(seat_);
         wl_keyboard_add_listener(keyboard_, &WaylandListeners::keyboard, this);
+    } else if (!keyboard && keyboard_) {
+        wl_keyboard_get_version(keyboard_) >= 3 ? wl_keyboard_release(keyboard_)
+                                                : wl_keyboard_destroy(keyboard_);
+        keyboard_ = nullptr;
     }
-    if ((caps & WL_SEAT_CAPABILITY_POINTER) && !pointer_) {
+    const bool pointer = caps & WL_SEAT_CAPABILITY_POINTER;
+    if (pointer && !pointer_) {
         pointer_ = wl_seat_get_pointer(seat_);
         wl_pointer_add_listener(pointer_, &WaylandListeners::pointer, this);
+    } else if (!pointer && pointer_) {
+        wl_pointer_get_version(pointer_) >= 3 ? wl_pointer_release(pointer_)
+                                              : wl_pointer_destroy(pointer_);
+        pointer_ = nullptr;
     }
 }
 

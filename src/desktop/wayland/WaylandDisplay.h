@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <memory>
 
 struct wl_display;
@@ -93,6 +94,7 @@ private:
     xkb_context* xkb_ = nullptr;
     xkb_keymap* keymap_ = nullptr;
     xkb_state* xkbState_ = nullptr;
+    QSet<quint32> heldAtEnter_;
     QSocketNotifier* notifier_ = nullptr;
     bool broken_ = false;
 };

@@ -11,4 +11,7 @@ namespace tarvanel {
 // Null when nothing stronger than windows is on offer.
 std::unique_ptr<LockBackend> strongestLock(QObject* parent);
 
+// What a user could do to leave a lock that started now on this desktop; empty when nothing.
+QString lockWeaknessHere();
+
 } // namespace tarvanel

@@ -58,7 +58,7 @@ QString LockWindows::mechanism() const {
                      QStringLiteral(")");
 }
 
-QString LockWindows::weakness() const {
+QString LockWindows::weaknessHere() {
     // Under XWayland or Qt's Wayland windows the compositor keeps its own shortcuts.
     if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) return {};
     return QStringLiteral("on this desktop a lock can be left by switching windows");

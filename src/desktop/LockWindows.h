@@ -21,7 +21,8 @@ public:
     ~LockWindows() override;
 
     QString mechanism() const override;
-    QString weakness() const override;
+    QString weakness() const override { return weaknessHere(); }
+    static QString weaknessHere();
     // Replaces the windows (screensChanged comes a moment after a new screen settles).
     void show(const QList<LockWindowContent>& perScreen, LockScreenState* state) override;
     void raise(bool focusFirst) override;

@@ -1,4 +1,5 @@
 // 4. Lock: its length, lead, reminders and the wait for calls.
+#include "desktop/LockBackendChoice.h"
 #include "desktop/settings/SectionKit.h"
 
 #include <QCheckBox>
@@ -40,8 +41,13 @@ QWidget* makeLockSection(SectionContext& c) {
                            60, 5, QStringLiteral(" min")));
     s->addRow(boundToggle(c, QStringLiteral("Ask “Did you pray?” after each lock"), Field::strict,
                           &PrayerSettingsModel::strict, &PrayerSettingsModel::setStrict));
-    watch(*m, s, {Field::guardianSet}, [m, s] {
-        s->footer()->setText(lockFooter(m->guardianSet()));
+    // Said plainly where the desktop lets a lock be left.
+    QString weakness = lockWeaknessHere();
+    if (!weakness.isEmpty())
+        weakness =
+            QStringLiteral("\n") + weakness.front().toUpper() + weakness.mid(1) + QLatin1Char('.');
+    watch(*m, s, {Field::guardianSet}, [m, s, weakness] {
+        s->footer()->setText(lockFooter(m->guardianSet()) + weakness);
         s->footer()->setAccessibleName(s->footer()->text());
         s->footer()->show();
     });

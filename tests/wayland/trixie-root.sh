@@ -65,6 +65,9 @@ prepare() {
     local marker="$root/var/lib/tarvanel/packages" want
     want="$(printf '%s\n' "${build_packages[@]}" "${run_packages[@]}" | sort)"
     if [ -f "$marker" ] && [ "$(cat "$marker")" = "$want" ]; then return 0; fi
+    # One preparation at a time (two clones' first test runs may start together).
+    mkdir -p "$(dirname "$root")"; exec 9>"$root.lock"; flock 9
+    if [ -f "$marker" ] && [ "$(cat "$marker")" = "$want" ]; then return 0; fi
     command -v debootstrap >/dev/null || {
         DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends debootstrap >&2 ||
             { apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
@@ -77,7 +80,7 @@ prepare() {
     fi
     if [ ! -x "$root/usr/bin/apt-get" ] || [ ! -f "$root/var/lib/tarvanel/debootstrapped" ]; then
         # Into a side folder, renamed when complete: a broken run never looks like a root.
-        rm -rf "$root.partial"; mkdir -p "$(dirname "$root")"
+        rm -rf "$root.partial"
         echo "trixie-root: debootstrap trixie from $m" >&2
         unshare --mount --propagation private -- \
             debootstrap --variant=minbase trixie "$root.partial" "$m" >&2 ||
@@ -141,7 +144,10 @@ ns_main() { # runs inside the namespaces
             bind ro "$src" /src
             if [ -d "$dir" ]; then bind ro "$dir" /build; fi
             if [ -n "$out" ]; then bind "$out" /out; fi
+            # Fresh and empty for each run, gone afterwards: HOME, XDG_RUNTIME_DIR and /tmp (the
+            # session bus's socket, stray X sockets).
             local h="/home/$test_user" x="/run/user/$test_uid" p
+            mount -t tmpfs -o mode=1777,size=1g tmpfs "$root/tmp"; mounted+=("$root/tmp")
             for p in "$h" "$x"; do
                 mkdir -p "$root$p"
                 mount -t tmpfs -o "mode=0700,uid=$test_uid,gid=$test_uid,size=1g" tmpfs "$root$p"

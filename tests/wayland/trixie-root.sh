@@ -87,7 +87,9 @@ prepare() {
             die "debootstrap failed (log: $root.partial/debootstrap/debootstrap.log)"
         mkdir -p "$root.partial/var/lib/tarvanel"; touch "$root.partial/var/lib/tarvanel/debootstrapped"
         rm -rf "$root"; mv "$root.partial" "$root"
+        echo "trixie-root: debootstrap took ${SECONDS}s" >&2
     fi
+    local t0=$SECONDS
     # No services start inside the root (dbus's postinst would try).
     printf '#!/bin/sh\nexit 101\n' > "$root/usr/sbin/policy-rc.d"; chmod 755 "$root/usr/sbin/policy-rc.d"
     echo "trixie-root: installing packages in $root" >&2
@@ -97,6 +99,7 @@ prepare() {
     chroot "$root" sh -c "id -u $test_user >/dev/null 2>&1 ||
         useradd -m -u $test_uid -s /bin/bash $test_user"
     printf '%s\n' "$want" > "$marker"
+    echo "trixie-root: packages took $((SECONDS - t0))s; $(du -sh --one-file-system "$root" | cut -f1) in $root" >&2
 }
 
 ready() { [ -f "$root/var/lib/tarvanel/packages" ] || die "no root at $root: run '$0 prepare'"; }

@@ -139,8 +139,8 @@ ns_main() { # runs inside the namespaces
                 [ -f /build/CMakeCache.txt ] || cmake -S /src -B /build -DCMAKE_BUILD_TYPE=RelWithDebInfo \
                     -DTARVANEL_BUILD_TESTS=OFF -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >/build/configure.log 2>&1 ||
                     { cat /build/configure.log; exit 1; }
-                cmake --build /build -j"$(nproc)" >/build/build.log 2>&1 ||
-                    { tail -n 80 /build/build.log; echo "build failed (log: /build/build.log in the root)"; exit 1; }' >&2
+                cmake --build /build -j"$(nproc)" >/build/build.log 2>&1 || { tail -n 80 /build/build.log; exit 1; }' >&2 ||
+                die "build of $src failed (log: $dir/build.log)"
             ;;
         user)
             local src="$1" dir="$2" out="$3"; shift 3

@@ -1,9 +1,9 @@
 # Trixie.ProgramBuildsAndPrintsTimes: the program builds in a Debian 13 root (Qt 6.8, the Wayland
 # compositors with session lock) and prints prayer times there as a non-root user.
 # It needs root (debootstrap, chroot, mounts) and Debian's mirror: registered when CMake runs as
-# root (CI) or with TARVANEL_TRIXIE=1 (then through sudo -n); skipped when the mirror is out of
-# reach. The root is shared by every clone on the machine (trixie-root.sh), so only the first run
-# is slow. Run alone with: ctest -L trixie
+# root (CI) or with TARVANEL_TRIXIE=1 in the environment of CMake (then run through sudo -n);
+# skipped when the mirror is out of reach. The root is shared by every clone on the machine
+# (trixie-root.sh), so only the first run is slow. Run alone with: ctest -L trixie
 execute_process(COMMAND id -u OUTPUT_VARIABLE _tarvanel_uid OUTPUT_STRIP_TRAILING_WHITESPACE)
 if(_tarvanel_uid STREQUAL "0" OR "$ENV{TARVANEL_TRIXIE}" STREQUAL "1")
     set(_tarvanel_as_root)
@@ -13,7 +13,7 @@ if(_tarvanel_uid STREQUAL "0" OR "$ENV{TARVANEL_TRIXIE}" STREQUAL "1")
     add_test(NAME Trixie.ProgramBuildsAndPrintsTimes
         COMMAND ${_tarvanel_as_root} ${CMAKE_CURRENT_LIST_DIR}/trixie-times-test.sh
             ${PROJECT_SOURCE_DIR})
-    # From nothing: debootstrap and packages about 5 minutes, the build about 20 on 2 busy cores.
+    # From nothing about 10 minutes on 2 cores (debootstrap 1, packages 3, build 6); then seconds.
     set_tests_properties(Trixie.ProgramBuildsAndPrintsTimes PROPERTIES
         LABELS trixie SKIP_RETURN_CODE 77 TIMEOUT 3600 RUN_SERIAL TRUE)
 endif()

@@ -159,7 +159,9 @@ ns_main() { # runs inside the namespaces
             local envs=(PATH=/usr/local/bin:/usr/bin:/bin LANG=C.UTF-8 HOME="$h" USER="$test_user"
                 LOGNAME="$test_user" SHELL=/bin/bash XDG_RUNTIME_DIR="$x")
             local v
-            while IFS= read -r v; do envs+=("$v=${!v}"); done < <(compgen -e | grep '^TARVANEL_' || true)
+            # TARVANEL_TRIXIE_* are this script's own settings, host paths: not passed on.
+            while IFS= read -r v; do envs+=("$v=${!v}"); done < <(compgen -e |
+                grep '^TARVANEL_' | grep -v '^TARVANEL_TRIXIE_' || true)
             while [ $# -gt 0 ] && [[ "$1" =~ ^[A-Za-z_][A-Za-z0-9_]*= ]]; do envs+=("$1"); shift; done
             [ $# -gt 0 ] || die "user-run needs a command after the variables"
             # shellcheck disable=SC2016 # expanded by the shell inside the root

@@ -5,7 +5,7 @@
 #   tests/wayland/trixie-root.sh user-run /src/tests/wayland/trixie-compositors-check.sh
 # Screenshots go to /out when the caller gave TARVANEL_TRIXIE_OUT, else they are discarded.
 set -euo pipefail
-# shellcheck source=headless.sh
+# shellcheck source-path=SCRIPTDIR source=headless.sh
 . "$(dirname "${BASH_SOURCE[0]}")/headless.sh"
 shots="$XDG_RUNTIME_DIR"; [ -w /out ] && shots=/out
 trap stop_compositor EXIT

@@ -85,10 +85,6 @@ def swaymsg(*cmd):
     return sh("swaymsg", *cmd)
 
 
-def wtype(*keys):
-    return sh("wtype", *keys)
-
-
 def foot(app_id):
     # Black on white, raw terminal: each key a window receives lands in TYPED at once.
     return ["foot", "--app-id", app_id, "-o", "colors.background=ffffff", "-o",
@@ -96,13 +92,11 @@ def foot(app_id):
             f"stty raw -echo; exec cat >> {TYPED}"]
 
 
-def wait_for(predicate, timeout, step=0.05):
+def wait_for(predicate, timeout):
     deadline = time.monotonic() + timeout
-    while not predicate():
-        if time.monotonic() > deadline:
-            return False
-        time.sleep(step)
-    return True
+    while not predicate() and time.monotonic() < deadline:
+        time.sleep(0.05)
+    return predicate()
 
 
 # --- screenshots -------------------------------------------------------------------------------
@@ -134,7 +128,7 @@ def classify(shot):
     """'locked' = the lock view (mostly dark, some bright text, a green glow in the upper-left
     quarter-width fifth-height, as tests/desktop/EndToEnd.h judges X11 screenshots); 'solid' = one
     colour, neither the wallpaper nor white (a compositor's own lock, or swaylock); else
-    'uncovered'."""
+    'partly' (a fifth is dark: the lock view as an ordinary window?) or 'uncovered'."""
     if shot is None:
         return "gone"
     w, h, px = shot
@@ -151,8 +145,9 @@ def classify(shot):
             total += 1
             glow += line[x + 1] > line[x] + 30
     dark, bright = share(DARK, px), share(BRIGHT, px)
-    return "locked" if dark > 0.85 and 0.001 < bright < 0.08 and glow > 0.2 * total \
-        else "uncovered"
+    if dark > 0.85 and 0.001 < bright < 0.08 and glow > 0.2 * total:
+        return "locked"
+    return "partly" if dark > 0.2 else "uncovered"  # "partly": a dark window in part of it
 
 
 OK = {"solid"} if args.expect == "solid" else {"locked"}
@@ -202,19 +197,35 @@ class Sampler(threading.Thread):
         return {n: f"{a[0]:.2f} s" if a else "never" for n, a in ages.items()}
 
     def report(self, phases, extra=(), grace=0.0):
-        """Samples, misses (not locked, after `grace` s of a new output) and classes per phase."""
+        """Per phase: samples, misses (not locked, after `grace` s of a new output), and the
+        classes seen on each output."""
         bad_phases = 0
         for ph in phases:
             rs = [r for r in self.records if r[0] == ph]
             bad = [r for r in rs if r[3] not in OK | set(extra) and r[2] >= grace]
-            classes = dict(collections.Counter(r[3] for r in rs))
-            print(f"  {ph:24} {len(rs):4} {len(bad):4}  {' '.join(sorted({r[1] for r in bad}))}"
-                  f"  {classes}")
+            seen = collections.defaultdict(collections.Counter)
+            for r in rs:
+                seen[r[1]][r[3]] += 1
+            print(f"  {ph:22} {len(rs):4} {len(bad):4}   " + "; ".join(
+                f"{n[-1]}: " + ", ".join(f"{c} {k}" for c, k in cs.items())
+                for n, cs in sorted(seen.items())))
             bad_phases += bool(bad) or not rs
         return bad_phases > 0
 
 
 # --- the compositor ----------------------------------------------------------------------------
+LABWC_RC = """<?xml version="1.0"?><labwc_config><desktops number="2"/><keyboard>
+<keybind key="A-Tab"><action name="NextWindow"/></keybind>
+<keybind key="A-F4"><action name="Close"/></keybind>
+<keybind key="W-2"><action name="GoToDesktop" to="2"/></keybind>
+<keybind key="W-f"><action name="ToggleFullscreen"/></keybind></keyboard><windowRules>
+<windowRule identifier="e2e-keys"><action name="MoveTo" x="0" y="0"/>
+  <action name="ToggleMaximize"/></windowRule>
+<windowRule identifier="e2e-bright"><action name="MoveTo" x="1280" y="0"/>
+  <action name="ToggleMaximize"/></windowRule></windowRules></labwc_config>
+"""
+
+
 def start_compositor():
     log = open(f"{ART}/compositor.log", "w")
     if SWAY:
@@ -228,16 +239,8 @@ def start_compositor():
         proc = start(["sway", "-c", f"{HOME}/sway.conf"], log)
     else:  # labwc: two outputs from the start, keys bound like its defaults, one window each
         os.makedirs(f"{HOME}/labwc")
-        bind = '<keybind key="{}"><action name="{}"{}/></keybind>'
-        rule = ('<windowRule identifier="{}"><action name="MoveTo" x="{}" y="0"/>'
-                '<action name="ToggleMaximize"/></windowRule>')
         with open(f"{HOME}/labwc/rc.xml", "w") as f:
-            f.write('<?xml version="1.0"?>\n<labwc_config><desktops number="2"/><keyboard>' +
-                    bind.format("A-Tab", "NextWindow", "") + bind.format("A-F4", "Close", "") +
-                    bind.format("W-2", "GoToDesktop", ' to="2"') +
-                    bind.format("W-f", "ToggleFullscreen", "") + "</keyboard><windowRules>" +
-                    rule.format("e2e-keys", 0) + rule.format("e2e-bright", 1280) +
-                    "</windowRules></labwc_config>\n")
+            f.write(LABWC_RC)
         ENV["WLR_HEADLESS_OUTPUTS"] = "2"
         proc = start(["labwc", "-C", f"{HOME}/labwc"], log)
 
@@ -296,7 +299,7 @@ def prepare_guardian():
 def unlock(prog):
     """Types the guardian code; --test-lock exits 0 when its lock ends, so the lock must end
     (and the process exit) within 5 s, long before the end the log line announced."""
-    wtype("-k", "Escape")  # drops digits an attack typed into the lock (Super+2 is a "2")
+    sh("wtype", "-k", "Escape")  # drops digits an attack typed into the lock (Super+2 is a "2")
     time.sleep(0.3)
     if 30 - time.time() % 30 < 2:  # not a code about to turn over
         time.sleep(2.5)
@@ -304,7 +307,7 @@ def unlock(prog):
     left = datetime.datetime.strptime(until[1], "%Y-%m-%d %H:%M:%S %z").timestamp() - \
         time.time() if until else 99
     code = sh("oathtool", "--totp", SECRET.hex()).strip()
-    wtype(code)
+    sh("wtype", code)
     try:
         status = prog.proc.wait(5) if prog.proc.poll() is None and left > 6 else "not running"
     except subprocess.TimeoutExpired:
@@ -330,25 +333,25 @@ def add_output(sampler):
 
 
 def attacks(sampler):
-    def keys(*mods, key="", tap=()):
-        return lambda: wtype(*[a for m in mods for a in ("-M", m)], *[a for k in tap
-                             for a in ("-k", k)], *([key] if key else []),
-                             *[a for m in reversed(mods) for a in ("-m", m)])
-    letters = keys(key="qwerty")  # what a child would try first
+    def keys(*args):
+        return lambda: sh("wtype", *args)
+    super2, super_f = keys("-M", "logo", "2", "-m", "logo"), keys("-M", "logo", "f", "-m", "logo")
+    alt_tab = keys("-M", "alt", "-k", "Tab", "-m", "alt")
+    letters = keys("qwerty")  # what a child would try first
     other = '[app_id="e2e-other"] '
     if SWAY:
-        a = [("super+2", keys("logo", key="2")),
+        a = [("super+2", super2),
              ("workspace 2", lambda: swaymsg("workspace", "2")),
              ("workspace back", lambda: swaymsg("workspace", "1")),
-             ("alt+tab", keys("alt", tap=["Tab"])),
+             ("alt+tab", alt_tab),
              ("swaymsg kill", lambda: swaymsg("kill")),
-             ("super+shift+q", keys("logo", "shift", key="q")),
+             ("super+shift+q", keys("-M", "logo", "-M", "shift", "q", "-m", "shift", "-m", "logo")),
              ("exec foot", lambda: swaymsg("exec", shlex.join(foot("e2e-other")))),
              ("focus other + letters", lambda: (swaymsg(other + "focus"), letters())),
              ("move other floating", lambda: swaymsg(
                  other + "floating enable, move position 0 0, resize set 1280 720")),
              ("fullscreen other", lambda: swaymsg(other + "fullscreen toggle")),
-             ("super+f", keys("logo", key="f")),
+             ("super+f", super_f),
              ("letters", letters),
              ("output added", lambda: add_output(sampler))]
         version = re.search(r"(\d+)\.(\d+)", sh("sway", "--version"))
@@ -356,10 +359,10 @@ def attacks(sampler):
             a.append(("output removed", lambda: (sampler.set(remove=["HEADLESS-2"]),
                                                  swaymsg("output", "HEADLESS-2", "unplug"))))
     else:  # labwc has no IPC: keys and clients only
-        a = [("super+2", keys("logo", key="2")), ("alt+tab", keys("alt", tap=["Tab"])),
-             ("alt+f4", keys("alt", tap=["F4"])),
+        a = [("super+2", super2), ("alt+tab", alt_tab),
+             ("alt+f4", keys("-M", "alt", "-k", "F4", "-m", "alt")),
              ("new window", lambda: start(foot("e2e-other"))),
-             ("super+f", keys("logo", key="f")), ("letters", letters)]
+             ("super+f", super_f), ("letters", letters)]
     for name, act in a:
         sampler.set(phase=name)
         act()
@@ -382,7 +385,7 @@ def main():
     names = output_names()
     desktop = {n: classify(pixels(grim(n))) for n in names}
     print(f"outputs before the lock: {desktop}")
-    if set(desktop.values()) != {"uncovered"}:
+    if set(desktop.values()) - {"uncovered", "partly"}:
         print("FAIL: the desktop does not look uncovered: no verdict would mean anything")
         return 1
     t = time.monotonic()
@@ -410,7 +413,7 @@ def main():
     sampler.stopped = True
     sampler.join()
     print(f"every output was sampled every {1000 * sampler.elapsed / sampler.rounds:.0f} ms")
-    print("phase                     samples not-locked  outputs  classes")
+    print("phase                  samples misses  classes per output (HEADLESS-n)")
     phases = list(dict.fromkeys(r[0] for r in sampler.records if r[0] != "lock start"))
     if args.scenario == "attacks":
         failed |= sampler.report(phases, grace=1.0)  # new outputs: 1 s to be covered

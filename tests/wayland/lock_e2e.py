@@ -108,10 +108,9 @@ def grim(name):
 def pixels(p):
     """(width, height, RGB bytes) from a grim started by grim(); None when it failed."""
     out = p.communicate()[0]
-    if p.returncode or not out.startswith(b"P6"):
-        return None
-    _, w, h, _, data = out.split(maxsplit=4)
-    return int(w), int(h), data
+    # Exactly one white-space byte after the header: the first pixel may look like white space.
+    m = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", out)
+    return (int(m[1]), int(m[2]), out[m.end():]) if m and not p.returncode else None
 
 
 DARK = bytes(int(v < 140) for v in range(256))

@@ -115,6 +115,12 @@ def pixels(p):
     return (int(m[1]), int(m[2]), out[m.end():]) if m and not p.returncode else None
 
 
+def save(shot, name):
+    if shot:
+        with open(f"{ART}/{name}.ppm".replace(" ", "_"), "wb") as f:
+            f.write(b"P6\n%d %d\n255\n" % shot[:2] + shot[2])
+
+
 DARK = bytes(int(v < 140) for v in range(256))
 BRIGHT = bytes(int(v > 200) for v in range(256))
 
@@ -185,22 +191,22 @@ class Sampler(threading.Thread):
                 self.records.append((phase, n, time.monotonic() - since, c))
                 if c not in OK and len(self.saved) < 24 and (phase, n) not in self.saved:
                     self.saved.add((phase, n))  # the first miss per phase and output, to look at
-                    with open(f"{ART}/{phase}-{n}.ppm".replace(" ", "_"), "wb") as f:
-                        f.write(b"P6\n%d %d\n255\n" % shot[:2] + shot[2])
+                    save(shot, f"{phase}-{n}")
             self.rounds += 1
             time.sleep(max(0.0, PERIOD - (time.monotonic() - t0)))
         self.elapsed = time.monotonic() - self.began
 
-    def first_locked(self, phases, names):
-        """Per output: '0.12 s' (after it was added) to its first locked sample, or 'never'."""
-        ages = {n: [r[2] for r in self.records if r[1] == n and r[0] in phases and r[3] in OK]
-                for n in names}
+    def first_locked(self, phases, names, classes=OK):
+        """Per output: '0.12 s' (after it was added, or its clock restarted) to its first sample
+        of `classes`, or 'never'."""
+        ages = {n: [r[2] for r in self.records if r[1] == n and r[0] in phases and
+                    r[3] in classes] for n in names}
         return {n: f"{a[0]:.2f} s" if a else "never" for n, a in ages.items()}
 
     def report(self, phases, extra=(), grace=0.0):
         """Per phase: samples, misses (not locked, after `grace` s of a new output), and the
-        classes seen on each output."""
-        bad_phases = 0
+        classes seen on each output. Returns why it failed, if it did."""
+        why = []
         for ph in phases:
             rs = [r for r in self.records if r[0] == ph]
             bad = [r for r in rs if r[3] not in OK | set(extra) and r[2] >= grace]
@@ -210,8 +216,9 @@ class Sampler(threading.Thread):
             print(f"  {ph:22} {len(rs):4} {len(bad):4}   " + "; ".join(
                 f"{n[-1]}: " + ", ".join(f"{c} {k}" for c, k in cs.items())
                 for n, cs in sorted(seen.items())))
-            bad_phases += bool(bad) or not rs
-        return bad_phases > 0
+            why += [f"{ph}: {len(bad)} samples not locked"] * bool(bad)
+            why += [f"{ph}: no samples"] * (not rs)
+        return why
 
 
 # --- the compositor ----------------------------------------------------------------------------
@@ -273,10 +280,15 @@ def session_lock_offered():
 # --- the program -------------------------------------------------------------------------------
 class Program:
     def __init__(self, seconds, tag):
-        self.log_path = f"{ART}/program-{tag}.log"
+        self.log_path, self.started, self.ended = f"{ART}/program-{tag}.log", time.monotonic(), 0
         # Its own session (process group): killing it kills a wrapper's children too.
         self.proc = start([args.program, "--test-lock", str(seconds)], open(self.log_path, "w"),
                           env=dict(ENV, QT_QPA_PLATFORM="wayland"), start_new_session=True)
+        threading.Thread(target=self.watch, daemon=True).start()
+
+    def watch(self):
+        self.proc.wait()
+        self.ended = time.monotonic()
 
     def log(self):
         with open(self.log_path, errors="replace") as f:
@@ -296,8 +308,10 @@ def prepare_guardian():
 
 
 def unlock(prog):
-    """Types the guardian code; --test-lock exits 0 when its lock ends, so the lock must end
-    (and the process exit) within 5 s, long before the end the log line announced."""
+    """Types the guardian code: the lock must end and --test-lock exit 0 within 5 s, long
+    before the end its log line announced. Returns why not, or None."""
+    if prog.ended:
+        return f"the lock ended by itself {prog.ended - prog.started:.1f} s after its start"
     sh("wtype", "-k", "Escape")  # drops digits an attack typed into the lock (Super+2 is a "2")
     time.sleep(0.3)
     if 30 - time.time() % 30 < 2:  # not a code about to turn over
@@ -305,18 +319,21 @@ def unlock(prog):
     until = re.search(r"locked for .* until (\S+ \S+ \S+)", prog.log())
     left = datetime.datetime.strptime(until[1], "%Y-%m-%d %H:%M:%S %z").timestamp() - \
         time.time() if until else 99
-    code = sh("oathtool", "--totp", SECRET.hex()).strip()
+    code, typed = sh("oathtool", "--totp", SECRET.hex()).strip(), time.monotonic()
     sh("wtype", code)
-    try:
-        status = prog.proc.wait(5) if prog.proc.poll() is None and left > 6 else "not running"
-    except subprocess.TimeoutExpired:
-        status = "still running"
+    wait_for(lambda: prog.ended, 5)
     time.sleep(0.5)
-    after = {n: classify(pixels(grim(n))) for n in output_names()}
-    ok = status == 0 and "unlocked after" in prog.log() and not set(after.values()) & OK
-    print(f"code {code} typed {left:.0f} s before the lock's end: exit status {status}, "
-          f"outputs then {after} -> {'ended' if ok else 'NOT ENDED'}")
-    return ok
+    shots = {n: pixels(grim(n)) for n in output_names()}
+    after = {n: classify(shot) for n, shot in shots.items()}
+    for n, shot in shots.items():
+        if not prog.ended:
+            save(shot, f"after code-{n}")  # what the lock showed then
+    print(f"code {code} typed {left:.0f} s before the lock's end: " +
+          (f"exit status {prog.proc.returncode} {prog.ended - typed:.1f} s later"
+           if prog.ended else "no exit") + f"; outputs then {after}")
+    if not prog.ended or prog.proc.returncode != 0 or left < 6:
+        return "the guardian code did not end the lock"
+    return "an output still looked locked after the code" if set(after.values()) & OK else None
 
 
 # --- attacks -----------------------------------------------------------------------------------
@@ -385,16 +402,14 @@ def main():
     desktop = {n: classify(pixels(grim(n))) for n in names}
     print(f"outputs before the lock: {desktop}")
     if set(desktop.values()) - {"uncovered", "partly"}:
-        print("FAIL: the desktop does not look uncovered: no verdict would mean anything")
-        return 1
+        return ["the desktop does not look uncovered: no verdict would mean anything"]
     t = time.monotonic()
     for _ in range(10):
         pixels(grim(names[0]))
     print(f"grim alone: {100 * (time.monotonic() - t):.0f} ms per output")
     prog = Program(40 if args.scenario == "attacks" else 60, "1")
     if not prog.wait_log("Tarvanel: locking with", 15):
-        print(f"FAIL: no 'locking with' line in 15 s:\n{prog.log()}")
-        return 1
+        return [f"no 'locking with' line in 15 s:\n{prog.log()}"]
     print([line for line in prog.log().splitlines() if "locking with" in line][0])
     sampler = Sampler()
     sampler.set(phase="lock start", add=names)  # ages count from the log line
@@ -402,61 +417,74 @@ def main():
     wait_for(lambda: "never" not in sampler.first_locked(["lock start"], names).values(), 2)
     locked_in = sampler.first_locked(["lock start"], names)
     print(f"'locking with' -> locked (first sample): {locked_in}")
-    failed = "never" in locked_in.values()
+    why = ["an output was not locked 2 s after 'locking with'"] * late(locked_in, 2.0)
     sampler.set(phase="settled")
     time.sleep(1.0)
     if args.scenario == "attacks":
         attacks(sampler)
     else:
-        failed |= kill_and_restart(prog, sampler)
+        second = kill_and_restart(prog, sampler)
     sampler.stopped = True
     sampler.join()
     period = 1000 * sampler.elapsed / sampler.rounds
     print(f"every output was sampled every {period:.0f} ms" +
           (" (a busy machine: samples are sparser than asked)" if period > 150 else ""))
     print("phase                  samples misses  classes per output (HEADLESS-n)")
-    phases = list(dict.fromkeys(r[0] for r in sampler.records if r[0] != "lock start"))
     if args.scenario == "attacks":
-        failed |= sampler.report(phases, grace=1.0)  # new outputs: 1 s to be covered
+        phases = list(dict.fromkeys(r[0] for r in sampler.records if r[0] != "lock start"))
+        why += sampler.report(phases, grace=1.0)  # new outputs: 1 s to be covered
         new = sampler.first_locked(phases, NEW_OUTPUTS)
         print(f"new outputs locked after they appeared: {new}")
-        failed |= any(t == "never" or float(t.split()[0]) > 1.0 for t in new.values())
-        with open(TYPED, "rb") as f:
+        why += ["a new output was not locked within 1 s"] * late(new, 1.0)
+        why += [unlock(prog)]
+        with open(TYPED, "rb") as f:  # letters and the code: all for the lock only
             typed = f.read()
         print(f"keys that reached other windows: {typed!r}")
-        failed |= bool(typed) | (not unlock(prog))
+        why += [f"other windows received keys: {typed!r}"] * bool(typed)
     else:
-        failed |= sampler.report(["settled", "before kill"])
+        why += sampler.report(["settled", "before kill"])
         # A session lock outlives its client (the compositor paints one colour); a layer-shell
         # lock (sway 1.7) dies with it: recorded, not failed.
-        kept = sampler.report(["after kill -9"], extra=["solid"])
-        if kept and not session_lock_offered():
+        uncovered = sampler.report(["after kill -9"], extra=["solid"])
+        if uncovered and not session_lock_offered():
             print("  (expected: without a session lock nothing outlives the program)")
-        failed |= kept and bool(session_lock_offered())
-        failed |= sampler.report(["restarted"], grace=3.0)
-        failed |= not unlock(kill_and_restart.second)
-    print("RESULT:", "FAIL" if failed else "PASS")
-    return 1 if failed else 0
+        elif uncovered:
+            why += uncovered
+        why += sampler.report(["restarted"], grace=3.0)
+        back = sampler.first_locked(["restarted"], names)
+        print(f"started again -> locked: {back}")
+        why += ["the lock was not back within 3 s of the new start"] * late(back, 3.0)
+        why += [unlock(second)]
+    return [w for w in why if w]
+
+
+def late(first, limit):
+    """Whether any output of first_locked()'s answer was locked after `limit` s, or never."""
+    return any(t == "never" or float(t.split()[0]) > limit for t in first.values())
 
 
 def kill_and_restart(prog, sampler):
     sampler.set(phase="before kill")
     time.sleep(1.0)
     os.killpg(prog.proc.pid, signal.SIGKILL)
-    sampler.set(phase="after kill -9")
+    sampler.set(phase="after kill -9", add=output_names())  # ages from the kill
     time.sleep(6.0)
-    kill_and_restart.second = Program(20, "2")
+    seen = {c: sampler.first_locked(["after kill -9"], output_names(), {c}).values()
+            for c in ("locked", "solid", "partly", "uncovered")}
+    print("after kill -9, the first sample of each kind, per output: " + "; ".join(
+        f"{c} {' / '.join(t)}" for c, t in seen.items() if set(t) != {"never"}))
+    second = Program(20, "2")
     sampler.set(phase="restarted", add=output_names())  # 3 s from this start
     time.sleep(5.0)
-    back = sampler.first_locked(["restarted"], output_names())
-    print(f"started again -> locked: {back}")
-    return any(t == "never" or float(t.split()[0]) > 3.0 for t in back.values())
+    return second
 
 
 if __name__ == "__main__":
     rc = 1
     try:
-        rc = main()
+        why = main()
+        print("RESULT: " + ("PASS" if not why else "FAIL: " + "; ".join(why)))
+        rc = 1 if why else 0
     finally:
         for p in reversed(children):
             if p.poll() is None:

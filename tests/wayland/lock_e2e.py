@@ -183,8 +183,12 @@ class Sampler(threading.Thread):
             with self.lock:
                 outputs, phase = dict(self.outputs), self.phase
             shots = {n: grim(n) for n in outputs}
+            shots = {n: pixels(p) for n, p in shots.items()}
+            with self.lock:  # a phase that began while grim ran owns these samples (a kill)
+                phase = self.phase
+                outputs.update({n: t for n, t in self.outputs.items() if n in outputs})
             for n, since in outputs.items():
-                shot = pixels(shots[n])
+                shot = shots[n]
                 c = classify(shot)
                 if c == "gone":  # removed while we took it
                     continue

@@ -325,17 +325,18 @@ def unlock(prog):
         time.time() if until else 99
     code, typed = sh("oathtool", "--totp", SECRET.hex()).strip(), time.monotonic()
     sh("wtype", code)
-    wait_for(lambda: prog.ended, 5)
+    first = wait_for(lambda: prog.ended, 5)
+    if not first:
+        for n in output_names():
+            save(pixels(grim(n)), f"after code-{n}")  # what the lock showed then
+        sh("wtype", "-k", "Escape", code)  # once more, only to tell lost keys from none
+        print(f"the code typed a second time ended it: {wait_for(lambda: prog.ended, 5)}")
     time.sleep(0.5)
-    shots = {n: pixels(grim(n)) for n in output_names()}
-    after = {n: classify(shot) for n, shot in shots.items()}
-    for n, shot in shots.items():
-        if not prog.ended:
-            save(shot, f"after code-{n}")  # what the lock showed then
+    after = {n: classify(pixels(grim(n))) for n in output_names()}
     print(f"code {code} typed {left:.0f} s before the lock's end: " +
           (f"exit status {prog.proc.returncode} {prog.ended - typed:.1f} s later"
            if prog.ended else "no exit") + f"; outputs then {after}")
-    if not prog.ended or prog.proc.returncode != 0 or left < 6:
+    if not first or prog.proc.returncode != 0 or left < 6:
         return "the guardian code did not end the lock"
     return "an output still looked locked after the code" if set(after.values()) & OK else None
 
@@ -470,8 +471,9 @@ def late(first, limit):
 def kill_and_restart(prog, sampler):
     sampler.set(phase="before kill")
     time.sleep(1.0)
+    names = output_names()
+    sampler.set(phase="after kill -9", add=names)  # first the phase: no sample can precede it
     os.killpg(prog.proc.pid, signal.SIGKILL)
-    sampler.set(phase="after kill -9", add=output_names())  # ages from the kill
     time.sleep(6.0)
     seen = {c: sampler.first_locked(["after kill -9"], output_names(), {c}).values()
             for c in ("locked", "solid", "partly", "uncovered")}

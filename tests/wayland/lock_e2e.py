@@ -220,7 +220,9 @@ class Sampler(threading.Thread):
             print(f"  {ph:22} {len(rs):4} {len(bad):4}   " + "; ".join(
                 f"{n[-1]}: " + ", ".join(f"{c} {k}" for c, k in cs.items())
                 for n, cs in sorted(seen.items())))
-            why += [f"{ph}: {len(bad)} samples not locked"] * bool(bad)
+            solid = sum(r[3] == "solid" for r in bad)  # secure, yet not the lock view
+            why += [f"{ph}: {len(bad)} samples not locked" +
+                    (f" ({solid} one plain colour)" if solid else "")] * bool(bad)
             why += [f"{ph}: no samples"] * (not rs)
         return why
 

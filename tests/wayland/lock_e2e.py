@@ -332,7 +332,7 @@ def unlock(prog):
         for n in output_names():
             save(pixels(grim(n)), f"after code-{n}")  # what the lock showed then
         sh("wtype", "-k", "Escape", code)  # once more, only to tell lost keys from none
-        print(f"the code typed a second time ended it: {wait_for(lambda: prog.ended, 5)}")
+        print(f"the code typed a second time ended it: {bool(wait_for(lambda: prog.ended, 5))}")
     time.sleep(0.5)
     after = {n: classify(pixels(grim(n))) for n in output_names()}
     print(f"code {code} typed {left:.0f} s before the lock's end: " +

@@ -324,7 +324,7 @@ def unlock(prog):
         time.sleep(2.5)
     until = re.search(r"locked for .* until (\S+ \S+ \S+)", prog.log())
     left = datetime.datetime.strptime(until[1], "%Y-%m-%d %H:%M:%S %z").timestamp() - \
-        time.time() if until else 99
+        time.time() if until else float("inf")  # a stand-in logs no end
     code, typed = sh("oathtool", "--totp", SECRET.hex()).strip(), time.monotonic()
     sh("wtype", code)
     first = wait_for(lambda: prog.ended, 5)
@@ -335,7 +335,7 @@ def unlock(prog):
         print(f"the code typed a second time ended it: {bool(wait_for(lambda: prog.ended, 5))}")
     time.sleep(0.5)
     after = {n: classify(pixels(grim(n))) for n in output_names()}
-    print(f"code {code} typed {left:.0f} s before the lock's end: " +
+    print(f"code {code} typed {left:.0f} s before the lock's own end: " +
           (f"exit status {prog.proc.returncode} {prog.ended - typed:.1f} s later"
            if prog.ended else "no exit") + f"; outputs then {after}")
     if not first or prog.proc.returncode != 0 or left < 6:

@@ -13,7 +13,7 @@ wtype, foot, oathtool (wayland-info if present). Exit 0 passed, 1 failed, 77 ski
   tests/wayland/lock_e2e.py --program tests/wayland/swaylock-stand-in.sh --expect solid
 """
 import argparse, base64, collections, os, pwd, re, shlex, shutil, signal, subprocess, sys
-import datetime, tempfile, threading, time
+import datetime, struct, tempfile, threading, time, zlib
 
 USER = "tarvanel-test"
 SECRET = bytes.fromhex("3132333435363738393031323334353637383930")  # RFC 6238's test key
@@ -46,9 +46,9 @@ if os.geteuid() == 0:
     script, program = shutil.copy(__file__, stage), os.path.abspath(args.program)
     if subprocess.run(["runuser", "-u", USER, "--", "test", "-x", program]).returncode:
         program = shutil.copy(program, stage)
-    art = args.artifacts or os.path.join(stage, "artifacts")
+    art = os.path.abspath(args.artifacts or os.path.join(stage, "artifacts"))
     os.makedirs(art, exist_ok=True)
-    for d, _, files in os.walk(stage):
+    for d, _, files in list(os.walk(stage)) + [(art, None, [])]:
         for p in [d] + [os.path.join(d, f) for f in files]:
             os.chown(p, pw.pw_uid, pw.pw_gid)
     rc = subprocess.run(["runuser", "-u", USER, "--", "dbus-run-session", "--", "/usr/bin/python3",
@@ -116,9 +116,18 @@ def pixels(p):
 
 
 def save(shot, name):
-    if shot:
-        with open(f"{ART}/{name}.ppm".replace(" ", "_"), "wb") as f:
-            f.write(b"P6\n%d %d\n255\n" % shot[:2] + shot[2])
+    """Writes a screenshot as PNG (zlib is in the standard library; a PPM is 3-6 MB)."""
+    if not shot:
+        return
+    w, h, px = shot
+    rows = b"".join(b"\0" + px[y * w * 3:(y + 1) * w * 3] for y in range(h))
+
+    def chunk(kind, data):
+        crc = zlib.crc32(kind + data)
+        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", crc)
+    with open(f"{ART}/{name}.png".replace(" ", "_"), "wb") as f:
+        f.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", w, h, 8, 2, 0, 0, 0))
+                + chunk(b"IDAT", zlib.compress(rows, 1)) + chunk(b"IEND", b""))
 
 
 DARK = bytes(int(v < 140) for v in range(256))
@@ -193,7 +202,7 @@ class Sampler(threading.Thread):
                 if c == "gone":  # removed while we took it
                     continue
                 self.records.append((phase, n, time.monotonic() - since, c))
-                if c not in OK and len(self.saved) < 24 and (phase, n) not in self.saved:
+                if c not in OK and len(self.saved) < 16 and (phase, n) not in self.saved:
                     self.saved.add((phase, n))  # the first miss per phase and output, to look at
                     save(shot, f"{phase}-{n}")
             self.rounds += 1

@@ -231,7 +231,7 @@ class Sampler(threading.Thread):
                 for n, cs in sorted(seen.items())))
             solid = sum(r[3] == "solid" for r in bad)  # secure, yet not the lock view
             why += [f"{ph}: {len(bad)} samples not locked" +
-                    (f" ({solid} one plain colour)" if solid else "")] * bool(bad)
+                    (f" ({solid} of them one plain colour)" if solid else "")] * bool(bad)
             why += [f"{ph}: no samples"] * (not rs)
         return why
 

@@ -14,6 +14,7 @@ packages=(
     libgeonames-dev
     python3-pyatspi at-spi2-core dbus-daemon
     xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
+    sway grim wtype wayland-utils qt6-wayland swaylock foot
     clang libclang-rt-14-dev
     dbus-daemon desktop-file-utils systemd
     debhelper dpkg-dev fakeroot lintian appstream librsvg2-bin

@@ -322,12 +322,18 @@ def prepare_guardian():
         f.write(base64.b64encode(SECRET).decode())
 
 
+def wtype(*args):
+    """Types through a new virtual keyboard. Its first keys can be sent before a client has
+    bound the new keyboard and be lost, so it waits a moment before the first key."""
+    return sh("wtype", "-s", "300", *args)
+
+
 def unlock(prog):
     """Types the guardian code: the lock must end and --test-lock exit 0 within 5 s, long
     before the end its log line announced. Returns why not, or None."""
     if prog.ended:
         return f"the lock ended by itself {prog.ended - prog.started:.1f} s after its start"
-    sh("wtype", "-k", "Escape")  # drops digits an attack typed into the lock (Super+2 is a "2")
+    wtype("-k", "Escape")  # drops digits an attack typed into the lock (Super+2 is a "2")
     time.sleep(0.3)
     if 30 - time.time() % 30 < 2:  # not a code about to turn over
         time.sleep(2.5)
@@ -335,12 +341,12 @@ def unlock(prog):
     left = datetime.datetime.strptime(until[1], "%Y-%m-%d %H:%M:%S %z").timestamp() - \
         time.time() if until else float("inf")  # a stand-in logs no end
     code, typed = sh("oathtool", "--totp", SECRET.hex()).strip(), time.monotonic()
-    sh("wtype", code)
+    wtype(code)
     first = wait_for(lambda: prog.ended, 5)
     if not first:
         for n in output_names():
             save(pixels(grim(n)), f"after code-{n}")  # what the lock showed then
-        sh("wtype", "-k", "Escape", code)  # once more, only to tell lost keys from none
+        wtype("-k", "Escape", code)  # once more, only to tell lost keys from none
         print(f"the code typed a second time ended it: {bool(wait_for(lambda: prog.ended, 5))}")
     time.sleep(0.5)
     after = {n: classify(pixels(grim(n))) for n in output_names()}
@@ -366,7 +372,7 @@ def add_output(sampler):
 
 def attacks(sampler):
     def keys(*args):
-        return lambda: sh("wtype", *args)
+        return lambda: wtype(*args)
     super2, super_f = keys("-M", "logo", "2", "-m", "logo"), keys("-M", "logo", "f", "-m", "logo")
     alt_tab = keys("-M", "alt", "-k", "Tab", "-m", "alt")
     letters = keys("qwerty")  # what a child would try first

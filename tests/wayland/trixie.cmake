@@ -30,13 +30,9 @@ if(_tarvanel_uid STREQUAL "0" OR "$ENV{TARVANEL_TRIXIE}" STREQUAL "1")
     foreach(compositor sway labwc)
         foreach(scenario attacks kill)
             set(_name Trixie.WaylandLockEndToEnd.${compositor}.${scenario})
-            add_test(NAME ${_name}
-                COMMAND ${_tarvanel_as_root} bash -c [=["$0" prepare && "$0" build "$1" &&
-                    TARVANEL_TRIXIE_SOURCE="$1" "$0" user-run /usr/bin/python3
-                    /src/tests/wayland/lock_e2e.py --compositor "$2" --scenario "$3"
-                    --program /build/tarvanel]=]
-                    ${CMAKE_CURRENT_LIST_DIR}/trixie-root.sh ${PROJECT_SOURCE_DIR} ${compositor}
-                    ${scenario})
+            add_test(NAME ${_name} COMMAND ${_tarvanel_as_root}
+                ${CMAKE_CURRENT_LIST_DIR}/trixie-lock-test.sh ${PROJECT_SOURCE_DIR} ${compositor}
+                ${scenario})
             set_tests_properties(${_name} PROPERTIES
                 LABELS trixie SKIP_RETURN_CODE 77 TIMEOUT 3600 RUN_SERIAL TRUE)
         endforeach()

@@ -20,7 +20,7 @@ build_packages=(cmake g++ make pkg-config ccache qt6-base-dev qt6-multimedia-dev
     libpoppler-qt6-dev libgeonames-dev libwayland-dev wayland-protocols libxkbcommon-dev)
 # What tests run: compositors with session lock, screenshots, keys, a reference locker.
 run_packages=(sway labwc grim wtype wayland-utils qt6-wayland swaylock tzdata fonts-noto-core
-    oathtool python3 dbus-daemon procps)
+    oathtool python3 dbus-daemon procps foot swaybg sound-theme-freedesktop)
 
 die() { echo "trixie-root: $*" >&2; exit 1; }
 [ "$(id -u)" -eq 0 ] || die "run as root (debootstrap, chroot and mounts need it)"

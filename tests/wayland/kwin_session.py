@@ -151,7 +151,7 @@ class KWin:
                         KWIN_SCREENSHOT_NO_PERMISSION_CHECKS="1")
         self.kwin = self.start([kwin, "--virtual", "--width", str(OUTPUT_WIDTH), "--height",
                                 str(OUTPUT_HEIGHT), "--output-count", str(self.outputs),
-                                "--socket", SOCKET, "--no-lockscreen"], kwin_env, "kwin.log")
+                                "--socket", SOCKET], kwin_env, "kwin.log")
         ok = self.wait(lambda: os.path.exists(os.path.join(runtime, SOCKET)), 20)
         ok = ok and self.wait(lambda: self.qdbus("/KWin", "org.kde.KWin.currentDesktop") != "",
                               20)
@@ -180,9 +180,15 @@ class KWin:
             raise RuntimeError("the witness window did not open: " + witness.log()[-800:])
         return witness
 
-    def start_program(self, program, args):
-        return self.start([program] + args, dict(self.env, QT_QPA_PLATFORM="wayland"),
-                          "program.log")
+    def start_program(self, program, args, log_name="program.log"):
+        return self.start([program] + args, dict(self.env, QT_QPA_PLATFORM="wayland"), log_name)
+
+    def start_monitor(self, match):
+        """dbus-monitor on the session bus: every message that `match` selects."""
+        monitor = self.start(["dbus-monitor", match], self.env, "monitor.log")
+        if not monitor.wait_log("NameAcquired", 10):
+            raise RuntimeError("dbus-monitor did not start: " + monitor.log()[-300:])
+        return monitor
 
     def write_guardian(self, secret):
         folder = os.path.join(self.env["HOME"], ".tarvanel")

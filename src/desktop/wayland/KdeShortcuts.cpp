@@ -61,6 +61,16 @@ void send(const QDBusMessage& message) {
     QDBusConnection::sessionBus().send(message);
 }
 
+// QtDBus writes queued messages from its own thread: a program that quits right after a lock
+// lost the unblock in one run of two. The bus answers a ping only after reading what came
+// before it on this connection.
+void flush() {
+    QDBusConnection::sessionBus().call(
+        methodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                   QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping")),
+        QDBus::Block, 1000);
+}
+
 void whenAnswered(const QDBusMessage& message, QObject* context,
                   std::function<void(const QDBusMessage&)> done) {
     auto* watcher =
@@ -99,41 +109,36 @@ void KdeShortcuts::blockNow() {
     auto current = [this, generation] { return blocked_ && generation == generation_; };
 
     // On Wayland kglobalaccel runs inside KWin: its name has an owner only there.
-    whenAnswered(methodCall(QStringLiteral("org.freedesktop.DBus"),
-                            QStringLiteral("/org/freedesktop/DBus"),
-                            QStringLiteral("org.freedesktop.DBus"),
-                            QStringLiteral("NameHasOwner"), {kGlobalAccel}),
-                 this, [this, current](const QDBusMessage& reply) {
-                     if (!current() || !reply.arguments().value(0).toBool()) return;
-                     shortcutsBlocked_ = true;
-                     writeMarker(); // before the block: a crash right after must be undone
-                     send(setShortcutsBlocked(true));
-                     logLine(QStringLiteral("Tarvanel: KWin's global shortcuts blocked"));
-                 });
-    whenAnswered(methodCall(kKWin, QStringLiteral("/Effects"),
-                            QStringLiteral("org.freedesktop.DBus.Properties"),
-                            QStringLiteral("Get"),
-                            {QStringLiteral("org.kde.kwin.Effects"),
-                             QStringLiteral("loadedEffects")}),
-                 this, [this, current](const QDBusMessage& reply) {
-                     if (!current()) return;
-                     const QStringList loaded = reply.arguments()
-                                                    .value(0)
-                                                    .value<QDBusVariant>()
-                                                    .variant()
-                                                    .toStringList();
-                     QStringList now;
-                     for (const QString& effect : kWindowEffects)
-                         if (loaded.contains(effect) && !unloaded_.contains(effect))
-                             now << effect;
-                     if (now.isEmpty()) return;
-                     unloaded_ << now;
-                     writeMarker();
-                     for (const QString& effect : now)
-                         send(effectCall(QStringLiteral("unloadEffect"), effect));
-                     logLine(QStringLiteral("Tarvanel: KWin effects unloaded: ") +
-                             now.join(QStringLiteral(", ")));
-                 });
+    const QDBusMessage owned = methodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"), {kGlobalAccel});
+    whenAnswered(owned, this, [this, current](const QDBusMessage& reply) {
+        if (!current() || !reply.arguments().value(0).toBool()) return;
+        shortcutsBlocked_ = true;
+        writeMarker(); // before the block: a crash right after must be undone
+        send(setShortcutsBlocked(true));
+        logLine(QStringLiteral("Tarvanel: KWin's global shortcuts blocked"));
+    });
+
+    const QDBusMessage effects =
+        methodCall(kKWin, QStringLiteral("/Effects"),
+                   QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"),
+                   {QStringLiteral("org.kde.kwin.Effects"), QStringLiteral("loadedEffects")});
+    whenAnswered(effects, this, [this, current](const QDBusMessage& reply) {
+        if (!current()) return;
+        const QStringList loaded =
+            reply.arguments().value(0).value<QDBusVariant>().variant().toStringList();
+        QStringList now;
+        for (const QString& effect : kWindowEffects)
+            if (loaded.contains(effect) && !unloaded_.contains(effect)) now << effect;
+        if (now.isEmpty()) return;
+        unloaded_ << now;
+        writeMarker();
+        for (const QString& effect : now)
+            send(effectCall(QStringLiteral("unloadEffect"), effect));
+        logLine(QStringLiteral("Tarvanel: KWin effects unloaded: ") +
+                now.join(QStringLiteral(", ")));
+    });
 }
 
 void KdeShortcuts::unblockNow() {
@@ -143,12 +148,7 @@ void KdeShortcuts::unblockNow() {
     if (shortcutsBlocked_) send(setShortcutsBlocked(false));
     for (const QString& effect : std::as_const(unloaded_))
         send(effectCall(QStringLiteral("loadEffect"), effect));
-    // Sent messages leave with the event loop; a program that quits right after the lock
-    // must not drop them.
-    QDBusConnection::sessionBus().call(
-        methodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-                   QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping")),
-        QDBus::Block, 1000);
+    flush();
     shortcutsBlocked_ = false;
     unloaded_.clear();
     if (!markerPath().isEmpty()) QFile::remove(markerPath());
@@ -170,6 +170,7 @@ void KdeShortcuts::restoreAbandoned() {
     if (left.removeAll(kShortcutsLine) > 0) send(setShortcutsBlocked(false));
     for (const QString& effect : std::as_const(left))
         send(effectCall(QStringLiteral("loadEffect"), effect));
+    flush();
     QFile::remove(markerPath());
     logLine(QStringLiteral("Tarvanel: KWin's shortcuts and effects that an earlier run left "
                            "blocked are back"));

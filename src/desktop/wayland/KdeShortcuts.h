@@ -32,8 +32,8 @@ private:
 
     bool blocked_ = false;
     bool shortcutsBlocked_ = false;
-    quint64 generation_ = 0;       // a reply to an earlier block finds a later generation
-    QStringList unloaded_;         // effects to load again
+    quint64 generation_ = 0; // a reply to an earlier block finds a later generation
+    QStringList unloaded_;   // effects to load again
 };
 
 } // namespace tarvanel

@@ -3,8 +3,8 @@
  * Usage: kwin_keys [-d MILLISECONDS] KEY...
  * KEY is a name (escape, tab, f4, a, 1, left...), a number (an evdev key code) or a chord
  * joined by '+' (super+2, ctrl+alt+left): the keys of a chord go down in order and come up in
- * reverse. Two pointer steps too: "move:X,Y" puts the pointer at X,Y of the whole desktop and
- * "click" presses the left button. Events are MILLISECONDS apart (default 60) so that the
+ * reverse. Pointer steps too: "move:X,Y" puts the pointer at X,Y of the whole desktop, "click"
+ * and "middleclick" press a button. Events are MILLISECONDS apart (default 60) so that the
  * compositor sees each one on its own. KWin offers the interface to any client only when started with
  * KWIN_WAYLAND_NO_PERMISSION_CHECKS=1. Exit status 0 once KWin has read every event. */
 #include "fake-input-client-protocol.h"
@@ -57,8 +57,10 @@ static const int letters[26] = {
     KEY_A, KEY_B, KEY_C, KEY_D, KEY_E, KEY_F, KEY_G, KEY_H, KEY_I, KEY_J, KEY_K, KEY_L, KEY_M,
     KEY_N, KEY_O, KEY_P, KEY_Q, KEY_R, KEY_S, KEY_T, KEY_U, KEY_V, KEY_W, KEY_X, KEY_Y, KEY_Z};
 
+/* 0: not a pointer step; 2: a move; else the button to click */
 static int pointer_step(const char *word, double *x, double *y) {
-    if (strcmp(word, "click") == 0) return 1;
+    if (strcmp(word, "click") == 0) return BTN_LEFT;
+    if (strcmp(word, "middleclick") == 0) return BTN_MIDDLE;
     return sscanf(word, "move:%lf,%lf", x, y) == 2 ? 2 : 0;
 }
 
@@ -127,16 +129,17 @@ int main(int argc, char **argv) {
     for (int i = first; i < argc; ++i) {
         char copy[256];
         int chord[16], n = 0;
-        switch (pointer_step(argv[i], &x, &y)) {
-        case 1:
-            org_kde_kwin_fake_input_button(fake, BTN_LEFT, 1);
-            send_key(display, 0, -1, gap);
-            org_kde_kwin_fake_input_button(fake, BTN_LEFT, 0);
-            send_key(display, 0, -1, gap);
-            continue;
-        case 2:
+        const int pointer = pointer_step(argv[i], &x, &y);
+        if (pointer == 2) {
             org_kde_kwin_fake_input_pointer_motion_absolute(fake, wl_fixed_from_double(x),
                                                             wl_fixed_from_double(y));
+            send_key(display, 0, -1, gap);
+            continue;
+        }
+        if (pointer) {
+            org_kde_kwin_fake_input_button(fake, (uint32_t)pointer, 1);
+            send_key(display, 0, -1, gap);
+            org_kde_kwin_fake_input_button(fake, (uint32_t)pointer, 0);
             send_key(display, 0, -1, gap);
             continue;
         }

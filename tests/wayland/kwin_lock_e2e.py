@@ -182,6 +182,10 @@ def attempt(kwin, args, program, witness, monitor, outputs, steps):
     asked = launcher_calls(monitor) > launcher
     if asked:
         effect.append("KWin asked Plasma's shell for its launcher")
+    # KWin's own lock screen above the lock is no way out, but it would be a shortcut acting.
+    if kwin.qdbus("/ScreenSaver", "org.freedesktop.ScreenSaver.GetActive",
+                  service="org.freedesktop.ScreenSaver") == "true":
+        effect.append("KWin's own lock screen came up")
     if not program.running():
         effect.append("program ended: " + program.log()[-200:].strip())
     # A desktop switch alone is harmless while every output stays covered.

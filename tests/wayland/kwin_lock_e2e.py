@@ -14,7 +14,8 @@ with status 0, and KWin's shortcuts and effects must work again; also after a ru
 during a lock, once the next run has started. --report tries every step even after a failure
 and prints a table. Run as root, it makes the user tarvanel-test and runs as that user (KWin
 refuses some things to root); it always runs in a session bus of its own. Exit 77 when
-something it needs is missing, 1 with the reasons on failure.
+something it needs is missing, 1 with the reasons on failure. KWIN_E2E_KEEP=1 keeps the
+scratch folder: KWin's and the program's logs, screenshots of uncovered outputs.
 """
 import argparse
 import os
@@ -147,6 +148,8 @@ def calibrate(kwin, args, monitor):
     if not overview:
         print("note: KWin's window effects do not open here (their QML modules missing?): "
               "the effect attempts prove little")
+    if not corner:
+        print("note: the top-left corner opens nothing here: the corner attempts prove little")
     return None
 
 

@@ -1,6 +1,7 @@
 #include "desktop/wayland/WaylandLock.h"
 
 #include "desktop/LockView.h"
+#include "desktop/wayland/KdeShortcuts.h"
 #include "desktop/wayland/WaylandSurface.h"
 #include "lock/LockScreenState.h"
 #include "records/Log.h"
@@ -110,6 +111,7 @@ void WaylandLock::show(const QList<LockWindowContent>& perScreen, LockScreenStat
     up_ = true;
     failed_ = finished_ = locked_ = coveredReported_ = false;
     shownAt_.start();
+    if (kind_ == Kind::Overlay) KdeShortcuts::block(); // KWin's corners and effects
     if (kind_ == Kind::SessionLock) {
         lock_ = ext_session_lock_manager_v1_lock(display_->sessionLock());
         ext_session_lock_v1_add_listener(lock_, &LockListeners::session, this);
@@ -213,6 +215,7 @@ bool WaylandLock::waitForSessionAnswer(int milliseconds) {
 void WaylandLock::close() {
     const bool wasUp = up_;
     up_ = false;
+    if (wasUp) KdeShortcuts::unblock();
     if (lock_ && !locked_ && !finished_) {
         // Unlocking is only allowed once the compositor has confirmed the lock; leaving the
         // request pending would strand the session locked when this connection goes.
@@ -245,6 +248,7 @@ void WaylandLock::fail(const QString& why) {
 }
 
 void WaylandLock::releaseAbandoned() {
+    KdeShortcuts::restoreAbandoned();
     const QString marker = lockMarker();
     if (marker.isEmpty() || !QFile::exists(marker)) return;
     std::unique_ptr<WaylandLock> lock = create();

@@ -15,6 +15,9 @@ packages=(
     python3-pyatspi at-spi2-core dbus-daemon
     xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
     sway grim wtype wayland-utils qt6-wayland swaylock foot
+    kwin-wayland kde-spectacle qtwayland5 qdbus-qt5 libkf5globalaccel-bin plasma-wayland-protocols
+    plasma-framework milou qml-module-org-kde-kirigami2 qml-module-qtgraphicaleffects
+    qml-module-org-kde-kquickcontrolsaddons python3-gi gir1.2-gtk-3.0
     clang libclang-rt-14-dev
     dbus-daemon desktop-file-utils systemd
     debhelper dpkg-dev fakeroot lintian appstream librsvg2-bin

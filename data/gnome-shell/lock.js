@@ -23,7 +23,12 @@ const INTERFACE_XML = `<node><interface name="${INTERFACE}">
 </interface></node>`;
 
 // The colour under the pictures (the lock view's darkest tone), shown until they are loaded.
-const BACKGROUND = new (Clutter.Color || Cogl.Color)({red: 8, green: 12, blue: 28, alpha: 255});
+function background() {
+    if (Clutter.Color) // up to GNOME 46
+        return new Clutter.Color({red: 7, green: 8, blue: 12, alpha: 255});
+    const [, colour] = Cogl.Color.from_string('#07080cff');
+    return colour;
+}
 
 // Keypad keys without text (Num Lock off) go by name; the agent knows what they mean.
 const KEYPAD_NAMES = new Map([
@@ -138,7 +143,7 @@ class Cover {
         this._monitors = Main.layoutManager.monitors.map(m => {
             const actor = new Clutter.Actor({
                 x: m.x, y: m.y, width: m.width, height: m.height,
-                background_color: BACKGROUND, content_gravity: Clutter.ContentGravity.RESIZE_ASPECT,
+                background_color: background(), content_gravity: Clutter.ContentGravity.RESIZE_ASPECT,
             });
             this._group.add_child(actor);
             return actor;

@@ -4,6 +4,7 @@
 #include "desktop/LockBackendChoice.h"
 #include "desktop/TimetableImportView.h"
 #include "desktop/settings/PrayerSettingsView.h"
+#include "lock/LockScreenState.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
 #include "settings/CitySearch.h"

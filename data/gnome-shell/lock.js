@@ -127,8 +127,12 @@ class Cover {
         this._cursor.set_pointer_visible(false);
     }
 
+    // Ours must be the topmost grab: a dialog or the overview that grabs after us is put
+    // under it again (it stays under the cover too), so keys keep coming here.
     _hold() {
-        if (this._grab && this._grab.get_seat_state() === Clutter.GrabState.ALL) {
+        const top = global.stage.get_grab_actor ? global.stage.get_grab_actor() : this._group;
+        if (this._grab && this._grab.get_seat_state() === Clutter.GrabState.ALL &&
+            top === this._group) {
             if (global.stage.get_key_focus() !== this._group) global.stage.set_key_focus(this._group);
             return;
         }

@@ -197,6 +197,10 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait):
         for d in digits:
             chord(ord(d))
 
+    def set_overview(shown):
+        call('org.gnome.Shell', '/org/gnome/Shell', 'org.freedesktop.DBus.Properties', 'Set',
+             GLib.Variant('(ssv)', ('org.gnome.Shell', 'OverviewActive', GLib.Variant('b', shown))))
+
     def red_window(path):
         return colour_at(path, WIDTH // 2, HEIGHT // 2) == (255, 0, 0)
 
@@ -257,6 +261,17 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait):
     check(both(shot, 'Screen unlocks in'), 'the lock view (countdown) is on both monitors')
     check(both(shot, 'Emergency?'), 'the lock view (guardian line) is on both monitors')
 
+    def cpu_seconds(pid):
+        fields = open(f'/proc/{pid}/stat').read().rsplit(')', 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf('SC_CLK_TCK')
+
+    # A new picture per monitor each second: what it costs the agent and the Shell.
+    before = cpu_seconds(first.pid), cpu_seconds(procs[0].pid)
+    time.sleep(5)
+    after = cpu_seconds(first.pid), cpu_seconds(procs[0].pid)
+    print(f'measured: during a lock the agent uses {(after[0] - before[0]) / 5:.0%} of a core, '
+          f'gnome-shell {(after[1] - before[1]) / 5:.0%}')
+
     # 2. The Shell's own keys do nothing while locked.
     chord(0xffeb)  # Super
     chord(0xffeb, ord('s'))  # Super+S
@@ -300,7 +315,14 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait):
     # 5. Killed mid-lock: the cover stays until the end, a restarted agent takes it over.
     second = agent(25, out + '/agent-2.log')
     check(wait(locked, 15), 'second lock up')
-    time.sleep(2)
+    # A program that opens the overview over the bus during the lock gets its grab taken back.
+    set_overview(True)
+    time.sleep(1.5)
+    chord(0xffeb, 0xff56)  # Super+Page_Down: works in the overview's own action mode
+    type_digits('1')
+    time.sleep(1.2)
+    check(not both(screenshot(out, '5-overview-opened', env), 'Emergency?'),
+          'after the overview was opened over the bus, digits still reach the lock')
     second.kill()
     second.wait()
     time.sleep(2)
@@ -325,6 +347,9 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait):
     print(f'measured: released {released:+.2f} s from the end time after kill -9')
     check('Screen unlocks' not in text_on(screenshot(out, '5-released', env), 1),
           'no lock view after the end time')
+    set_overview(False)
+    check(wait(lambda: red_window(screenshot(out, '5-overview-closed', env)), 5, step=0.5),
+          'the workspace key typed while the overview was open during the lock did nothing')
 
 
 if __name__ == '__main__':

@@ -228,9 +228,15 @@ class LockService {
     }
 
     // A second Lock, from the same agent or a restarted one, takes the cover over unbroken.
+    // While the agent is on the bus nobody else may take the lock over (and then Unlock).
     LockAsync([pictures, endsMs], invocation) {
+        const sender = invocation.get_sender();
+        if (this._cover && this._owner && sender !== this._owner) {
+            invocation.return_dbus_error(`${INTERFACE}.NotOwner`, 'locked by another caller');
+            return;
+        }
         const serial = ++this._serial;
-        this._setOwner(invocation.get_sender());
+        this._setOwner(sender);
         this._endsMs = endsMs;
         if (!this._cover) {
             try {

@@ -272,6 +272,16 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait):
     print(f'measured: during a lock the agent uses {(after[0] - before[0]) / 5:.0%} of a core, '
           f'gnome-shell {(after[1] - before[1]) / 5:.0%}')
 
+    # Another program of the same user can neither end the lock nor take it over.
+    for method, args in (('Unlock', None), ('Lock', GLib.Variant('(asx)', ([], 0)))):
+        try:
+            call(NAME, PATH, IFACE, method, args)
+            refused = False
+        except GLib.Error:
+            refused = True
+        check(refused, f'{method} from another program is refused while the agent runs')
+    check(locked(), 'still locked after those calls')
+
     # 2. The Shell's own keys do nothing while locked.
     chord(0xffeb)  # Super
     chord(0xffeb, ord('s'))  # Super+S

@@ -121,6 +121,9 @@ def inner(binary, out):
                    not n.endswith('.lock')]
         env['WAYLAND_DISPLAY'] = sockets[0]
         run_tests(binary, out, env, procs, call, locked, overview, wait)
+        sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+        import settings_phase
+        settings_phase.run(binary, out, env, procs, has_owner, wait, check)
     finally:
         for p in reversed(procs):
             if p.poll() is None:

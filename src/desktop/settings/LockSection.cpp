@@ -1,13 +1,10 @@
 // 4. Lock: its length, lead, reminders and the wait for calls.
-#include "desktop/gnome/GnomeShellLock.h"
+#include "desktop/gnome/GnomeExtensionSwitch.h"
 #include "desktop/settings/SectionKit.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QProcess>
-#include <QPushButton>
 #include <QSpinBox>
-#include <QTimer>
 
 namespace tarvanel {
 
@@ -22,55 +19,6 @@ QString lockFooter(bool guardianSet) {
            QStringLiteral("\nOn Linux the lock covers every screen and holds the keyboard and "
                           "mouse, so the panel and window switching can't be reached.");
 }
-
-namespace {
-
-// On GNOME the lock is held by Tarvanel's Shell extension, which each user turns on once.
-void addGnomeExtensionRow(Section* s) {
-    if (!qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME"))) return;
-    auto* status = wrapped({});
-    const auto say = [status](const QString& text) {
-        status->setText(text);
-        status->setAccessibleName(text);
-    };
-    const bool on = GnomeShellLock::available();
-    say(on ? QStringLiteral("The GNOME Shell extension is on: a lock covers every screen.")
-           : QStringLiteral("The GNOME Shell extension is off, so GNOME's shortcuts still "
-                            "work during a lock."));
-    auto* enable = button(QStringLiteral("Enable the GNOME Shell extension"), {});
-    enable->setVisible(!on);
-    QObject::connect(enable, &QPushButton::clicked, status, [status, enable, say] {
-        enable->setEnabled(false);
-        auto* run = new QProcess(status);
-        const auto done = [run, enable, say](const QString& error) {
-            run->deleteLater();
-            enable->setEnabled(true);
-            if (!error.isEmpty()) return say(error);
-            // The Shell loads at once an extension it found at login; one installed since,
-            // only at the next login (Wayland cannot restart the Shell).
-            QTimer::singleShot(1500, enable, [enable, say] {
-                const bool loaded = GnomeShellLock::available();
-                enable->setVisible(!loaded);
-                say(loaded ? QStringLiteral("The GNOME Shell extension is on.")
-                           : QStringLiteral("Log out and back in to load it."));
-            });
-        };
-        QObject::connect(run, &QProcess::errorOccurred, status,
-                         [run, done](QProcess::ProcessError error) {
-                             if (error == QProcess::FailedToStart) done(run->errorString());
-                         });
-        QObject::connect(run, &QProcess::finished, status, [run, done](int code) {
-            done(code == 0 ? QString() : QString::fromLocal8Bit(run->readAll()).trimmed());
-        });
-        run->setProcessChannelMode(QProcess::MergedChannels);
-        run->start(QStringLiteral("gnome-extensions"),
-                   {QStringLiteral("enable"), GnomeShellLock::extensionUuid});
-    });
-    s->addRow(status);
-    s->addRow(enable);
-}
-
-} // namespace
 
 QWidget* makeLockSection(SectionContext& c) {
     auto* s = new Section(QStringLiteral("Lock"));
@@ -93,7 +41,7 @@ QWidget* makeLockSection(SectionContext& c) {
                            60, 5, QStringLiteral(" min")));
     s->addRow(boundToggle(c, QStringLiteral("Ask “Did you pray?” after each lock"), Field::strict,
                           &PrayerSettingsModel::strict, &PrayerSettingsModel::setStrict));
-    addGnomeExtensionRow(s);
+    if (QWidget* gnome = gnomeExtensionSwitch()) s->addRow(gnome); // GNOME only
     watch(*m, s, {Field::guardianSet}, [m, s] {
         s->footer()->setText(lockFooter(m->guardianSet()));
         s->footer()->setAccessibleName(s->footer()->text());

@@ -65,9 +65,10 @@ def inner(out):
     gi.require_version('GdkPixbuf', '2.0')
     from gi.repository import Gio, GLib, GdkPixbuf
     env = dict(os.environ)
-    env['DBUS_SYSTEM_BUS_ADDRESS'] = subprocess.run(
-        ['dbus-daemon', '--session', '--fork', '--print-address=1'], capture_output=True,
-        text=True, check=True).stdout.split()[0]
+    system_bus = subprocess.run(
+        ['dbus-daemon', '--session', '--fork', '--print-address=1', '--print-pid=1'],
+        capture_output=True, text=True, check=True).stdout.split()
+    env['DBUS_SYSTEM_BUS_ADDRESS'] = system_bus[0]
     version = subprocess.run(['gnome-shell', '--version'], capture_output=True, text=True)
     print(version.stdout.strip())
     check(subprocess.run(['gnome-extensions', 'enable', UUID], env=env,
@@ -161,6 +162,8 @@ def inner(out):
         check((192, 48, 48) not in colours('unlocked'), 'the pictures are gone after Unlock')
     finally:
         shell.kill()
+        shell.wait()
+        os.kill(int(system_bus[1]), 9)
 
 
 if __name__ == '__main__':

@@ -12,6 +12,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
 #include <QImage>
 #include <QStandardPaths>
@@ -236,10 +237,16 @@ QStringList GnomeShellLock::writePictures() {
 }
 
 void GnomeShellLock::removePictures(const QStringList& keep) const {
+    // Ours, and those a killed agent left; not those another running copy is handing over.
     const QDir folder(pictureFolder());
-    for (const QString& name : folder.entryList({QStringLiteral("lock-*.png")}, QDir::Files)) {
-        const QString file = folder.filePath(name);
-        if (!keep.contains(file)) QFile::remove(file);
+    const QString own = QStringLiteral("lock-%1-").arg(QCoreApplication::applicationPid());
+    const QDateTime stale = QDateTime::currentDateTimeUtc().addSecs(-60);
+    const auto pictures = folder.entryInfoList({QStringLiteral("lock-*.png")}, QDir::Files);
+    for (const QFileInfo& picture : pictures) {
+        const QString file = picture.absoluteFilePath();
+        if (keep.contains(file)) continue;
+        if (picture.fileName().startsWith(own) || picture.lastModified().toUTC() < stale)
+            QFile::remove(file);
     }
 }
 

@@ -118,10 +118,20 @@ class Cover {
         this._build();
         this._grab = null;
         this._hold();
-        // Another client's grab can keep ours from taking the keyboard: ask again each second.
+        // Another client's grab can keep ours from taking the keyboard: ask again each second,
+        // and at once when something else takes the key focus (a dialog, the overview).
         this._holdId = GLib.timeout_add_seconds(GLib.PRIORITY_DEFAULT, 1, () => {
             this._hold();
             return GLib.SOURCE_CONTINUE;
+        });
+        this._soonId = 0;
+        this._focusId = global.stage.connect('notify::key-focus', () => {
+            if (this._soonId || global.stage.get_key_focus() === this._group) return;
+            this._soonId = GLib.idle_add(GLib.PRIORITY_HIGH, () => {
+                this._soonId = 0;
+                this._hold();
+                return GLib.SOURCE_REMOVE;
+            });
         });
         this._cursor = cursorTracker();
         this._cursor.set_pointer_visible(false);
@@ -190,6 +200,8 @@ class Cover {
 
     destroy() {
         GLib.source_remove(this._holdId);
+        if (this._soonId) GLib.source_remove(this._soonId);
+        global.stage.disconnect(this._focusId);
         Main.layoutManager.uiGroup.disconnect(this._raiseId);
         Main.layoutManager.disconnect(this._monitorsId);
         if (this._grab) Main.popModal(this._grab);

@@ -16,6 +16,10 @@ import sys
 import tempfile
 import time
 
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import monitors_phase  # noqa: E402
+import settings_phase  # noqa: E402
+
 UUID = 'lock@tarvanel.velmora.com'
 NAME = 'com.velmora.tarvanel.Shell'
 PATH = '/com/velmora/tarvanel/Shell'
@@ -105,12 +109,15 @@ def inner(binary, out):
     check(subprocess.run(['gnome-extensions', 'enable', UUID], env=env).returncode == 0,
           'gnome-extensions enable ' + UUID)
 
+    if monitors_phase.available():
+        monitors_phase.start_pipewire(env, procs)
     shell_log = open(out + '/gnome-shell.log', 'w')
     started = time.monotonic()
-    procs.append(subprocess.Popen(
+    shell = subprocess.Popen(
         ['gnome-shell', '--headless', '--wayland', '--no-x11',
          '--virtual-monitor', f'{WIDTH}x{HEIGHT}', '--virtual-monitor', f'{WIDTH}x{HEIGHT}'],
-        env=env, stdout=shell_log, stderr=subprocess.STDOUT))
+        env=env, stdout=shell_log, stderr=subprocess.STDOUT)
+    procs.append(shell)
     try:
         if not check(wait(lambda: has_owner(NAME), 30), 'the extension loads and owns ' + NAME):
             return
@@ -120,9 +127,8 @@ def inner(binary, out):
         sockets = [n for n in os.listdir(runtime) if n.startswith('wayland-') and
                    not n.endswith('.lock')]
         env['WAYLAND_DISPLAY'] = sockets[0]
-        run_tests(binary, out, env, procs, call, locked, overview, wait)
-        sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-        import settings_phase
+        agent = run_tests(binary, out, env, procs, call, locked, overview, wait, shell.pid)
+        monitors_phase.run(agent, out, env, procs, call, locked, wait, check, screenshot, text_in)
         settings_phase.run(binary, out, env, procs, has_owner, wait, check)
     finally:
         for p in reversed(procs):
@@ -141,9 +147,13 @@ def screenshot(out, name, env):
 
 def text_on(path, monitor):
     """What Tesseract reads on one monitor of a screenshot."""
-    crop = path[:-4] + f'-{monitor}.png'
+    return text_in(path, monitor * WIDTH, WIDTH, HEIGHT)
+
+
+def text_in(path, x, width, height):
+    crop = path[:-4] + f'-{x}.png'
     # Light text on a dark, changing background: grey, larger, stretched, then dark on light.
-    subprocess.run(['convert', path, '-crop', f'{WIDTH}x{HEIGHT}+{monitor * WIDTH}+0',
+    subprocess.run(['convert', path, '-crop', f'{width}x{height}+{x}+0',
                     '+repage', '-colorspace', 'Gray', '-resize', '200%', '-level', '20%,70%',
                     '-negate', crop], check=True)
     return subprocess.run(['tesseract', crop, '-'], capture_output=True, text=True,
@@ -176,7 +186,7 @@ def both(path, words):
     return all(words in text_on(path, m) for m in (0, 1))
 
 
-def run_tests(binary, out, env, procs, call, locked, overview, wait):
+def run_tests(binary, out, env, procs, call, locked, overview, wait, shell_pid):
     from gi.repository import GLib
 
     # Keys as a person types them, through Mutter's remote desktop, on this one connection.
@@ -269,9 +279,9 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait):
         return (int(fields[11]) + int(fields[12])) / os.sysconf('SC_CLK_TCK')
 
     # A new picture per monitor each second: what it costs the agent and the Shell.
-    before = cpu_seconds(first.pid), cpu_seconds(procs[0].pid)
+    before = cpu_seconds(first.pid), cpu_seconds(shell_pid)
     time.sleep(5)
-    after = cpu_seconds(first.pid), cpu_seconds(procs[0].pid)
+    after = cpu_seconds(first.pid), cpu_seconds(shell_pid)
     print(f'measured: during a lock the agent uses {(after[0] - before[0]) / 5:.0%} of a core, '
           f'gnome-shell {(after[1] - before[1]) / 5:.0%}')
 
@@ -363,6 +373,7 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait):
     set_overview(False)
     check(wait(lambda: red_window(screenshot(out, '5-overview-closed', env)), 5, step=0.5),
           'the workspace key typed while the overview was open during the lock did nothing')
+    return agent
 
 
 if __name__ == '__main__':

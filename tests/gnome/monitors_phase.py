@@ -76,5 +76,8 @@ def run(agent, out, env, procs, call, locked, wait, check, screenshot, text_in):
     check(all('Screen unlocks in' in text_in(shot, m * width, width, height) for m in (0, 1)),
           'both remaining monitors still show the lock view')
     check(locked(), 'still locked after the monitor went away')
+    for line in open(out + '/agent-monitors.log').read().splitlines():
+        if 'after they changed' in line:
+            print('measured (agent log): ' + line)
     check(wait(lambda: first.poll() is not None and not locked(), 40), 'the lock ends on time')
     print(f'(monitor test: {time.monotonic() - started:.0f} s)')

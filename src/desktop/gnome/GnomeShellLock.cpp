@@ -130,11 +130,11 @@ void GnomeShellLock::show(const QList<LockWindowContent>& perScreen, LockScreenS
 }
 
 void GnomeShellLock::askMonitors() {
-    const quint64 serial = shows_;
     auto* watcher = call(QStringLiteral("Monitors"), {});
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, serial, watcher] {
+    // A reply that a newer show() overtook still tells the monitors as they are.
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
-        if (!up_ || serial != shows_) return;
+        if (!up_) return;
         const QDBusMessage reply = watcher->reply();
         if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
             return fail(QStringLiteral("no monitors from the GNOME Shell extension: ") +
@@ -212,6 +212,12 @@ void GnomeShellLock::onSent(QDBusPendingCallWatcher* watcher, const QStringList&
                     .arg(ms));
         emit covered(ms);
     }
+    if (monitorsChangedAt_.isValid()) {
+        logLine(QStringLiteral("Tarvanel: the lock view is on %1 monitors %2 ms after they changed")
+                    .arg(monitors_.size())
+                    .arg(monitorsChangedAt_.elapsed()));
+        monitorsChangedAt_.invalidate();
+    }
     if (dirty_) send();
 }
 
@@ -263,7 +269,9 @@ void GnomeShellLock::onKey(const QString& kind, const QString& text) {
 
 void GnomeShellLock::onMonitorsChanged() {
     // The extension covers a new monitor at once with a picture it has; the right size follows.
-    if (up_) askMonitors();
+    if (!up_) return;
+    monitorsChangedAt_.start();
+    askMonitors();
 }
 
 void GnomeShellLock::close() {

@@ -70,6 +70,7 @@ private:
     std::vector<std::unique_ptr<LockView>> views_;
     QDateTime ends_;
     QElapsedTimer shownAt_;
+    QElapsedTimer monitorsChangedAt_; // valid from a change of monitors until they are painted
     QTimer coalesce_;
     quint64 generation_ = 0;
     quint64 shows_ = 0; // increases with every show() and close(): late replies are dropped

@@ -19,6 +19,7 @@ import time
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import monitors_phase  # noqa: E402
 import settings_phase  # noqa: E402
+from shots import both, colour_at, screenshot, text_in, text_on  # noqa: E402
 
 UUID = 'lock@tarvanel.velmora.com'
 NAME = 'com.velmora.tarvanel.Shell'
@@ -138,35 +139,6 @@ def inner(binary, out):
         os.kill(int(system_bus[1]), 9)
 
 
-def screenshot(out, name, env):
-    path = f'{out}/{name}.png'
-    subprocess.run(['gnome-screenshot', '-f', path], env=env, check=True,
-                   stderr=subprocess.DEVNULL)
-    return path
-
-
-def text_on(path, monitor):
-    """What Tesseract reads on one monitor of a screenshot."""
-    return text_in(path, monitor * WIDTH, WIDTH, HEIGHT)
-
-
-def text_in(path, x, width, height):
-    crop = path[:-4] + f'-{x}.png'
-    # Light text on a dark, changing background: grey, larger, stretched, then dark on light.
-    subprocess.run(['convert', path, '-crop', f'{width}x{height}+{x}+0',
-                    '+repage', '-colorspace', 'Gray', '-resize', '200%', '-level', '20%,70%',
-                    '-negate', crop], check=True)
-    return subprocess.run(['tesseract', crop, '-'], capture_output=True, text=True,
-                          env=dict(os.environ, OMP_THREAD_LIMIT='1')).stdout
-
-
-def colour_at(path, x, y):
-    text = subprocess.run(['convert', path, '-format', f'%[pixel:p{{{x},{y}}}]', 'info:'],
-                          capture_output=True, text=True).stdout
-    digits = text[text.find('(') + 1:text.find(')')].split(',')
-    return tuple(int(float(d)) for d in digits[:3]) if len(digits) >= 3 else None
-
-
 def window():
     import gi
     gi.require_version('Gtk', '3.0')
@@ -180,10 +152,6 @@ def window():
     w.show_all()
     w.fullscreen_on_monitor(Gdk.Screen.get_default(), 0)
     Gtk.main()
-
-
-def both(path, words):
-    return all(words in text_on(path, m) for m in (0, 1))
 
 
 def run_tests(binary, out, env, procs, call, locked, overview, wait, shell_pid):
@@ -323,6 +291,21 @@ def run_tests(binary, out, env, procs, call, locked, overview, wait, shell_pid):
     time.sleep(1.2)
     check(both(screenshot(out, '3-wrong-code', env), "code didn't work"),
           'a wrong code is refused on the lock view')
+
+    # Arabic-Indic digits, typed with the Arabic keyboard layout, reach the lock as digits.
+    chord(0xff1b)
+    layout = ['gsettings', 'set', 'org.gnome.desktop.input-sources', 'sources']
+    subprocess.run(layout + ["[('xkb', 'ara')]"], env=env, check=True)
+    time.sleep(1.5)
+    check(both(screenshot(out, '3-prompt-again', env), 'Emergency?'), 'Escape: the prompt again')
+    for digit in (1, 2):
+        chord(0x1000660 + digit)  # ARABIC-INDIC DIGIT ONE, TWO
+    time.sleep(1.2)
+    check(not both(screenshot(out, '3-arabic-indic', env), 'Emergency?'),
+          'Arabic-Indic digits replace the guardian line (dots)')
+    chord(0xff1b)
+    subprocess.run(layout + ["[('xkb', 'us')]"], env=env, check=True)
+    time.sleep(1.5)
 
     # 4. The right code ends the lock.
     code = subprocess.run(['oathtool', '--totp', secret.hex()], capture_output=True,

@@ -1,6 +1,7 @@
-"""The Lock section of the settings window on GNOME, driven over AT-SPI as a screen reader does:
-with the extension switched off it says so and offers "Enable the GNOME Shell extension";
-pressing it enables the extension, which the running Shell loads at once."""
+"""Without the extension: a lock that loses it falls back to windows, a lock that starts without
+it does not wait for it, and the Lock section of the settings window (driven over AT-SPI as a
+screen reader does) says it is off and offers "Enable the GNOME Shell extension"; pressing it
+enables the extension, which the running Shell loads at once."""
 import datetime
 import os
 import subprocess
@@ -24,8 +25,30 @@ def run(binary, out, env, procs, has_owner, wait, check):
     with open(env['XDG_CONFIG_HOME'] + '/com.velmora.tarvanel/settings.ini', 'w') as f:
         f.write('[General]\npausedUntil=' + until.strftime('%Y-%m-%dT%H:%M:%S.000Z') + '\n')
 
+    lock_env = dict(env, QT_QPA_PLATFORM='wayland')
+
+    def test_lock(seconds, log):
+        p = subprocess.Popen([binary, '--test-lock', str(seconds)], env=lock_env,
+                             stdout=subprocess.DEVNULL, stderr=open(log, 'w'))
+        procs.append(p)
+        return p
+
+    first = test_lock(8, out + '/agent-disabled-mid-lock.log')
+    check(wait(lambda: 'the GNOME Shell extension covered' in
+               open(out + '/agent-disabled-mid-lock.log').read(), 10), 'a lock with the extension')
     subprocess.run(['gnome-extensions', 'disable', UUID], env=env, check=True)
     check(wait(lambda: not has_owner(NAME), 5), 'gnome-extensions disable unloads it at once')
+    check(wait(lambda: 'extension failed (the GNOME Shell extension left the session bus); '
+               'locking with ordinary windows' in open(out + '/agent-disabled-mid-lock.log').read(),
+               3), 'the agent falls back to windows when the extension goes mid-lock')
+    first.wait(timeout=20)
+    started = time.monotonic()
+    second = test_lock(2, out + '/agent-without-extension.log')
+    second.wait(timeout=20)
+    check('locking with ordinary windows' in open(out + '/agent-without-extension.log').read(),
+          'without the extension a lock uses windows')
+    print(f'measured: a 2 s lock without the extension took {time.monotonic() - started:.1f} s '
+          '(no wait for the extension)')
     app_env = dict(env, QT_QPA_PLATFORM='wayland', XDG_CURRENT_DESKTOP='GNOME',
                    QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1', QT_ACCESSIBILITY='1',
                    TARVANEL_AGENT='com.velmora.tarvanel')

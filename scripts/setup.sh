@@ -21,6 +21,8 @@ packages=(
     clang libclang-rt-14-dev
     dbus-daemon desktop-file-utils systemd
     debhelper dpkg-dev fakeroot lintian appstream librsvg2-bin
+    gnome-shell gnome-screenshot xwayland qt6-wayland tesseract-ocr
+    pipewire wireplumber gstreamer1.0-pipewire gstreamer1.0-tools
 )
 
 missing=()

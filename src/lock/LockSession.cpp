@@ -64,7 +64,7 @@ void LockSession::rebuildWindows() {
     QList<LockWindowContent> perScreen;
     const int screens = std::max(platform_.screenCount(), 1);
     for (int i = 0; i < screens; ++i)
-        perScreen << LockWindowContent{prayer_, pickQuote(prayer_)};
+        perScreen << LockWindowContent{prayer_, pickQuote(prayer_), end_ ? *end_ : QDateTime()};
     platform_.showLockWindows(perScreen, state_);
 }
 

@@ -6,6 +6,7 @@
 #include "settings/PrayerSettingsModel.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -31,6 +32,7 @@ struct BannerContent {
 struct LockWindowContent {
     QString prayer; // display name: "Dhuhr", "Jumu'ah", "Maghrib & Isha", "Preview", "Test"
     Quote quote;
+    QDateTime ends; // when the lock ends, for a mechanism that outlives the agent (invalid: none)
 };
 
 // A modal question. Buttons in order; the answer is 1000 for the first, 1001 for the second.

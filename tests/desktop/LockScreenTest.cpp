@@ -95,8 +95,8 @@ TEST(LockWindows, OnePerScreenFollowingTheStateRebuiltInPlaceWithKeysReachingThe
     QObject::connect(&lock, &LockWindows::covered, [&](qint64 ms) { coveredAfter = ms; });
     LockScreenState state;
     state.setCountdown("Screen unlocks in 4:59");
-    platform.showLockWindows({{"Jumu'ah", shortQuote}, {"Jumu'ah", Quote{"Second", "S", {}}}},
-                             &state);
+    platform.showLockWindows(
+        {{"Jumu'ah", shortQuote, {}}, {"Jumu'ah", Quote{"Second", "S", {}}, {}}}, &state);
     ASSERT_EQ(lock.windows().size(), 2);
     for (int i = 0; i < 2; ++i) {
         EXPECT_TRUE(lock.windows().at(i)->isVisible());
@@ -132,7 +132,7 @@ TEST(LockWindows, OnePerScreenFollowingTheStateRebuiltInPlaceWithKeysReachingThe
 
     // A screen change rebuilds the windows; the lock and the digits typed so far stay.
     const QList<LockWindow*> before = lock.windows();
-    platform.showLockWindows({{"Jumu'ah", shortQuote}}, &state);
+    platform.showLockWindows({{"Jumu'ah", shortQuote, {}}}, &state);
     ASSERT_EQ(lock.windows().size(), 2); // one entry still covers both screens
     for (LockWindow* w : before)
         EXPECT_FALSE(lock.windows().contains(w));

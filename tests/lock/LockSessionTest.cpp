@@ -78,6 +78,8 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     sim.platform.screens = 2;
     sim.app->screensChanged();
     EXPECT_EQ(sim.platform.lockShows.value(1).size(), 2);
+    // Every window carries the lock's end, for a lock that outlives a killed agent.
+    EXPECT_EQ(sim.platform.lockShows.value(1).value(1).ends, at("13:10"));
     EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
 
     // The right code ends the lock early: done for today, but not prayed.

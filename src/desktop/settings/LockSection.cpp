@@ -1,5 +1,6 @@
 // 4. Lock: its length, lead, reminders and the wait for calls.
 #include "desktop/LockBackendChoice.h"
+#include "desktop/gnome/GnomeExtensionSwitch.h"
 #include "desktop/settings/SectionKit.h"
 
 #include <QCheckBox>
@@ -41,6 +42,7 @@ QWidget* makeLockSection(SectionContext& c) {
                            60, 5, QStringLiteral(" min")));
     s->addRow(boundToggle(c, QStringLiteral("Ask “Did you pray?” after each lock"), Field::strict,
                           &PrayerSettingsModel::strict, &PrayerSettingsModel::setStrict));
+    if (QWidget* gnome = gnomeExtensionSwitch()) s->addRow(gnome); // GNOME only
     // Said plainly where the desktop lets a lock be left.
     QString weakness = lockWeaknessHere();
     if (!weakness.isEmpty())

@@ -4,10 +4,7 @@
 #include "desktop/LockBackendChoice.h"
 #include "desktop/TimetableImportView.h"
 #include "desktop/settings/PrayerSettingsView.h"
-<<<<<<< HEAD
 #include "desktop/wayland/WaylandLock.h"
-=======
->>>>>>> gnome-lock
 #include "lock/LockScreenState.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"

@@ -24,7 +24,8 @@ static void BM_ShowLockWindowsUntilPainted(benchmark::State& state) {
     QObject::connect(&lock, &LockWindows::covered, [&](qint64) { covered = true; });
     for (auto _ : state) {
         covered = false;
-        lock.show({{QStringLiteral("Dhuhr"), quote}, {QStringLiteral("Dhuhr"), quote}}, &lockState);
+        lock.show({{QStringLiteral("Dhuhr"), quote, {}}, {QStringLiteral("Dhuhr"), quote, {}}},
+                  &lockState);
         while (!covered)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
         state.PauseTiming();
@@ -50,7 +51,7 @@ static void BM_WaylandLockUntilCovered(benchmark::State& state) {
         bool covered = false;
         QObject::connect(lock.get(), &LockBackend::covered, [&](qint64) { covered = true; });
         state.ResumeTiming();
-        lock->show({{QStringLiteral("Dhuhr"), quote}}, &lockState);
+        lock->show({{QStringLiteral("Dhuhr"), quote, {}}}, &lockState);
         while (!covered)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
         state.PauseTiming();
@@ -67,7 +68,7 @@ static void BM_WaylandLockCountdownRepaint(benchmark::State& state) {
         state.SkipWithError("no Wayland compositor with a lock");
         return;
     }
-    lock->show({{QStringLiteral("Dhuhr"), Quote{QStringLiteral("Q"), QStringLiteral("S"), {}}}},
+    lock->show({{QStringLiteral("Dhuhr"), Quote{QStringLiteral("Q"), QStringLiteral("S"), {}}, {}}},
                &lockState);
     int second = 0;
     for (auto _ : state) {

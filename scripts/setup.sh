@@ -12,6 +12,7 @@ packages=(
     libtesseract-dev libleptonica-dev tesseract-ocr-eng libpoppler-qt6-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     libgeonames-dev
+    qt6-svg-dev
     python3-pyatspi at-spi2-core dbus-daemon
     xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
     sway grim wtype wayland-utils qt6-wayland swaylock foot
@@ -25,9 +26,14 @@ packages=(
     pipewire wireplumber gstreamer1.0-pipewire gstreamer1.0-tools
 )
 
+# One query for the whole list; "ii" (or "hi", held) is installed.
+declare -A installed=()
+while read -r status name; do
+    [[ "$status" == ?i ]] && installed[$name]=1
+done < <(dpkg-query -W -f='${db:Status-Abbrev} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
 missing=()
 for p in "${packages[@]}"; do
-    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+    [ -n "${installed[$p]:-}" ] || missing+=("$p")
 done
 if [ ${#missing[@]} -gt 0 ]; then
     echo "Installing: ${missing[*]}" >&2
@@ -45,7 +51,9 @@ if [ ! -f "$build/CMakeCache.txt" ]; then
     cmake -S "$here" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo >&2
 fi
 # Quiet when it works; the whole log when it does not.
-if ! cmake --build "$build" -j"$(nproc)" > "$build/build.log" 2>&1; then
+# TARVANEL_SETUP_TARGET builds one target only (./run: the program).
+if ! cmake --build "$build" -j"$(nproc)" ${TARVANEL_SETUP_TARGET:+--target "$TARVANEL_SETUP_TARGET"} \
+    > "$build/build.log" 2>&1; then
     cat "$build/build.log" >&2
     echo "Build failed (log: $build/build.log)" >&2
     exit 1

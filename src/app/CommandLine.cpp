@@ -2,7 +2,9 @@
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
+#include "records/StateFiles.h"
 
+#include <QFileInfo>
 #include <cmath>
 
 namespace tarvanel {
@@ -86,6 +88,21 @@ QString timesText(const Config& cfg, const QDateTime& day) {
         out += QStringLiteral("  ") + fit(shown, 8) + u' ' +
                fit(formatLocal(*waqt, kTimePattern), 9) + u' ' + lockText + u'\n';
     }
+    return out;
+}
+
+TimesOutput timesCommand(const CommandLine& cl, const QDateTime& now) {
+    const bool noFile = !QFileInfo::exists(configURL());
+    const Config cfg = loadConfig();
+    TimesOutput out{timesText(cfg, timesDay(cl, now)), {}};
+    if (const auto& error = lastConfigError())
+        out.note = QStringLiteral("tarvanel: config.json is invalid (") + *error +
+                   QStringLiteral("); printing the default settings' times\n");
+    else if (noFile)
+        out.note = QStringLiteral("tarvanel: no place is set, so these times are for 0° N 0° E; to "
+                                  "set yours, open Tarvanel (its settings open on the first start) "
+                                  "or write ") +
+                   configURL() + u'\n';
     return out;
 }
 

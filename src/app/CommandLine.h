@@ -34,6 +34,15 @@ QDateTime timesDay(const CommandLine& cl, const QDateTime& now);
 // The header and table of --times.
 QString timesText(const Config& cfg, const QDateTime& day);
 
+// --times with the settings in config.json: the table for standard output and, for standard
+// error, one line when the times are not for the user's own settings (no config.json yet, or one
+// that does not decode); empty otherwise.
+struct TimesOutput {
+    QString table;
+    QString note;
+};
+TimesOutput timesCommand(const CommandLine& cl, const QDateTime& now);
+
 QString usageText();
 
 } // namespace tarvanel

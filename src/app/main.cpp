@@ -55,11 +55,9 @@ int main(int argc, char** argv) {
     const CommandLine cl = parseCommandLine(args);
 
     if (cl.times) {
-        const Config cfg = loadConfig();
-        if (const auto& error = lastConfigError())
-            printError(QStringLiteral("tarvanel: config.json is invalid (") + *error +
-                       QStringLiteral("); printing the default settings' times\n"));
-        print(timesText(cfg, timesDay(cl, systemNow())));
+        const TimesOutput out = timesCommand(cl, systemNow());
+        if (!out.note.isEmpty()) printError(out.note);
+        print(out.table);
         return 0;
     }
     if (cl.help) {

@@ -40,8 +40,14 @@ std::optional<ForwardedKey> translateLockKey(int key, Qt::KeyboardModifiers modi
                                              const QString& text) {
     if (key == Qt::Key_Escape) return ForwardedKey{LockKey::Escape, {}};
     if (key == Qt::Key_Backspace) return ForwardedKey{LockKey::Backspace, {}};
-    if (key >= Qt::Key_0 && key <= Qt::Key_9)
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) {
+        // Qt names a non-Latin layout's digit key by its Latin digit (the "४" key of a Hindi
+        // layout is Qt::Key_4): the character typed goes on, and the core decides what counts.
+        const QChar typed = text.isEmpty() ? QChar() : text.at(0);
+        if (typed.isPrint() && !(typed >= u'0' && typed <= u'9'))
+            return ForwardedKey{LockKey::Other, text};
         return ForwardedKey{LockKey::Other, QString(QChar('0' + (key - Qt::Key_0)))};
+    }
     if (modifiers & Qt::KeypadModifier) {
         if (const auto digit = keypadDigit(key)) return ForwardedKey{LockKey::Other, *digit};
     }

@@ -1,4 +1,5 @@
 #include "guardian/Guardian.h"
+#include "engine/Digits.h"
 #include "records/StateFiles.h"
 #include "records/Store.h"
 
@@ -45,11 +46,16 @@ JsonStore<QList<QDateTime>>& failures() {
     return store;
 }
 
-// Numeric characters only, by code point, as typed (separators dropped).
+// Numeric characters only, by code point (separators dropped). Arabic-Indic and Extended
+// Arabic-Indic digits read as 0–9; other scripts' numerals stay as typed and never match.
 QList<char32_t> numerals(const QString& input) {
     QList<char32_t> kept;
-    for (char32_t c : input.toUcs4())
-        if (QChar::isNumber(c)) kept << c;
+    for (char32_t c : input.toUcs4()) {
+        if (const int d = digitValue(c); d >= 0)
+            kept << char32_t(U'0' + d);
+        else if (QChar::isNumber(c))
+            kept << c;
+    }
     return kept;
 }
 } // namespace

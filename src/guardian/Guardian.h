@@ -37,7 +37,9 @@ std::optional<QByteArray> decodeSecret(const QByteArray& text);
 
 QString base32(const QByteArray& bytes); // RFC 4648, no padding
 QString code(const QByteArray& secret, const QDateTime& at);
-// The three-step window (at − 30 s, at, at + 30 s) on the digits of `input`; no bookkeeping.
+// The three-step window (at − 30 s, at, at + 30 s) on the digits of `input` (Western, Arabic-Indic
+// or Extended Arabic-Indic, mixed as typed; anything else between them ignored, other scripts'
+// digits never match); no bookkeeping.
 // The settings window checks an unsaved secret with it.
 bool matches(const QByteArray& secret, const QString& input, const QDateTime& at);
 // The stored secret, the window and the lock-out of 5 failures within 300 s; the failure times

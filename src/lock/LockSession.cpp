@@ -1,5 +1,6 @@
 #include "lock/LockSession.h"
 
+#include "engine/Digits.h"
 #include "engine/Quotes.h"
 #include "guardian/Guardian.h"
 #include "lock/Presence.h"
@@ -89,8 +90,9 @@ bool LockSession::keyInput(LockKey key, const QString& text, const QDateTime& no
     }
     if (!Guardian::isSet() || !end_) return false;
     if (key == LockKey::Backspace && !guardianBuffer_.isEmpty()) guardianBuffer_.chop(1);
-    for (const QChar c : text)
-        if (c.isNumber()) guardianBuffer_ += c;
+    // Western, Arabic-Indic and Extended Arabic-Indic digits; any other key does nothing.
+    for (const char32_t c : text.toUcs4())
+        if (const int d = digitValue(c); d >= 0) guardianBuffer_ += QLatin1Char(char('0' + d));
     guardianMessage_.clear();
     if (guardianBuffer_.size() >= 6) {
         const QString code = guardianBuffer_.left(6);

@@ -30,6 +30,14 @@ tree="$(mktemp -d)"
 trap 'rm -rf "$tree"' EXIT
 dpkg-deb -x "$deb" "$tree/root"
 mkdir "$tree/home"
+grep -qx "License: GPL-3+" "$tree/root/usr/share/doc/tarvanel/copyright" ||
+    fail "the copyright file does not name GPL-3+"
+grep -q "<project_license>GPL-3.0-or-later</project_license>" \
+    "$tree/root/usr/share/metainfo/com.velmora.tarvanel.metainfo.xml" ||
+    fail "the AppStream file does not name GPL-3.0-or-later"
+# The About text is a UTF-16 literal in the program.
+grep -q "GPL-3.0-or-later" <<<"$(strings -el "$tree/root/usr/bin/tarvanel")" ||
+    fail "the About text names no licence"
 icon="$tree/root/usr/share/icons/hicolor/48x48/apps/com.velmora.tarvanel.png"
 [ "$(identify -format '%m %wx%h' "$icon")" = "PNG 48x48" ] || fail "the 48x48 icon is not a 48x48 PNG"
 out="$(HOME="$tree/home" XDG_CONFIG_HOME="$tree/home/.config" TZ=Europe/London \

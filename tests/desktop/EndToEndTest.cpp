@@ -1,6 +1,8 @@
 // The real program on its own Xvfb display with two monitors: the test reminder, no display,
-// the tray icon, and the agent locking at a prayer under a sped-up fake clock.
+// the tray icon, the agent locking at a prayer under a sped-up fake clock, and a guardian code
+// typed through Arabic and Persian keyboard layouts.
 #include "EndToEnd.h"
+#include "guardian/Guardian.h"
 #include "records/StateFiles.h"
 
 #include <QFile>
@@ -85,4 +87,49 @@ TEST_F(EndToEnd, AgentLocksEveryMonitorAtThePrayerAndRecordsIt) {
     // As the agent, a termination request ends it with status 1 so the service restarts it.
     tarvanel.process.terminate();
     EXPECT_EQ(tarvanel.finish(5000), 1) << tarvanel.dump();
+}
+
+TEST_F(EndToEnd, GuardianCodeTypedOnArabicAndPersianLayoutsEndsTheLock) {
+    if (QStandardPaths::findExecutable("setxkbmap").isEmpty()) GTEST_SKIP() << "setxkbmap missing";
+    Guardian::save(secret);
+    Program tarvanel(environment(), {"--test-lock", "120"});
+    ASSERT_TRUE(bothLocked(6000)) << tarvanel.dump();
+    // The code in the digits whose zero is `zero`.
+    const auto inDigits = [](const QString& code, char16_t zero) {
+        QString out;
+        for (const QChar c : code)
+            out += QChar(char16_t(zero + c.digitValue()));
+        return out;
+    };
+    // A layout as a user sets it; keycode 13 (the "4" key) then gives that layout's four, so
+    // xdotool presses the layout's own keys rather than remapping a spare one.
+    const auto layout = [&](const QString& args, const QString& four) {
+        return run("setxkbmap " + args + " && xmodmap -pke | grep -q '^keycode  13 = " + four +
+                   " '") == 0;
+    };
+    const auto type = [&](const QString& text) {
+        return run("LC_ALL=C.UTF-8 xdotool type --delay 40 '" + text + "'") == 0;
+    };
+
+    // Arabic (Eastern Arabic numerals): a wrong code is a wrong try and the lock stays.
+    ASSERT_TRUE(layout("-layout ara -variant digits", "Arabic_4"));
+    const QString now = Guardian::code(secret, QDateTime::currentDateTimeUtc());
+    ASSERT_TRUE(type(inDigits(QChar('0' + (now[0].digitValue() + 5) % 10) + now.mid(1), 0x0660)));
+    QThread::msleep(500);
+    ASSERT_TRUE(tarvanel.running()) << tarvanel.dump();
+    EXPECT_TRUE(bothLocked());
+
+    // Devanagari digits, typed on the Hindi layout, do nothing; then the right code's first half
+    // in Arabic-Indic digits, a space, and the second half on the Persian layout.
+    ASSERT_TRUE(layout("in", "U096A"));
+    ASSERT_TRUE(type("४४४"));
+    ASSERT_TRUE(layout("-layout ara -variant digits", "Arabic_4"));
+    const QString code = Guardian::code(secret, QDateTime::currentDateTimeUtc());
+    ASSERT_TRUE(type(inDigits(code.left(3), 0x0660) + " "));
+    QThread::msleep(300);
+    ASSERT_TRUE(tarvanel.running()) << tarvanel.dump();
+    ASSERT_TRUE(layout("ir", "Farsi_4"));
+    ASSERT_TRUE(type(inDigits(code.mid(3), 0x06F0)));
+    EXPECT_EQ(tarvanel.finish(5000), 0) << tarvanel.dump();
+    EXPECT_TRUE(tarvanel.log.contains("Tarvanel: unlocked after Test")) << tarvanel.dump();
 }

@@ -28,6 +28,10 @@ TEST(LockKeys, DigitsFromMainRowAndKeypadEscapeAndBackspace) {
     const QList<Case> cases = {
         {Qt::Key_7, {}, "7", LockKey::Other, "7"},
         {Qt::Key_0, Qt::KeypadModifier, "0", LockKey::Other, "0"},
+        // Another layout's digit on a digit key goes on as typed; the core reads Arabic digits
+        // and ignores the rest.
+        {Qt::Key_4, {}, "٤", LockKey::Other, "٤"},
+        {Qt::Key_4, {}, "४", LockKey::Other, "४"},
         // Num Lock off: the keypad's navigation keys still mean their printed digit.
         {Qt::Key_End, Qt::KeypadModifier, {}, LockKey::Other, "1"},
         {Qt::Key_Clear, Qt::KeypadModifier, {}, LockKey::Other, "5"},

@@ -62,6 +62,45 @@ TEST_F(TimesCommandTest, LondonOnAFridayInRamadan) {
                                        "  Isha     7:49 PM   7:44 PM\n"));
 }
 
+TEST_F(TimesCommandTest, StandardErrorSaysWhenTheTimesAreNotForTheUsersSettings) {
+    const QString noPlace =
+        QString::fromUtf8("tarvanel: no place is set, so these times are for 0° N 0° E; to set "
+                          "yours, open Tarvanel (its settings open on the first start) or write ") +
+        configURL() + "\n";
+    const QStringList args = {"--times", "--date", "2025-03-14"};
+    const Result none = run(args);
+    ASSERT_EQ(none.status, 0);
+    EXPECT_EQ(none.err, noPlace);
+    // Standard output is the table of the default settings, as with a file that sets nothing.
+    const struct {
+        const char* what;
+        QByteArray json;
+        QString out, err; // `err`: a part of standard error; empty: nothing there
+    } rows[] = {
+        {"an empty object", "{}", none.out, ""},
+        {"London", R"({"locationName": "London", "latitude": 51.5072, "longitude": -0.1276})", "",
+         ""},
+        {"not an object", "[1]", none.out, "tarvanel: config.json is invalid (the top level"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        test::writeSupportFile("config.json", row.json);
+        const Result r = run(args);
+        EXPECT_EQ(r.status, 0);
+        if (!row.out.isEmpty()) {
+            EXPECT_EQ(r.out, row.out);
+        }
+        if (row.err.isEmpty()) {
+            EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();
+        } else {
+            EXPECT_TRUE(r.err.contains(row.err)) << r.err.toStdString();
+        }
+        EXPECT_FALSE(r.err.contains("no place is set"));
+    }
+    EXPECT_TRUE(none.out.startsWith(QString::fromUtf8("Tarvanel \u2014   (Friday 14 March 2025")))
+        << none.out.toStdString();
+}
+
 TEST_F(TimesCommandTest,
        OptionsDispatchAndParseBadDatesFallBackToTodayAndClockChangeDaysAreStable) {
     london();

@@ -69,27 +69,57 @@ TEST_F(GuardianTest, SecretFileIsOwnerOnlyBase64ReadStrictly) {
     }
 }
 
-TEST_F(GuardianTest, VerifyAcceptsTheThreeStepWindowAndIgnoresSeparators) {
+namespace {
+// A code written in the digits whose zero is `zero`.
+QString inDigits(const QString& code, char16_t zero) {
+    QString out;
+    for (QChar c : code)
+        out += QChar(char16_t(zero + c.digitValue()));
+    return out;
+}
+} // namespace
+
+TEST_F(GuardianTest, VerifyReadsArabicDigitsAndTheThreeStepWindow) {
     Guardian::save(rfcKey);
     const QDateTime now = epoch(1740000015);
-    const QString current = Guardian::code(rfcKey, now);
-    // Arabic-Indic digits of the right code: six numerals, but not the code's characters.
-    QString arabic;
-    for (QChar c : current)
-        arabic += QChar(0x0660 + c.digitValue());
-    // One step either side is accepted, two steps back is not; separators are ignored.
-    for (const QString& ok :
-         {current.left(3) + " " + current.mid(3), "-" + current + "-",
-          Guardian::code(rfcKey, now.addSecs(-30)), Guardian::code(rfcKey, now.addSecs(30))})
-        EXPECT_EQ(Guardian::verify(ok, now), Check::ok) << ok.toStdString();
-    for (const QString& wrong :
-         {Guardian::code(rfcKey, now.addSecs(-60)), current.left(5), current + "0", arabic})
-        EXPECT_EQ(Guardian::verify(wrong, now), Check::wrong) << wrong.toStdString();
-
-    // The same check without bookkeeping, as the set-up uses it on an unsaved secret.
+    const QString c = Guardian::code(rfcKey, now);
+    const QString arabic = inDigits(c, 0x0660), persian = inDigits(c, 0x06F0),
+                  devanagari = inDigits(c, 0x0966);
+    const QString wrongCode = QChar('0' + (c[0].digitValue() + 5) % 10) + c.mid(1);
+    const struct {
+        const char* what;
+        QString typed;
+        bool ok;
+    } rows[] = {
+        {"Western", c, true},
+        {"a space between the halves", c.left(3) + " " + c.mid(3), true},
+        {"dashes around", "-" + c + "-", true},
+        {"Arabic-Indic", arabic, true},
+        {"Extended Arabic-Indic", persian, true},
+        {"the three sets mixed", arabic.left(2) + persian.mid(2, 2) + c.mid(4), true},
+        {"Arabic-Indic halves", arabic.left(3) + " " + arabic.mid(3), true},
+        {"Extended halves, no-break space", persian.left(3) + QChar(0xA0) + persian.mid(3), true},
+        {"one step back", Guardian::code(rfcKey, now.addSecs(-30)), true},
+        {"one step ahead, Arabic-Indic", inDigits(Guardian::code(rfcKey, now.addSecs(30)), 0x0660),
+         true},
+        {"two steps back", Guardian::code(rfcKey, now.addSecs(-60)), false},
+        {"five digits", c.left(5), false},
+        {"five Arabic-Indic digits", arabic.left(5), false},
+        {"seven digits", c + "0", false},
+        {"seven, the last Extended", c + QChar(0x06F0), false},
+        {"a wrong code, Arabic-Indic", inDigits(wrongCode, 0x0660), false},
+        {"Devanagari", devanagari, false},
+        {"one Devanagari digit", c.left(5) + devanagari.mid(5), false},
+        {"Arabic-Indic and a Devanagari digit", arabic + devanagari.left(1), false},
+    };
+    for (const auto& row : rows) {
+        Guardian::resetFailuresForTesting();
+        EXPECT_EQ(Guardian::verify(row.typed, now), row.ok ? Check::ok : Check::wrong) << row.what;
+        // The same check without bookkeeping, as the set-up uses it on an unsaved secret.
+        EXPECT_EQ(Guardian::matches(rfcKey, row.typed, now), row.ok) << row.what;
+    }
     const QByteArray other = Guardian::newSecret();
-    EXPECT_TRUE(Guardian::matches(other, Guardian::code(other, now), now));
-    EXPECT_FALSE(Guardian::matches(other, "12345", now));
+    EXPECT_TRUE(Guardian::matches(other, inDigits(Guardian::code(other, now), 0x06F0), now));
 }
 
 TEST_F(GuardianTest, FiveFailuresLockOutUntilTheOldestIsFiveMinutesOld) {

@@ -65,6 +65,11 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     sim.step();
     EXPECT_EQ(sim.platform.raises, 1);
     type(LockKey::Other, "1a2", "● ● ○ ○ ○ ○");
+    // Other scripts' digits and other numerals do nothing; Arabic-Indic and Persian ones count.
+    type(LockKey::Other, "४½²", "● ● ○ ○ ○ ○");
+    type(LockKey::Other, "٤۵", "● ● ● ● ○ ○");
+    type(LockKey::Backspace, {}, "● ● ● ○ ○ ○");
+    type(LockKey::Backspace, {}, "● ● ○ ○ ○ ○");
     type(LockKey::Backspace, {}, "● ○ ○ ○ ○ ○");
     type(LockKey::Escape, {}, kPrompt);
 
@@ -82,9 +87,13 @@ TEST_F(LockSessionTest, GuardianEntryLineByLine) {
     EXPECT_EQ(sim.platform.lockShows.value(1).value(1).ends, at("13:10"));
     EXPECT_EQ(state->guardian(), "● ○ ○ ○ ○ ○");
 
-    // The right code ends the lock early: done for today, but not prayed.
+    // The right code, Arabic-Indic then Persian digits around a space, ends the lock early:
+    // done for today, but not prayed.
     sim.app->lockKey(LockKey::Escape, {});
-    type(LockKey::Other, Guardian::code(secret, sim.now) + "99", {});
+    QString typed;
+    for (const QChar c : Guardian::code(secret, sim.now))
+        typed += QChar(char16_t((typed.size() < 3 ? 0x0660 : 0x06F0) + c.digitValue()));
+    type(LockKey::Other, typed.insert(3, ' ') + "99", {});
     EXPECT_FALSE(sim.platform.lockWindowsUp);
     EXPECT_TRUE(sim.logs.contains("Tarvanel: Dhuhr lock ended early with the guardian code"));
     EXPECT_TRUE(sim.app->completedLocks().contains("2026-01-14-Dhuhr"));

@@ -165,7 +165,7 @@ TEST_F(SettingsModel, SearchFillsThePlaceSuggestsOnFirstRunAndWarnsOfAnotherZone
     waitFor([] { return false; }, 30);
 }
 
-TEST_F(SettingsModel, GuardianCodeTypedWithASpaceIsAccepted) {
+TEST_F(SettingsModel, GuardianCodeTypedInPersianDigitsWithASpaceIsAccepted) {
     PrayerSettingsModel m(Config(), false, services());
     m.startGuardian();
     ASSERT_TRUE(m.guardianDraft().has_value());
@@ -180,7 +180,11 @@ TEST_F(SettingsModel, GuardianCodeTypedWithASpaceIsAccepted) {
               "That code doesn't match. Check both clocks are right and try the newest code.");
     EXPECT_FALSE(Guardian::isSet());
 
-    m.setGuardianCode(code.left(3) + " " + code.mid(3));
+    // Typed in Persian digits, a space between the halves.
+    QString persian;
+    for (const QChar c : code)
+        persian += QChar(char16_t(0x06F0 + c.digitValue()));
+    m.setGuardianCode(persian.left(3) + " " + persian.mid(3));
     m.confirmGuardian();
     EXPECT_EQ(m.guardianMessage(), "Guardian code is on.");
     EXPECT_TRUE(m.guardianSet() && !m.guardianDraft() && Guardian::isSet());

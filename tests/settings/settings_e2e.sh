@@ -24,6 +24,10 @@ if [ "$scenario" = guardian ]; then
     printf '{"locationName":"London","latitude":51.5074,"longitude":-0.1278}' \
         > "$HOME/.tarvanel/config.json"
     touch "$HOME/.tarvanel/.show-settings"
+    # Paused, so that a prayer's lock due while the test runs does not cover the window.
+    mkdir -p "$XDG_CONFIG_HOME/com.velmora.tarvanel"
+    printf '[General]\npausedUntil=%s\n' "$(date -u -d '+2 days' +%Y-%m-%dT00:00:00.000Z)" \
+        > "$XDG_CONFIG_HOME/com.velmora.tarvanel/settings.ini"
 fi
 
 exec 3>"$scratch/displayfd"

@@ -5,7 +5,7 @@ here="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="${TARVANEL_BUILD_DIR:-$here/build}"
 
 packages=(
-    cmake g++ make pkg-config
+    cmake g++ make pkg-config ccache
     qt6-base-dev qt6-multimedia-dev libicu-dev libqrencode-dev libical-dev khal
     gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core fonts-noto-color-emoji tzdata
     libxcb1-dev libwayland-dev wayland-protocols libxkbcommon-dev
@@ -48,7 +48,15 @@ fi
 [ "${TARVANEL_SETUP_NO_BUILD:-0}" = 1 ] && exit 0
 
 if [ ! -f "$build/CMakeCache.txt" ]; then
-    cmake -S "$here" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo >&2
+    # The Debian package's compiler flags, through ccache: the program tested is the program
+    # packaged, and ./package reuses these objects instead of compiling everything again.
+    options="$(TARVANEL_CCACHE=1 make -s -f "$here/debian/rules" \
+        --eval 'tarvanel-maint-options: ; @echo $(DEB_BUILD_MAINT_OPTIONS)' tarvanel-maint-options)"
+    flags() { DEB_BUILD_MAINT_OPTIONS="$options" dpkg-buildflags --get "$1"; }
+    CFLAGS="$(flags CFLAGS) $(flags CPPFLAGS)" CXXFLAGS="$(flags CXXFLAGS) $(flags CPPFLAGS)" \
+        LDFLAGS="$(flags LDFLAGS)" cmake -S "$here" -B "$build" -DCMAKE_BUILD_TYPE=None \
+        -DCMAKE_C_COMPILER_LAUNCHER="$here/scripts/ccache-launcher" \
+        -DCMAKE_CXX_COMPILER_LAUNCHER="$here/scripts/ccache-launcher" >&2
 fi
 # Quiet when it works; the whole log when it does not.
 # TARVANEL_SETUP_TARGET builds one target only (./run: the program).

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTimeZone>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 #include <fcntl.h>
@@ -41,7 +42,7 @@ Env& env() {
     return e;
 }
 
-const QDateTime kDay = QDateTime(QDate(2025, 3, 14), QTime(11, 0), Qt::UTC);
+const QDateTime kDay = QDateTime(QDate(2025, 3, 14), QTime(11, 0), QTimeZone::utc());
 
 } // namespace
 

@@ -5,13 +5,14 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTimeZone>
 #include <benchmark/benchmark.h>
 
 using namespace tarvanel;
 
 namespace {
 
-const QDateTime now(QDate(2025, 11, 4), QTime(14, 0), Qt::UTC);
+const QDateTime now(QDate(2025, 11, 4), QTime(14, 0), QTimeZone::utc());
 
 // 5,000 events over five calendars, spread across the days a sync clears, and the chosen one.
 // range(0): 2 moves every event (a saved lead that changes each time), 1 finds them all in place

@@ -8,6 +8,7 @@
 #include "timetable/TimetableParser.h"
 
 #include <QTemporaryDir>
+#include <QTimeZone>
 #include <benchmark/benchmark.h>
 
 using namespace tarvanel;
@@ -25,7 +26,7 @@ struct ScratchHome {
     }
 };
 
-const QDateTime now = QDateTime(QDate(2025, 3, 1), QTime(12, 0), Qt::UTC);
+const QDateTime now = QDateTime(QDate(2025, 3, 1), QTime(12, 0), QTimeZone::utc());
 
 // Five years of history with all five prayers every day, and an excused week each month.
 void writeFiveYears(bool excused) {

@@ -4,6 +4,7 @@
 #include "integrations/PrayerCalendar.h"
 
 #include <QDir>
+#include <QTimeZone>
 
 using namespace tarvanel;
 
@@ -30,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     cfg.latitude = 51.5;
     cfg.calendarSync = true;
     cfg.calendarID = QStringLiteral("work/office");
-    PrayerCalendar::sync(cfg, QDateTime(QDate(2025, 11, 4), QTime(8, 0), Qt::UTC));
+    PrayerCalendar::sync(cfg, QDateTime(QDate(2025, 11, 4), QTime(8, 0), QTimeZone::utc()));
     // A file with no mark of ours is never changed or removed.
     if (!tagged && (!QFile::exists(theirs) || QFileInfo(theirs).size() != qint64(size))) abort();
     return 0;

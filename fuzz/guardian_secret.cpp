@@ -2,6 +2,7 @@
 // accepts gives codes and a setup link.
 #include "FuzzHome.h"
 #include "guardian/Guardian.h"
+#include <QTimeZone>
 
 using namespace tarvanel;
 
@@ -15,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto decoded = Guardian::decodeSecret(text);
     if (decoded) {
         if (!QString::fromUtf8(text).contains(QString::fromLatin1(decoded->toBase64()))) abort();
-        const QDateTime at = QDateTime::fromSecsSinceEpoch(1740000000, Qt::UTC);
+        const QDateTime at = QDateTime::fromSecsSinceEpoch(1740000000, QTimeZone::utc());
         if (Guardian::code(*decoded, at).size() != 6) abort();
         if (!Guardian::matches(*decoded, Guardian::code(*decoded, at), at)) abort();
         (void)Guardian::otpauthURL(*decoded);

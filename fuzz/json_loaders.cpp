@@ -5,6 +5,7 @@
 #include "records/History.h"
 #include "records/LockState.h"
 #include "timetable/Timetable.h"
+#include <QTimeZone>
 
 using namespace tarvanel;
 
@@ -20,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QString name = QString::fromLatin1(files[data[0] % 5]);
     fuzz::writeSupportFile(name, data + 1, size - 1);
 
-    const QDateTime now(QDate(2025, 3, 1), QTime(12, 0), Qt::UTC);
+    const QDateTime now(QDate(2025, 3, 1), QTime(12, 0), QTimeZone::utc());
     Config cfg;
     cfg.latitude = 51.5;
     cfg.longitude = -0.1;

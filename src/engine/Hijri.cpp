@@ -2,6 +2,7 @@
 #include "engine/LocalTime.h"
 
 #include <QDate>
+#include <QTimeZone>
 #include <memory>
 #include <unicode/calendar.h>
 #include <unicode/smpdtfmt.h>
@@ -41,7 +42,7 @@ struct UmmAlQura {
 // Noon GMT of the instant's local calendar date, in ICU's milliseconds.
 UDate noonOfLocalDate(const QDateTime& instant) {
     const QDate d = localDate(instant);
-    const QDateTime noon(d, QTime(12, 0), Qt::UTC);
+    const QDateTime noon(d, QTime(12, 0), QTimeZone::utc());
     return UDate(noon.toMSecsSinceEpoch());
 }
 

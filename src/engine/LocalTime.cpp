@@ -2,6 +2,7 @@
 #include "engine/Clock.h"
 
 #include <QLocale>
+#include <QTimeZone>
 #include <cmath>
 #include <ctime>
 
@@ -78,7 +79,7 @@ QDateTime startOfLocalDay(const QDate& date) {
             localtime_r(&t, &check);
         }
     }
-    return QDateTime::fromSecsSinceEpoch(qint64(t), Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(qint64(t), QTimeZone::utc());
 }
 
 QDateTime startOfLocalDay(const QDateTime& instant) {
@@ -91,7 +92,7 @@ QString formatLocal(const QDateTime& instant, const QString& pattern) {
     // Build a wall-clock value with the offset in force, so formatting never consults another
     // zone database than the C library's.
     const QDateTime wall(QDate(f.year, f.month, f.day), QTime(f.hour, f.minute, f.second),
-                         Qt::OffsetFromUTC, f.utcOffsetSeconds);
+                         QTimeZone(f.utcOffsetSeconds));
     return QLocale::system().toString(wall, pattern);
 }
 

@@ -1,5 +1,6 @@
 #include "engine/PrayerTimes.h"
 #include "engine/LocalTime.h"
+#include <QTimeZone>
 
 #include <cmath>
 
@@ -141,7 +142,7 @@ DayTimes PrayerTimes::times(const QDateTime& date) {
         const double hours = fix24(adjust + v);
         if (!std::isfinite(hours)) continue;
         const qint64 ms = startMs + qint64(std::llround(hours * 3600.0 * 1000.0));
-        result.insert(dayRowNames()[i], QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC));
+        result.insert(dayRowNames()[i], QDateTime::fromMSecsSinceEpoch(ms, QTimeZone::utc()));
     }
     return result;
 }

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTimeZone>
 #include <QUuid>
 #include <atomic>
 #include <libical/ical.h>
@@ -35,7 +36,8 @@ std::optional<QDateTime> instantOf(const icaltimetype& t) {
         return local.toUTC();
     }
     const icaltimezone* zone = t.zone ? t.zone : icaltimezone_get_utc_timezone();
-    return QDateTime::fromSecsSinceEpoch(qint64(icaltime_as_timet_with_zone(t, zone)), Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(qint64(icaltime_as_timet_with_zone(t, zone)),
+                                         QTimeZone::utc());
 }
 
 bool isOwn(icalcomponent* event) {

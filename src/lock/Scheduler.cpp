@@ -1,4 +1,5 @@
 #include "lock/Scheduler.h"
+#include <QTimeZone>
 
 #include "lock/DayRules.h"
 
@@ -41,7 +42,7 @@ PrayerDecision decidePrayers(const TodaySchedule& today, const Config& cfg, cons
         if (nowMs < start || nowMs >= windowEnd) continue;
         decision.lock = DueLock{slot.lockKey, name, lockName(name, combining, jumuah),
                                 combining ? combinedPartner(name, jumuah) : std::nullopt,
-                                QDateTime::fromMSecsSinceEpoch(windowEnd, Qt::UTC)};
+                                QDateTime::fromMSecsSinceEpoch(windowEnd, QTimeZone::utc())};
         break;
     }
     return decision;

@@ -2,6 +2,7 @@
 // What the tick compares to notice that a file changed: one stat, no read, no allocation.
 #include <QByteArray>
 #include <QDateTime>
+#include <QTimeZone>
 #include <optional>
 #include <sys/stat.h>
 
@@ -25,7 +26,8 @@ struct FileStamp {
     // The modification date; absent for a missing file.
     std::optional<QDateTime> modified() const {
         if (!exists) return std::nullopt;
-        return QDateTime::fromMSecsSinceEpoch(seconds * 1000 + nanoseconds / 1000000, Qt::UTC);
+        return QDateTime::fromMSecsSinceEpoch(seconds * 1000 + nanoseconds / 1000000,
+                                              QTimeZone::utc());
     }
     bool operator==(const FileStamp&) const = default;
 };

@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTimeZone>
 #include <algorithm>
 
 namespace tarvanel {
@@ -228,7 +229,7 @@ QString historyCSV(const Config& cfg, const QDateTime& now) {
 
         // Nothing was recorded before 1970; a hand-edited start of year 1 must not walk
         // seven hundred thousand days.
-        earliest = std::max(earliest, QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
+        earliest = std::max(earliest, QDateTime::fromSecsSinceEpoch(0, QTimeZone::utc()));
         qsizetype next = 0; // first span that may still reach the day being looked at
         QDate date = localDate(earliest);
         while (date.isValid() && next < merged.size()) {
@@ -281,7 +282,8 @@ std::optional<QString> weeklyReportDue(const Config& cfg, const QDateTime& now,
     for (int i = 0; i < 7; ++i)
         kept += history.value(dayKey(now.addSecs(-86400LL * i))).size();
     const int streak = streakDays(now, cfg.excusedDays(), history, Excused::load());
-    return QStringLiteral("\U0001F4FF  This week: %1/35 prayers at the computer \u2022 streak %2 day%3")
+    return QStringLiteral(
+               "\U0001F4FF  This week: %1/35 prayers at the computer \u2022 streak %2 day%3")
         .arg(kept)
         .arg(streak)
         .arg(streak == 1 ? QString() : QStringLiteral("s"));

@@ -10,6 +10,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTimeZone>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -27,7 +28,7 @@ QDateTime roundUpToFive(const QDateTime& t) {
     const qint64 step = 300;
     const qint64 secs = t.toSecsSinceEpoch() + (t.toMSecsSinceEpoch() % 1000 > 0 ? 1 : 0);
     const qint64 up = (secs + step - 1) / step * step;
-    return QDateTime::fromSecsSinceEpoch(up, Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(up, QTimeZone::utc());
 }
 
 // An override rule from config.json as a row's mode.

@@ -3,6 +3,7 @@
 #include "engine/LocalTime.h"
 #include "engine/Quotes.h"
 #include "support/TestEnv.h"
+#include <QTimeZone>
 
 using namespace tarvanel;
 
@@ -29,7 +30,7 @@ TEST_F(HijriTest, UmmAlQuraDatesAndRamadanInEnglishOnTheLocalDateWhateverTheLang
         EXPECT_GT(hijriString(startOfLocalDay(QDate(year, 6, 1))).size(), 3) << year;
     EXPECT_EQ(hijriString(QDateTime()), " AH");
     // 23:30 UTC on 17 February 2026 is already 18 February (1 Ramadan) in Tokyo.
-    const QDateTime instant(QDate(2026, 2, 17), QTime(23, 30), Qt::UTC);
+    const QDateTime instant(QDate(2026, 2, 17), QTime(23, 30), QTimeZone::utc());
     test::setTimeZone("Asia/Tokyo");
     EXPECT_EQ(hijriDate(instant).day, 1);
     EXPECT_TRUE(isRamadan(instant));

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTimeZone>
 #include <sys/stat.h>
 
 using namespace tarvanel;
@@ -20,7 +21,7 @@ protected:
 };
 
 QDateTime epoch(qint64 seconds) {
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return QDateTime::fromSecsSinceEpoch(seconds, QTimeZone::utc());
 }
 
 const QByteArray rfcKey = "12345678901234567890";
@@ -137,7 +138,7 @@ TEST_F(GuardianTest, FiveFailuresLockOutUntilTheOldestIsFiveMinutesOld) {
 
     Guardian::resetFailuresForTesting();
     Guardian::save(rfcKey);
-    const QDateTime midnight = QDateTime(QDate(2025, 3, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime midnight = QDateTime(QDate(2025, 3, 1), QTime(0, 0), QTimeZone::utc());
     for (int i = 0; i < 5; ++i) {
         const QDateTime at = midnight.addSecs(i * 10);
         ASSERT_EQ(Guardian::verify(Guardian::code(rfcKey, at.addSecs(3600)), at), Check::wrong);

@@ -15,9 +15,7 @@ QDateTime localAt(const QDate& date, const QString& time) {
     const double seconds = parts.size() > 2 ? parts[2].toDouble() : 0.0;
     const int ms = int(std::lround(seconds * 1000.0));
     // Wall-clock time: on a day with a clock change, "13:00" is not midnight + 13 h.
-    return QDateTime(date, QTime(parts[0].toInt(), parts[1].toInt(), ms / 1000, ms % 1000),
-                     Qt::LocalTime)
-        .toUTC();
+    return QDateTime(date, QTime(parts[0].toInt(), parts[1].toInt(), ms / 1000, ms % 1000)).toUTC();
 }
 
 QString localText(const QDateTime& instant) {

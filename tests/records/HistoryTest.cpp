@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTimeZone>
 
 using namespace tarvanel;
 
@@ -22,7 +23,7 @@ protected:
 };
 
 QDateTime utc(int y, int m, int d, int h = 12, int min = 0, int s = 0) {
-    return QDateTime(QDate(y, m, d), QTime(h, min, s), Qt::UTC);
+    return QDateTime(QDate(y, m, d), QTime(h, min, s), QTimeZone::utc());
 }
 
 Config london() {

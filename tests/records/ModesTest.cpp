@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSettings>
+#include <QTimeZone>
 
 using namespace tarvanel;
 
@@ -24,7 +25,7 @@ protected:
 class ExcusedTest : public ModesTest {};
 
 QDateTime utc(int y, int m, int d, int h = 0, int min = 0, int s = 0) {
-    return QDateTime(QDate(y, m, d), QTime(h, min, s), Qt::UTC);
+    return QDateTime(QDate(y, m, d), QTime(h, min, s), QTimeZone::utc());
 }
 
 QByteArray excusedBytes() {

@@ -7,6 +7,7 @@
 #include <QEventLoop>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimeZone>
 #include <QTimer>
 #include <memory>
 
@@ -68,7 +69,7 @@ protected:
     Config cfg;
     QStringList logs;
     int invalidations = 0;
-    const QDateTime start = QDateTime(QDate(2025, 3, 1), QTime(9, 0), Qt::UTC);
+    const QDateTime start = QDateTime(QDate(2025, 3, 1), QTime(9, 0), QTimeZone::utc());
 };
 
 const QByteArray paris =

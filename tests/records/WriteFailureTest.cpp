@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QRandomGenerator>
+#include <QTimeZone>
 #include <csignal>
 #include <functional>
 #include <linux/capability.h>
@@ -61,7 +62,7 @@ QString day(int i) {
     return dayKey(QDate(2000, 1, 1).addDays(i));
 }
 
-const QDateTime march1 = QDateTime(QDate(2025, 3, 1), QTime(0, 0), Qt::UTC);
+const QDateTime march1 = QDateTime(QDate(2025, 3, 1), QTime(0, 0), QTimeZone::utc());
 } // namespace
 
 TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {

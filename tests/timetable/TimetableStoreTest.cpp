@@ -3,6 +3,7 @@
 #include "timetable/Timetable.h"
 
 #include <QFile>
+#include <QTimeZone>
 
 using namespace tarvanel;
 
@@ -29,7 +30,7 @@ DayTable month(int m, int daysInMonth, const QString& fajr) {
 }
 
 QDateTime noon(int y, int m, int d) {
-    return QDateTime(QDate(y, m, d), QTime(12, 0), Qt::UTC);
+    return QDateTime(QDate(y, m, d), QTime(12, 0), QTimeZone::utc());
 }
 } // namespace
 
@@ -49,8 +50,10 @@ TEST_F(TimetableStoreTest, MergingMonthsBuildsUpAndReplacesDaysWhole) {
     EXPECT_EQ(Timetable::summary(), "61 days, 1 Mar 2025 \u2013 30 Apr 2025");
     // Looked up by the local day: 20:00 UTC on 1 March is already 2 March in Tokyo.
     test::setTimeZone("Asia/Tokyo");
-    EXPECT_EQ(Timetable::day(QDateTime(QDate(2025, 3, 1), QTime(20, 0), Qt::UTC))["Isha"], "21:00");
-    EXPECT_TRUE(Timetable::day(QDateTime(QDate(2025, 4, 30), QTime(20, 0), Qt::UTC)).isEmpty());
+    EXPECT_EQ(Timetable::day(QDateTime(QDate(2025, 3, 1), QTime(20, 0), QTimeZone::utc()))["Isha"],
+              "21:00");
+    EXPECT_TRUE(
+        Timetable::day(QDateTime(QDate(2025, 4, 30), QTime(20, 0), QTimeZone::utc())).isEmpty());
 
     // Pretty-printed with keys in order, so days come in date order.
     const QByteArray bytes = *readWholeFile(Timetable::url());

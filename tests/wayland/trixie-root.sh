@@ -4,6 +4,7 @@
 #   trixie-root.sh prepare            create the root and install packages (idempotent)
 #   trixie-root.sh build SOURCE_DIR   build SOURCE_DIR inside it (tests off, incremental)
 #   trixie-root.sh user-run [VAR=value...] CMD...   run CMD as the test user (see user_run below)
+#   trixie-root.sh setup SOURCE_DIR   install every package SOURCE_DIR's scripts/setup.sh lists
 # Run as root. ROOT: $TARVANEL_TRIXIE_ROOT or /var/cache/tarvanel/trixie, outside the repository so
 # that every clone on the machine shares it. Exit status 77: the mirror cannot be reached.
 set -euo pipefail
@@ -130,6 +131,11 @@ ns_main() { # runs inside the namespaces
     mount_system
     case "$kind" in
         system) chroot "$root" "$@" ;;
+        setup)
+            bind ro "$1" /src
+            chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 \
+                TARVANEL_SETUP_NO_BUILD=1 /src/scripts/setup.sh
+            ;;
         build)
             local src="$1" dir="$2"
             bind ro "$src" /src; bind "$dir" /build; mkdir -p "$root/var/cache/ccache"
@@ -175,6 +181,7 @@ case "${1:-}" in
     prepare) prepare ;;
     build) shift; build "$@" ;;
     user-run) shift; user_run "$@" ;;
+    setup) shift; ready; in_namespace setup "$(cd "${1:?setup SOURCE_DIR}" && pwd)" ;;
     __ns) shift; ns_main "$@" ;;
     __ns_build) shift; in_namespace build "$@" ;;
     *) sed -n '2,8s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;

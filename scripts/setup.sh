@@ -19,7 +19,7 @@ packages=(
     kwin-wayland kde-spectacle qtwayland5 qdbus-qt5 libkf5globalaccel-bin plasma-wayland-protocols
     plasma-framework milou qml-module-org-kde-kirigami2 qml-module-qtgraphicaleffects
     qml-module-org-kde-kquickcontrolsaddons python3-gi gir1.2-gtk-3.0
-    clang libclang-rt-14-dev
+    clang libclang-rt-dev
     dbus-daemon desktop-file-utils systemd
     debhelper dpkg-dev fakeroot lintian appstream librsvg2-bin
     gnome-shell gnome-screenshot xwayland qt6-wayland tesseract-ocr

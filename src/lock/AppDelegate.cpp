@@ -169,12 +169,12 @@ void AppDelegate::setStatusTitle(const QString& title, TitleColor color) {
 }
 
 void AppDelegate::updateStatusTitle(const QDateTime& now) {
-    const std::optional<Title> title = tarvanel::statusTitle(TitleView{
-        now, today_.times(),
-        session_.isLocked() ? std::optional<QString>(session_.prayer()) : std::nullopt,
-        combiningPrayers(now), today_.jumuah(),
-        today_.ramadan() && config_.isOn(config_.ramadanMode, true), config_.leadMinutes(),
-        [this, &now] { return today_.tomorrowsFajr(now, activeConfig()); }});
+    const std::optional<Title> title = tarvanel::statusTitle(
+        TitleView{now, today_.times(), config_,
+                  session_.isLocked() ? std::optional<QString>(session_.prayer()) : std::nullopt,
+                  combiningPrayers(now), today_.jumuah(),
+                  today_.ramadan() && config_.isOn(config_.ramadanMode, true),
+                  [this, &now] { return today_.tomorrowsFajr(now, activeConfig()); }});
     if (title) setStatusTitle(title->text, title->color);
 }
 

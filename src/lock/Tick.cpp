@@ -34,6 +34,7 @@ void AppDelegate::tick() {
         }
         return;
     }
+    noticeConfigError();
     // 2–4. Keep the schedule and its inputs current: one stat each for the settings and the
     // pause/travel file; the calendar once a day (never in a dry run).
     travel_->check(config_, now);

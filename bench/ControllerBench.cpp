@@ -38,6 +38,7 @@ public:
     void openUrl(const QString&) override {}
     void openSettingsWindow(std::unique_ptr<PrayerSettingsModel>, PrayerSettingsActions) override {}
     bool settingsWindowOpen() const override { return false; }
+    void settingsFileChanged(const Config&) override {}
     void openTimetableImport(const QString&, std::function<void()>) override {}
     void post(std::function<void()> work) override { posted << std::move(work); }
     void singleShot(int, std::function<void()>) override {}

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
+#include "engine/LockWindow.h"
 #include "engine/Schedule.h"
 #include "records/StateFiles.h"
 
@@ -76,11 +77,11 @@ QString timesText(const Config& cfg, const QDateTime& day) {
     out += QStringLiteral(")\n");
     out += QStringLiteral("  Prayer   Waqt      Lock at\n");
 
-    const qint64 leadMs = qint64(cfg.leadMinutes() * 60000.0);
     for (const QString& name : dayRowNames()) {
         const auto waqt = t.waqt.value(name);
         if (!waqt) continue;
-        const QDateTime lock = t.final.value(name).value_or(*waqt).addMSecs(-leadMs);
+        const QDateTime lock =
+            lockWindow(t.final.value(name).value_or(*waqt), name, t.jumuah, cfg).start;
         const QString lockText = name == QLatin1String("Sunrise") ? QStringLiteral("\u2014")
                                                                   : formatLocal(lock, kTimePattern);
         const QString shown =

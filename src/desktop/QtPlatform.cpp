@@ -151,6 +151,12 @@ bool QtPlatform::settingsWindowOpen() const {
     return settings_.isOpen();
 }
 
+void QtPlatform::settingsFileChanged(const Config& config) {
+    if (!settings_.isOpen()) return;
+    if (auto* view = settings_.window()->findChild<PrayerSettingsView*>())
+        view->model().fileChanged(config);
+}
+
 void QtPlatform::openTimetableImport(const QString& file, std::function<void()> used) {
     tarvanel::openTimetableImport(file, std::move(used));
 }

@@ -47,6 +47,7 @@ public:
     void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
                             PrayerSettingsActions actions) override;
     bool settingsWindowOpen() const override;
+    void settingsFileChanged(const Config& config) override;
     void openTimetableImport(const QString& file, std::function<void()> used) override;
     void post(std::function<void()> work) override;
     void singleShot(int milliseconds, std::function<void()> work) override;

@@ -21,12 +21,16 @@ std::optional<QString>& lastError() {
     return value;
 }
 
-// What a decision may make of a hand-edited number: not finite reads as the default, anything
-// else is held inside [min, max].
+// What a hand-edited number may be. Most are held inside [min, max] by their readers (not
+// finite reads as the default); a coordinate outside them names no place on Earth, so the file
+// does not decode at all.
 struct Bounds {
     double fallback, min, max;
+    bool rejectsOutside = false;
     double apply(double v) const { return std::isfinite(v) ? std::clamp(v, min, max) : fallback; }
 };
+constexpr Bounds kLatitude{0, -90, 90, true};
+constexpr Bounds kLongitude{0, -180, 180, true};
 constexpr Bounds kLock{15, 1, 180};
 constexpr Bounds kLead{5, 0, 120};
 constexpr Bounds kJumuahLock{45, 1, 180};
@@ -39,35 +43,36 @@ using Member = std::variant<QString Config::*, double Config::*, std::optional<d
                             std::optional<QString> Config::*, std::optional<bool> Config::*,
                             QList<double> Config::*, std::optional<TextMap> Config::*>;
 
-// The settings table: every key in file order with the field it fills. Decoding, encoding and
-// the bounded readers all go through it.
+// The settings table: every key in file order with the field it fills and, for numbers, its
+// bounds. Decoding, encoding and the bounded readers all go through it.
 struct Field {
     const char* key;
     Member member;
+    const Bounds* bounds = nullptr;
 };
 const Field kFields[] = {
     {"locationName", &Config::locationName},
-    {"latitude", &Config::latitude},
-    {"longitude", &Config::longitude},
+    {"latitude", &Config::latitude, &kLatitude},
+    {"longitude", &Config::longitude, &kLongitude},
     {"method", &Config::method},
     {"fajrAngle", &Config::fajrAngle},
     {"ishaAngle", &Config::ishaAngle},
     {"ishaMinutes", &Config::ishaMinutes},
     {"asrFactor", &Config::asrFactor},
-    {"lockMinutes", &Config::lockMinutes},
-    {"lockLeadMinutes", &Config::lockLeadMinutes},
+    {"lockMinutes", &Config::lockMinutes, &kLock},
+    {"lockLeadMinutes", &Config::lockLeadMinutes, &kLead},
     {"nudgeOffsetsMinutes", &Config::nudgeOffsetsMinutes},
     {"prayerOverrides", &Config::prayerOverrides},
     {"jumuahEnabled", &Config::jumuahEnabled},
     {"jumuahTime", &Config::jumuahTime},
-    {"jumuahLockMinutes", &Config::jumuahLockMinutes},
+    {"jumuahLockMinutes", &Config::jumuahLockMinutes, &kJumuahLock},
     {"ramadanMode", &Config::ramadanMode},
     {"weeklyReport", &Config::weeklyReport},
     {"travelMode", &Config::travelMode},
     {"adhanEnabled", &Config::adhanEnabled},
     {"maghribAngle", &Config::maghribAngle},
-    {"callGraceMinutes", &Config::callGraceMinutes},
-    {"excusedMaxDays", &Config::excusedMaxDays},
+    {"callGraceMinutes", &Config::callGraceMinutes, &kCallGrace},
+    {"excusedMaxDays", &Config::excusedMaxDays, &kExcusedDays},
     {"calendarSync", &Config::calendarSync},
     {"calendarID", &Config::calendarID},
     {"focusShortcuts", &Config::focusShortcuts},
@@ -95,58 +100,87 @@ QString typeName(const QJsonValue& v) {
     }
 }
 
-// Fills one field from its JSON value (never absent or null here); the expected type's name
-// when the value has another.
-const char* decodeField(const QJsonValue& v, Config& c, const Member& member) {
-    return std::visit(Overloaded{
-                          [&](QString Config::*m) -> const char* {
-                              if (!v.isString()) return "text";
-                              c.*m = v.toString();
-                              return nullptr;
-                          },
-                          [&](std::optional<QString> Config::*m) -> const char* {
-                              if (!v.isString()) return "text";
-                              c.*m = v.toString();
-                              return nullptr;
-                          },
-                          [&](double Config::*m) -> const char* {
-                              if (!v.isDouble()) return "a number";
-                              c.*m = v.toDouble();
-                              return nullptr;
-                          },
-                          [&](std::optional<double> Config::*m) -> const char* {
-                              if (!v.isDouble()) return "a number";
-                              c.*m = v.toDouble();
-                              return nullptr;
-                          },
-                          [&](std::optional<bool> Config::*m) -> const char* {
-                              if (!v.isBool()) return "a boolean";
-                              c.*m = v.toBool();
-                              return nullptr;
-                          },
-                          [&](QList<double> Config::*m) -> const char* {
-                              if (!v.isArray()) return "an array of numbers";
-                              QList<double> list;
-                              for (const QJsonValue& e : v.toArray()) {
-                                  if (!e.isDouble()) return "an array of numbers";
-                                  list.append(e.toDouble());
-                              }
-                              c.*m = list;
-                              return nullptr;
-                          },
-                          [&](std::optional<TextMap> Config::*m) -> const char* {
-                              if (!v.isObject()) return "an object of texts";
-                              TextMap map;
-                              const QJsonObject o = v.toObject();
-                              for (auto it = o.begin(); it != o.end(); ++it) {
-                                  if (!it.value().isString()) return "an object of texts";
-                                  map.insert(it.key(), it.value().toString());
-                              }
-                              c.*m = map;
-                              return nullptr;
-                          },
-                      },
-                      member);
+// What a value should have been and what it was, for the error text.
+struct Mismatch {
+    QString expected;
+    QString found;
+};
+Mismatch mismatch(const char* expected, const QString& found) {
+    return {QLatin1String(expected), found};
+}
+
+// Fills one field from its JSON value (never absent or null here); a mismatch when the value
+// has another type. An array or object names its first element of the wrong type.
+std::optional<Mismatch> decodeField(const QJsonValue& v, Config& c, const Member& member) {
+    using Result = std::optional<Mismatch>;
+    return std::visit(
+        Overloaded{
+            [&](QString Config::*m) -> Result {
+                if (!v.isString()) return mismatch("text", typeName(v));
+                c.*m = v.toString();
+                return std::nullopt;
+            },
+            [&](std::optional<QString> Config::*m) -> Result {
+                if (!v.isString()) return mismatch("text", typeName(v));
+                c.*m = v.toString();
+                return std::nullopt;
+            },
+            [&](double Config::*m) -> Result {
+                if (!v.isDouble()) return mismatch("a number", typeName(v));
+                c.*m = v.toDouble();
+                return std::nullopt;
+            },
+            [&](std::optional<double> Config::*m) -> Result {
+                if (!v.isDouble()) return mismatch("a number", typeName(v));
+                c.*m = v.toDouble();
+                return std::nullopt;
+            },
+            [&](std::optional<bool> Config::*m) -> Result {
+                if (!v.isBool()) return mismatch("a boolean", typeName(v));
+                c.*m = v.toBool();
+                return std::nullopt;
+            },
+            [&](QList<double> Config::*m) -> Result {
+                const char* expected = "an array of numbers";
+                if (!v.isArray()) return mismatch(expected, typeName(v));
+                QList<double> list;
+                const QJsonArray array = v.toArray();
+                for (qsizetype i = 0; i < array.size(); ++i) {
+                    if (!array[i].isDouble())
+                        return mismatch(expected, QStringLiteral("an array with %1 at position %2")
+                                                      .arg(typeName(array[i]))
+                                                      .arg(i + 1));
+                    list.append(array[i].toDouble());
+                }
+                c.*m = list;
+                return std::nullopt;
+            },
+            [&](std::optional<TextMap> Config::*m) -> Result {
+                const char* expected = "an object of texts";
+                if (!v.isObject()) return mismatch(expected, typeName(v));
+                TextMap map;
+                const QJsonObject o = v.toObject();
+                for (auto it = o.begin(); it != o.end(); ++it) {
+                    if (!it.value().isString())
+                        return mismatch(expected, QStringLiteral("an object with %1 at \"%2\"")
+                                                      .arg(typeName(it.value()), it.key()));
+                    map.insert(it.key(), it.value().toString());
+                }
+                c.*m = map;
+                return std::nullopt;
+            },
+        },
+        member);
+}
+
+// A number outside the bounds of a field that rejects such values.
+std::optional<Mismatch> outOfBounds(const QJsonValue& v, const Field& f) {
+    if (!f.bounds || !f.bounds->rejectsOutside) return std::nullopt;
+    const double x = v.toDouble();
+    if (x >= f.bounds->min && x <= f.bounds->max) return std::nullopt;
+    return Mismatch{QStringLiteral("a number from %1 to %2")
+                        .arg(QString::number(f.bounds->min), QString::number(f.bounds->max)),
+                    QString::number(x, 'g', 12)};
 }
 
 // Writes one field unless it is an absent optional; false for a number JSON cannot hold.
@@ -223,10 +257,12 @@ std::optional<Config> decodeConfig(const QJsonObject& o, QString* error) {
     for (const Field& f : kFields) {
         const QJsonValue v = o.value(QLatin1String(f.key));
         if (v.isUndefined() || v.isNull()) continue;
-        if (const char* expected = decodeField(v, c, f.member)) {
+        std::optional<Mismatch> wrong = decodeField(v, c, f.member);
+        if (!wrong) wrong = outOfBounds(v, f);
+        if (wrong) {
             if (error)
                 *error = QStringLiteral("%1: expected %2, found %3")
-                             .arg(QLatin1String(f.key), QLatin1String(expected), typeName(v));
+                             .arg(QLatin1String(f.key), wrong->expected, wrong->found);
             return std::nullopt;
         }
     }

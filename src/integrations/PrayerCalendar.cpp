@@ -1,5 +1,6 @@
 #include "integrations/PrayerCalendar.h"
 #include "engine/LocalTime.h"
+#include "engine/LockWindow.h"
 #include "engine/Schedule.h"
 #include "platform/Platform.h"
 #include "records/Log.h"
@@ -8,18 +9,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
-#include <cmath>
 
 namespace tarvanel::PrayerCalendar {
 namespace {
 
 constexpr qint64 kDay = 86400;
-
-// Minutes as milliseconds; a hand-edited length that is no usable number counts as none.
-std::optional<qint64> minutesMs(double minutes) {
-    if (!std::isfinite(minutes) || std::fabs(minutes) > 1e6) return std::nullopt;
-    return qint64(std::llround(minutes * 60000.0));
-}
 
 bool grantAccess() {
     const QString root = rootPath();
@@ -89,8 +83,7 @@ void requestAccess(Platform& platform, std::function<void(bool)> completion) {
 QList<BusyEvent> plannedEvents(const Config& cfg, const QDateTime& now) {
     QList<BusyEvent> events;
     const QDateTime start = startOfLocalDay(now);
-    const auto leadMs = minutesMs(cfg.leadMinutes());
-    if (!start.isValid() || !leadMs) return events;
+    if (!start.isValid()) return events;
     for (int i = 0; i < 7; ++i) {
         // One hour into the day keeps a day that starts at 01:00 after a clock change whole.
         const EffectiveTimes day = effectiveTimes(start.addSecs(i * kDay + 3600), cfg);
@@ -98,12 +91,13 @@ QList<BusyEvent> plannedEvents(const Config& cfg, const QDateTime& now) {
             const auto lockTime = day.final.value(name);
             if (!lockTime) continue;
             const bool jumuah = day.jumuah && name == QLatin1String("Dhuhr");
-            const auto lengthMs = minutesMs(jumuah ? cfg.jumuahLock() : cfg.lockMinutes);
-            if (!lengthMs) continue;
+            // The event is the lock itself: same start, same bounded length.
+            const LockWindow window = lockWindow(*lockTime, name, day.jumuah, cfg);
+            if (!window.start.isValid()) continue;
             BusyEvent e;
             e.title = (jumuah ? QStringLiteral("Jumu'ah") : name) + QStringLiteral(" (prayer)");
-            e.start = lockTime->addMSecs(-*leadMs);
-            e.end = e.start.addMSecs(*lengthMs);
+            e.start = window.start;
+            e.end = window.end;
             if (e.end <= now) continue; // nothing for locks already over
             events << e;
         }

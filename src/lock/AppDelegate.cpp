@@ -101,7 +101,24 @@ bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
     config_ = loadConfig();
     today_.invalidate();
     logLine(QStringLiteral("Tarvanel: config reloaded"));
+    if (stamp.exists && !lastConfigError() && platform_.settingsWindowOpen())
+        platform_.settingsFileChanged(config_);
     return true;
+}
+
+// A hand edit that does not decode while good settings run: said on screen once per distinct
+// error (a fixed file forgets it), and not over a lock, whose end it then waits for.
+void AppDelegate::noticeConfigError() {
+    const std::optional<QString>& error = lastConfigError();
+    if (!error || !lastGoodConfig()) {
+        configErrorNoticed_.clear();
+        return;
+    }
+    if (*error == configErrorNoticed_ || session_.isLocked()) return;
+    configErrorNoticed_ = *error;
+    reminders_.showBanner(QStringLiteral("⚠️  config.json can't be used (") + *error +
+                              QStringLiteral("). Tarvanel keeps the last good settings."),
+                          std::nullopt, BannerStyle::urgent);
 }
 
 void AppDelegate::applyConfig(const Config& cfg) {
@@ -169,12 +186,12 @@ void AppDelegate::setStatusTitle(const QString& title, TitleColor color) {
 }
 
 void AppDelegate::updateStatusTitle(const QDateTime& now) {
-    const std::optional<Title> title = tarvanel::statusTitle(TitleView{
-        now, today_.times(),
-        session_.isLocked() ? std::optional<QString>(session_.prayer()) : std::nullopt,
-        combiningPrayers(now), today_.jumuah(),
-        today_.ramadan() && config_.isOn(config_.ramadanMode, true), config_.leadMinutes(),
-        [this, &now] { return today_.tomorrowsFajr(now, activeConfig()); }});
+    const std::optional<Title> title = tarvanel::statusTitle(
+        TitleView{now, today_.times(), config_,
+                  session_.isLocked() ? std::optional<QString>(session_.prayer()) : std::nullopt,
+                  combiningPrayers(now), today_.jumuah(),
+                  today_.ramadan() && config_.isOn(config_.ramadanMode, true),
+                  [this, &now] { return today_.tomorrowsFajr(now, activeConfig()); }});
     if (title) setStatusTitle(title->text, title->color);
 }
 

@@ -121,6 +121,7 @@ private:
     // `clock`, or the system clock should someone clear it.
     QDateTime currentTime() const { return clock ? clock() : systemNow(); }
     bool reloadIfChanged(const FileStamp& stamp);
+    void noticeConfigError();
     // Today's schedule for `now`; on a new day, keys of other days are dropped.
     const DayTimes& scheduleFor(const QDateTime& now);
     bool combiningPrayers(const QDateTime& now) const;
@@ -148,8 +149,9 @@ private:
     std::optional<DeferredLock> deferred_;
     std::optional<StrictPending> strict_;
     bool focusOn_ = false;
-    QString calendarSyncedDay_; // the day the calendar was last filled; cleared by an import
-    QString configErrorShown_;  // the never-valid settings error the window was opened for
+    QString calendarSyncedDay_;  // the day the calendar was last filled; cleared by an import
+    QString configErrorShown_;   // the never-valid settings error the window was opened for
+    QString configErrorNoticed_; // the last bad hand edit the banner named
 
     std::optional<double> testLockSeconds_;
     bool testNudge_ = false;

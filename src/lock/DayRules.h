@@ -1,6 +1,6 @@
 #pragma once
-// How a prayer is named and how long it locks on a given day: Jumu'ah stands for Dhuhr on a
-// Jumu'ah day, and while travelling Dhuhr takes Asr and Maghrib takes Isha (never on Jumu'ah).
+// How a prayer is named on a given day: Jumu'ah stands for Dhuhr on a Jumu'ah day, and while
+// travelling Dhuhr takes Asr and Maghrib takes Isha (never on Jumu'ah).
 #include "engine/Config.h"
 
 #include <QString>
@@ -24,12 +24,6 @@ inline QString lockName(const QString& name, bool combining, bool jumuah) {
     if (combining && dhuhr) return name + QStringLiteral(" & Asr");
     if (combining && name == QLatin1String("Maghrib")) return name + QStringLiteral(" & Isha");
     return name;
-}
-
-// Minutes.
-inline double lockDuration(const QString& name, bool jumuah, const Config& cfg) {
-    if (name == QLatin1String("Dhuhr") && jumuah) return cfg.jumuahLock();
-    return cfg.lockLength();
 }
 
 } // namespace tarvanel

@@ -1,6 +1,7 @@
 #include "lock/Reminders.h"
 
 #include "engine/LocalTime.h"
+#include "engine/LockWindow.h"
 #include "engine/Quotes.h"
 #include "records/History.h"
 
@@ -66,8 +67,8 @@ void Reminders::checkTarawih(const Config& cfg, const QDateTime& now, const QStr
     if (!cfg.isOn(cfg.ramadanMode, true)) return;
     const std::optional<QDateTime> isha = times.value(u"Isha");
     if (!isha || !isha->isValid()) return;
-    const QDateTime at =
-        isha->addMSecs(qint64((-cfg.leadMinutes() + cfg.lockLength()) * 60000.0) + 120000);
+    // Two minutes after Isha's lock window closes.
+    const QDateTime at = lockWindow(*isha, QStringLiteral("Isha"), false, cfg).end.addSecs(120);
     if (now < at) return;
     const QString key = dayKey + QStringLiteral("-Tarawih");
     if (firedNudges.contains(key)) return;

@@ -13,8 +13,8 @@
 namespace tarvanel {
 
 struct Nudge {
-    QString prayer; // display name
-    int minutesLeft = 0;
+    QString prayer;      // display name
+    int minutesLeft = 0; // to the lock's start
     double offset = 0;
 };
 
@@ -33,13 +33,11 @@ struct PrayerDecision {
 };
 
 // Walks the prayers of `today` in order, skipping those in `completedLocks` and, while
-// `combining`, the ones prayed with a partner. Every reminder whose moment has come enters
-// `firedNudges`; it is shown only when less than 90 s late.
+// `combining`, the ones prayed with a partner. A reminder is due its offset before the lock
+// window opens; once its moment has come it enters `firedNudges`, and it is shown only when
+// less than 90 s late and the window has not opened yet.
 PrayerDecision decidePrayers(const TodaySchedule& today, const Config& cfg, const QDateTime& now,
                              bool combining, const QSet<QString>& completedLocks,
                              QSet<QString>& firedNudges);
-
-// Minutes as whole milliseconds.
-qint64 minutesMs(double minutes);
 
 } // namespace tarvanel

@@ -1,6 +1,7 @@
 // The one-second tick, the single decision point of the running program, and the road of a
 // lock from its start to what its end records.
 #include "app/Agent.h"
+#include "engine/LockWindow.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
@@ -33,6 +34,7 @@ void AppDelegate::tick() {
         }
         return;
     }
+    noticeConfigError();
     // 2–4. Keep the schedule and its inputs current: one stat each for the settings and the
     // pause/travel file; the calendar once a day (never in a dry run).
     travel_->check(config_, now);
@@ -83,7 +85,7 @@ void AppDelegate::tick() {
         deferred_.reset();
         const bool jumuah = today_.jumuah();
         startDueLock(d, combiningPrayers(now) ? combinedPartner(d.prayer, jumuah) : std::nullopt,
-                     now.addMSecs(minutesMs(lockDuration(d.prayer, jumuah, config_))));
+                     now.addMSecs(minutesMs(lockLengthMinutes(d.prayer, jumuah, config_))));
         updateStatusTitle(now);
         return;
     }

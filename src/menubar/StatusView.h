@@ -38,10 +38,10 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
 struct TitleView {
     const QDateTime& now;
     const DayTimes& times;
+    const Config& config;              // the lock window of each prayer, for the colours
     std::optional<QString> lockPrayer; // a running lock's display name
     bool combining = false, jumuah = false;
     bool iftar = false; // Ramadan with its reminders on: Maghrib reads "Iftar"
-    double leadMinutes = 5;
     std::function<std::optional<QDateTime>()> tomorrowsFajr; // asked only after Isha
 };
 struct Title {

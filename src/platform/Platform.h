@@ -91,6 +91,9 @@ public:
     virtual void openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
                                     PrayerSettingsActions actions) = 0;
     virtual bool settingsWindowOpen() const = 0;
+    // config.json changed on disk and decoded to `config`: an open settings window shows it,
+    // or says the file changed when the user has edits of their own there.
+    virtual void settingsFileChanged(const Config& config) = 0;
     // The timetable import window (a fresh one; an open one closes first), with `file` read
     // at once when it is not empty. `used` runs after the chosen days were merged into
     // timetable.json, before the window closes.

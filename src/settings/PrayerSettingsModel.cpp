@@ -4,6 +4,7 @@
 #include "engine/CalcMethods.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
+#include "engine/LockWindow.h"
 #include "guardian/Guardian.h"
 #include "lock/Presence.h"
 #include "timetable/Timetable.h"
@@ -65,7 +66,18 @@ PrayerSettingsModel::PrayerSettingsModel(const Config& config, bool firstRun,
     : QObject(parent), firstRun_(firstRun), base_(config), services_(std::move(services)) {
     if (!services_.clock) services_.clock = systemNow;
     if (!services_.localZone) services_.localZone = [] { return QTimeZone::systemTimeZone(); };
-    const Config& c = base_;
+    load(base_);
+    if (const auto adhan = adhanFileURL()) adhanName_ = QFileInfo(*adhan).fileName();
+    timetableSummary_ = Timetable::summary();
+    guardianSet_ = Guardian::isSet();
+    if (services_.calendarAuthorized && services_.calendarAuthorized()) loadCalendars();
+    timetableObserver_ = connect(&timetableChangedNote(), &TimetableChangedNote::posted, this,
+                                 &PrayerSettingsModel::refreshTimetable);
+}
+
+// The fields that come from the settings record; the form's own state (search, guardian
+// draft, calendars) is left as it is.
+void PrayerSettingsModel::load(const Config& c) {
     const QDateTime at = now();
     locationName_ = c.locationName;
     latitude_ = c.latitude;
@@ -101,6 +113,7 @@ PrayerSettingsModel::PrayerSettingsModel(const Config& config, bool firstRun,
 
     const DayTimes waqt = firstRun_ ? DayTimes{} : effectiveTimes(at, c).waqt;
     const QMap<QString, QString> overrides = c.prayerOverrides.value_or(QMap<QString, QString>{});
+    rows_.clear();
     for (const QString& name : prayerNames()) {
         PrayerTimeRow row;
         row.name = name;
@@ -111,13 +124,27 @@ PrayerSettingsModel::PrayerSettingsModel(const Config& config, bool firstRun,
         if (overrides.contains(name)) applyRule(row, overrides.value(name), at);
         rows_ << row;
     }
+    loaded_ = makeConfig();
+}
 
-    if (const auto adhan = adhanFileURL()) adhanName_ = QFileInfo(*adhan).fileName();
-    timetableSummary_ = Timetable::summary();
-    guardianSet_ = Guardian::isSet();
-    if (services_.calendarAuthorized && services_.calendarAuthorized()) loadCalendars();
-    timetableObserver_ = connect(&timetableChangedNote(), &TimetableChangedNote::posted, this,
-                                 &PrayerSettingsModel::refreshTimetable);
+bool PrayerSettingsModel::hasUnsavedEdits() const {
+    return makeConfig() != loaded_;
+}
+
+bool PrayerSettingsModel::fileChanged(const Config& config) {
+    if (hasUnsavedEdits()) {
+        setFileNotice(QStringLiteral("The settings file changed while this window was open. Save "
+                                     "keeps what you see here; Cancel keeps the file's settings."));
+        return false;
+    }
+    base_ = config;
+    configProblem_.clear();
+    load(base_);
+    setFileNotice({});
+#define TARVANEL_FIELD_CHANGED(Type, name, Name) emit changed(Field::name);
+    TARVANEL_SETTINGS_FIELDS(TARVANEL_FIELD_CHANGED)
+#undef TARVANEL_FIELD_CHANGED
+    return true;
 }
 
 PrayerSettingsModel::~PrayerSettingsModel() {
@@ -197,7 +224,6 @@ QList<PreviewEntry> PrayerSettingsModel::preview() const {
     if (!hasLocation()) return out;
     const Config cfg = makeConfig();
     const EffectiveTimes eff = effectiveTimes(now(), cfg);
-    const double lead = cfg.leadMinutes();
     for (const QString& name : dayRowNames()) {
         const auto start = eff.waqt.value(name);
         if (!start) continue;
@@ -207,7 +233,7 @@ QList<PreviewEntry> PrayerSettingsModel::preview() const {
         e.start = *start;
         if (name != QLatin1String("Sunrise")) {
             if (const auto fin = eff.final.value(name))
-                e.lock = fin->addMSecs(qint64(std::llround(-lead * 60000.0)));
+                e.lock = lockWindow(*fin, name, eff.jumuah, cfg).start;
         }
         out << e;
     }

@@ -66,7 +66,8 @@ struct PreviewEntry {
     X(bool, guardianSet, GuardianSet)                                                              \
     X(std::optional<QByteArray>, guardianDraft, GuardianDraft)                                     \
     X(QString, guardianCode, GuardianCode)                                                         \
-    X(QString, guardianMessage, GuardianMessage)
+    X(QString, guardianMessage, GuardianMessage)                                                   \
+    X(QString, fileNotice, FileNotice)
 
 class PrayerSettingsModel : public QObject {
     Q_OBJECT
@@ -115,6 +116,12 @@ public:
         services_.stopSound = std::move(stop);
     }
 
+    // The form differs from the settings it was made from.
+    bool hasUnsavedEdits() const;
+    // config.json changed on disk and decoded to `config`. A form without the user's edits
+    // shows it (true); one with edits keeps them and sets fileNotice (false).
+    bool fileChanged(const Config& config);
+
     bool hasLocation() const {
         return latitude_ != 0 || longitude_ != 0;
     }
@@ -153,6 +160,7 @@ signals:
 private:
     void answerSearch(const QString& query, const QList<GeoPlace>& places);
     void refreshTimetable();
+    void load(const Config& config);
     QDateTime now() const {
         return services_.clock();
     }
@@ -164,6 +172,7 @@ private:
     QString configProblem_;
     bool firstRun_ = false;
     Config base_;
+    Config loaded_; // makeConfig() right after the last load
     SettingsServices services_;
     QMetaObject::Connection timetableObserver_;
 };

@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QFile>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -118,7 +119,8 @@ TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxTheAnswersAndTheDatesMinimum) {
     ASSERT_EQ(buttons.size(), 3);
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(buttons[i]->text(), request.buttons[i]);
-    EXPECT_EQ(box->defaultButton(), buttons[0]);
+    // A destructive first button is never the default: Return takes the way out.
+    EXPECT_EQ(box->defaultButton(), buttons[2]);
     ASSERT_NE(box->checkBox(), nullptr);
     EXPECT_FALSE(box->checkBox()->isChecked());
 
@@ -132,6 +134,27 @@ TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxTheAnswersAndTheDatesMinimum) {
     runAnswered(*box, [&] { box->reject(); });
     EXPECT_EQ(alertAnswer(*box).response, 1002);
     box->hide();
+    auto press = [](QMessageBox& question, Qt::Key key) {
+        return runAnswered(question, [&question, key] {
+            QWidget* target = question.focusWidget() ? question.focusWidget() : &question;
+            QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+            QApplication::sendEvent(target, &down);
+        });
+    };
+    // The uninstall question as asked: Return cancels, and so does Enter.
+    const AlertRequest uninstall{"Uninstall Tarvanel?", "…", {"Uninstall", "Cancel"}, "", true};
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto question = buildAlert(uninstall);
+        press(*question, key);
+        ASSERT_NE(question->clickedButton(), nullptr) << key;
+        EXPECT_EQ(question->clickedButton()->text(), "Cancel");
+        EXPECT_EQ(alertAnswer(*question).response, 1001);
+    }
+    // An ordinary question keeps its first button as the default.
+    auto ordinary = buildAlert({"Did you pray Asr?", {}, {"Yes, I Prayed", "Not Yet"}, {}, false});
+    EXPECT_EQ(ordinary->defaultButton()->text(), "Yes, I Prayed");
+    press(*ordinary, Qt::Key_Return);
+    EXPECT_EQ(alertAnswer(*ordinary).response, 1000);
 
     // A date question never goes earlier than its minimum.
     const QDate minimum(2026, 3, 10);

@@ -107,3 +107,47 @@ TEST_F(ConfigTest, SaveRoundTripsEveryFieldLeavesOutAbsentOnesAndNeverWritesNonF
     saveConfig(c);
     EXPECT_EQ(*readWholeFile(configURL()), before);
 }
+
+// A coordinate outside the Earth fails the decode like a wrong type; the bounds themselves
+// are places. Every error names the expected value and what was found.
+TEST_F(ConfigTest, CoordinatesOutsideTheEarthAndMixedArraysAreNamedInTheError) {
+    struct Case {
+        const char* json;
+        const char* error; // nullptr: decodes
+    };
+    const Case cases[] = {
+        {R"({"latitude": 90, "longitude": -180})", nullptr},
+        {R"({"latitude": -90, "longitude": 180})", nullptr},
+        {"{\n\"latitude\": 95}", "line 2: latitude: expected a number from -90 to 90, found 95"},
+        {R"({"latitude": -90.0001})",
+         "line 1: latitude: expected a number from -90 to 90, found -90.0001"},
+        {R"({"longitude": 180.5})",
+         "line 1: longitude: expected a number from -180 to 180, found 180.5"},
+        {R"({"longitude": -1e300})",
+         "line 1: longitude: expected a number from -180 to 180, found -1e+300"},
+        {R"({"nudgeOffsetsMinutes": [20, 10, "5", 2]})",
+         "line 1: nudgeOffsetsMinutes: expected an array of numbers, found an array with text at "
+         "position 3"},
+        {R"({"nudgeOffsetsMinutes": [null]})",
+         "line 1: nudgeOffsetsMinutes: expected an array of numbers, found an array with null at "
+         "position 1"},
+        {R"({"nudgeOffsetsMinutes": "20"})",
+         "line 1: nudgeOffsetsMinutes: expected an array of numbers, found text"},
+        {R"({"prayerOverrides": {"Fajr": "+5", "Isha": [1]}})",
+         "line 1: prayerOverrides: expected an object of texts, found an object with an array at "
+         "\"Isha\""},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.json);
+        writeSupportFile("config.json", c.json);
+        const Config loaded = loadConfig();
+        if (!c.error) {
+            EXPECT_FALSE(lastConfigError().has_value());
+            EXPECT_EQ(lastGoodConfig(), loaded);
+            continue;
+        }
+        EXPECT_EQ(lastConfigError(), c.error);
+        EXPECT_EQ(loaded.latitude, -90); // the last good settings stay
+        EXPECT_EQ(loaded.longitude, 180);
+    }
+}

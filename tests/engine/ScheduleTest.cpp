@@ -1,5 +1,6 @@
 #include "engine/Schedule.h"
 #include "engine/LocalTime.h"
+#include "engine/LockWindow.h"
 #include "engine/PrayerTimes.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
@@ -123,4 +124,28 @@ TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverrideButATimetabl
     EXPECT_TRUE(f.jumuah);
     EXPECT_EQ(clock(f.final.value("Dhuhr")), "13:10");
     EXPECT_EQ(clock(f.final.value("Maghrib")), "18:22");
+}
+
+// A lock window opens the lead before the lock time and lasts the bounded length: Jumu'ah's
+// only for Dhuhr on a Jumu'ah day. Whole milliseconds, rounded once.
+TEST_F(ScheduleTest, LockWindowIsTheLeadBeforeTheLockTimeForTheBoundedLength) {
+    const QDateTime one = tuesday.addSecs(13 * 3600);
+    auto window = [&](const QString& prayer, bool jumuah) {
+        const LockWindow w = lockWindow(one, prayer, jumuah, cfg);
+        return QStringList{clock(w.start), clock(w.end)};
+    };
+    EXPECT_EQ(window("Dhuhr", false), QStringList({"12:55", "13:10"}));
+    EXPECT_EQ(window("Dhuhr", true), QStringList({"12:55", "13:40"}));
+    EXPECT_EQ(window("Asr", true), QStringList({"12:55", "13:10"}));
+    cfg.lockMinutes = 500;
+    cfg.jumuahLockMinutes = 0;
+    cfg.lockLeadMinutes = 0.5;
+    EXPECT_EQ(lockWindow(one, "Isha", false, cfg).start, one.addSecs(-30));
+    EXPECT_EQ(window("Isha", false), QStringList({"12:59", "15:59"}));
+    EXPECT_EQ(window("Dhuhr", true), QStringList({"12:59", "13:00"}));
+    cfg.lockLeadMinutes = 0.6 / 60000; // 0.6 ms rounds to one
+    const LockWindowMs ms = lockWindowMs(1000, "Fajr", false, cfg);
+    EXPECT_EQ(ms.start, 999);
+    EXPECT_EQ(ms.end, 999 + 180 * 60000);
+    EXPECT_FALSE(lockWindow(QDateTime(), "Fajr", false, cfg).start.isValid());
 }

@@ -81,6 +81,9 @@ TEST_F(TimesCommandTest, StandardErrorSaysWhenTheTimesAreNotForTheUsersSettings)
         {"London", R"({"locationName": "London", "latitude": 51.5072, "longitude": -0.1276})", "",
          ""},
         {"not an object", "[1]", none.out, "tarvanel: config.json is invalid (the top level"},
+        {"north of the pole", R"({"latitude": 95, "longitude": 10})", none.out,
+         "tarvanel: config.json is invalid (line 1: latitude: expected a number from -90 to 90, "
+         "found 95); printing the default settings' times\n"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);

@@ -156,3 +156,22 @@ TEST_F(CalendarTest, AccessIsAskedLaterAndGivesACalendarToChoose) {
     EXPECT_EQ(shown,
               Rows({"M (a) a/y", "Z (a) a/z", "A (b) b/x", "Prayer times (local) local/prayer"}));
 }
+
+// Each busy event is the lock itself: a hand-edited 500-minute lock locks, and blocks, 180.
+TEST_F(CalendarTest, EventsAreTheLockWindowsWithTheBoundedLengths) {
+    Config cfg = weekConfig();
+    cfg.lockMinutes = 500;
+    cfg.jumuahLockMinutes = 30;
+    cfg.lockLeadMinutes = 7;
+    const auto events = PrayerCalendar::plannedEvents(cfg, kTuesday2pm);
+    ASSERT_FALSE(events.isEmpty());
+    EXPECT_EQ(events[0].title, "Dhuhr (prayer)"); // 13:13 to 16:13, not over at 14:00
+    EXPECT_EQ(events[0].start, kTuesday2pm.addSecs(-47 * 60));
+    int jumuah = 0;
+    for (const auto& e : events) {
+        const bool friday = e.title == "Jumu'ah (prayer)";
+        jumuah += friday;
+        EXPECT_EQ(e.start.secsTo(e.end), (friday ? 30 : 180) * 60) << e.title.toStdString();
+    }
+    EXPECT_EQ(jumuah, 1);
+}

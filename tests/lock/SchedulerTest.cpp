@@ -21,28 +21,62 @@ Config with(std::function<void(Config&)> change, Config cfg = fixedTimesConfig()
     return cfg;
 }
 
+// Ticks half a second after each whole second, as a real timer falls: every reminder counts
+// down to the lock's start at 12:55 and shows before it; the title's colours follow that moment.
 TEST_F(SchedulerTest, RoadOfDhuhrToTheSecond) {
-    DaySimulator sim(fixedTimesConfig(), at("12:30"));
+    DaySimulator sim(fixedTimesConfig(), at("12:30:00.5"));
     sim.runUntil(at("13:20"), [&] {
-        if (sim.now > at("12:55") && sim.now < at("13:10")) {
+        if (sim.now < at("12:55")) {
+            const qint64 toStart = sim.now.msecsTo(at("12:55"));
+            EXPECT_EQ(sim.platform.titleColor, toStart <= 300000    ? TitleColor::Red
+                                               : toStart <= 1200000 ? TitleColor::Orange
+                                                                    : TitleColor::Label);
+            EXPECT_FALSE(sim.platform.lockWindowsUp);
+        } else if (sim.now < at("13:10")) {
             EXPECT_TRUE(sim.platform.lockWindowsUp);
             EXPECT_EQ(sim.platform.title, "🕌 Dhuhr");
             EXPECT_EQ(sim.platform.titleColor, TitleColor::Label);
         }
     });
-    // The 12:55 banner is closed by the lock that starts in the same tick; 12:58 is inside it.
     EXPECT_EQ(sim.timeline(),
               QStringList({
-                  "12:40:00 banner: 🕌  Dhuhr in 21 minutes — begin wrapping up.",
-                  "12:50:00 banner: 🕌  Dhuhr in 11 minutes. Start finishing up.",
-                  "12:55:00 banner: 🕌  Dhuhr in 6 minutes. Save your work now.",
+                  "12:35:00 banner: 🕌  Dhuhr in 20 minutes — begin wrapping up.",
+                  "12:45:00 banner: 🕌  Dhuhr in 10 minutes. Start finishing up.",
+                  "12:50:00 banner: 🕌  Dhuhr in 5 minutes. Save your work now.",
+                  "12:53:00 banner: 🕌  Dhuhr in 2 min — the screen is about to lock. Go make "
+                  "wudu.",
                   "12:55:00 lock: Dhuhr",
                   "13:10:00 unlock",
               }));
-    EXPECT_EQ(sim.platform.sounds, QStringList({"Glass", "Glass", "Glass", "Blow", "Glass"}));
+    EXPECT_EQ(sim.platform.banners.last().style, BannerStyle::urgent);
+    EXPECT_EQ(sim.platform.sounds,
+              QStringList({"Glass", "Glass", "Glass", "Sosumi", "Blow", "Glass"}));
     EXPECT_TRUE(sim.logs.contains("Tarvanel: locked for Dhuhr until 2026-01-14 13:10:00 +0000"));
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
     EXPECT_EQ(loadCompletedLocks(), QSet<QString>{"2026-01-14-Dhuhr"});
+}
+
+// "Dhuhr in 10 minutes" is due on the millisecond ten minutes before the screens go dark, with
+// any lead, and a reminder never shows once the window is open.
+TEST_F(SchedulerTest, ReminderIsDueItsOffsetBeforeTheLockStarts) {
+    for (const double lead : {5.0, 0.0, 12.0}) {
+        SCOPED_TRACE(lead);
+        wipeScratchHome();
+        const QDateTime start = at("13:00").addMSecs(-qint64(lead * 60000));
+        DaySimulator sim(with([&](Config& c) { c.lockLeadMinutes = lead; }),
+                         start.addMSecs(-600001));
+        EXPECT_EQ(sim.platform.banners.size(), 0); // launched 1 ms early: nothing yet
+        sim.step(0.002);
+        ASSERT_EQ(sim.platform.banners.size(), 1);
+        EXPECT_EQ(sim.platform.banners[0].message,
+                  "🕌  Dhuhr in 10 minutes. Start finishing up.");
+        sim.runUntil(start.addMSecs(1));
+        EXPECT_EQ(sim.platform.lockShows.size(), 1);
+        EXPECT_EQ(sim.times("banner:"),
+                  QStringList({formatLocal(start.addSecs(-600), "HH:mm:ss"),
+                               formatLocal(start.addSecs(-300), "HH:mm:ss"),
+                               formatLocal(start.addSecs(-120), "HH:mm:ss")}));
+    }
 }
 
 // An ordinary day and both days with a clock change lock at the same wall-clock times.
@@ -56,7 +90,7 @@ TEST_F(SchedulerTest, WholeDaysLockEachPrayerOnceAndAskAboutCallsOnlyWhenDue) {
         EXPECT_EQ(sim.timeline("lock:"),
                   QStringList({"06:25:00 lock: Fajr", "12:55:00 lock: Dhuhr", "14:55:00 lock: Asr",
                                "18:25:00 lock: Maghrib", "20:25:00 lock: Isha"}));
-        EXPECT_EQ(sim.whats("banner: 🕌").size(), 15); // the 2-minute one is in the lock
+        EXPECT_EQ(sim.whats("banner: 🕌").size(), 20); // all four before each lock
         EXPECT_EQ(loadHistory().value(dayKey(day)),
                   QStringList({"Fajr", "Dhuhr", "Asr", "Maghrib", "Isha"}));
         EXPECT_EQ(sim.platform.title, "🕌 Fajr at 6:30 AM");
@@ -66,16 +100,19 @@ TEST_F(SchedulerTest, WholeDaysLockEachPrayerOnceAndAskAboutCallsOnlyWhenDue) {
 
 TEST_F(SchedulerTest, SleepBeforeInsideAndAfterAWindow) {
     DaySimulator sim(fixedTimesConfig(), at("06:00"));
-    sim.sleepUntil(at("06:22")); // wakes before Fajr's window: only the old reminders are skipped
+    // Wakes before Fajr's window opens at 06:25: only the reminders over 90 s old are skipped.
+    sim.sleepUntil(at("06:18:30.5"));
     sim.runUntil(at("06:41"));
     EXPECT_EQ(sim.whats("banner:"),
-              QStringList{"banner: 🕌  Fajr in 6 minutes. Save your work now."});
+              QStringList(
+                  {"banner: 🕌  Fajr in 5 minutes. Save your work now.",
+                   "banner: 🕌  Fajr in 2 min — the screen is about to lock. Go make wudu."}));
 
     sim.sleepUntil(at("13:00:00")); // wakes 5 minutes into Dhuhr's window
     sim.step();
-    EXPECT_EQ(sim.whats("banner:").size(), 1); // every reminder is too old
+    EXPECT_EQ(sim.whats("banner:").size(), 2); // every reminder is too old
     sim.runUntil(at("13:11"));
-    EXPECT_EQ(sim.timeline("").mid(2),
+    EXPECT_EQ(sim.timeline("").mid(3),
               QStringList({"06:40:00 unlock", "13:00:01 lock: Dhuhr", "13:10:00 unlock"}));
 
     sim.sleepUntil(at("15:20")); // asleep across Asr's whole window
@@ -238,7 +275,10 @@ TEST_F(SchedulerTest, SettingsFileChangesRepeatNothingAndNeverLoseTheDay) {
     writeSupportFile("config.json", "{ not json");
     sim.runUntil(at("13:20"));
     EXPECT_EQ(sim.logsContaining("config reloaded").size(), 2);
-    EXPECT_EQ(sim.times("banner:"), QStringList({"12:40:00", "12:50:00", "12:55:00"}));
+    // The broken file is said on screen at the tick that reads it; the reminders go on.
+    EXPECT_EQ(sim.times("banner:"), QStringList({"12:45:00", "12:50:00", "12:50:01", "12:53:00"}));
+    EXPECT_TRUE(
+        sim.whats("banner:")[2].startsWith("banner: ⚠️  config.json can't be used (line 1: "));
     EXPECT_EQ(sim.times("unlock"), QStringList{"13:15:00"});
     QFile::remove(configURL());
     sim.runUntil(at("14:56"));

@@ -15,7 +15,7 @@ public:
     QList<QList<LockWindowContent>> lockShows; // every showLockWindows call
     bool lockWindowsUp = false, bannerUp = false, settingsFirstRun = false, settingsOpen = false;
     bool soundFilesPlay = true;
-    int raises = 0, closes = 0, activations = 0, settingsOpened = 0;
+    int raises = 0, closes = 0, activations = 0, settingsOpened = 0, settingsFileChanges = 0;
     QList<BannerContent> banners;
     QString title;
     TitleColor titleColor = TitleColor::Label;
@@ -97,6 +97,10 @@ public:
         importUsed = std::move(used);
     }
     bool settingsWindowOpen() const override { return settingsOpen; }
+    void settingsFileChanged(const Config& config) override {
+        ++settingsFileChanges;
+        if (settingsOpen && settingsModel) settingsModel->fileChanged(config);
+    }
     void post(std::function<void()> work) override { posted << std::move(work); }
     void singleShot(int ms, std::function<void()> work) override {
         timers.append({ms, std::move(work)});

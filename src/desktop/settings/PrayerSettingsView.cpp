@@ -49,7 +49,12 @@ PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> mode
         problem->setStyleSheet(QStringLiteral("color: #c62828;"));
         problem->setAccessibleName(text);
         column->addWidget(problem);
+        // A hand fix of the file reloads the form; the problem is then gone.
+        PrayerSettingsModel* m = model_.get();
+        watch(*m, problem, {Field::fileNotice, Field::latitude},
+              [m, problem] { problem->setVisible(!m->configProblem().isEmpty()); });
     }
+    column->addWidget(makeFileNotice());
 
     auto* scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
@@ -124,6 +129,22 @@ QWidget* PrayerSettingsView::makeHeader() {
     connect(minute, &QTimer::timeout, status, update);
     minute->start(30000);
     return header;
+}
+
+// Shown when config.json changes under edits the user has not saved.
+QWidget* PrayerSettingsView::makeFileNotice() {
+    auto* notice = new QLabel(this);
+    notice->setWordWrap(true);
+    notice->setContentsMargins(20, 6, 20, 6);
+    notice->setStyleSheet(QStringLiteral("color: #e65100;"));
+    notice->hide();
+    PrayerSettingsModel* m = model_.get();
+    watch(*m, notice, {Field::fileNotice}, [m, notice] {
+        notice->setText(m->fileNotice());
+        notice->setAccessibleName(m->fileNotice());
+        notice->setVisible(!m->fileNotice().isEmpty());
+    });
+    return notice;
 }
 
 QWidget* PrayerSettingsView::makeButtonBar() {

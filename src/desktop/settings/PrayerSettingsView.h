@@ -27,6 +27,7 @@ public:
 private:
     QWidget* makeHeader();
     QWidget* makeButtonBar();
+    QWidget* makeFileNotice();
     void closeWindow();
 
     std::unique_ptr<PrayerSettingsModel> model_;

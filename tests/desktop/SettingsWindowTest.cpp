@@ -172,6 +172,8 @@ TEST(SettingsWindow, WheelEscapePlaceListAndFocusScripts) {
     EXPECT_EQ(list->item(1)->text(), "Springfield, Illinois, United States");
     EXPECT_EQ(list->item(1)->data(Qt::AccessibleTextRole).toString(), list->item(1)->text());
     EXPECT_EQ(list->currentRow(), 0);
+    EXPECT_EQ(list->verticalScrollBar()->focusPolicy(), Qt::NoFocus); // Tab reaches the rows
+    wheel(list->verticalScrollBar());
     list->setFocus();
     QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
     QApplication::sendEvent(list, &down);

@@ -57,6 +57,7 @@ QWidget* makePhoneSection(SectionContext& c) {
     // The desktops a pair can be written for, this session's first.
     auto* desktop = new QComboBox;
     desktop->addItems(sv.focusDesktops);
+    desktop->setMaximumWidth(220);
     desktop->setCurrentIndex(std::max(0, int(sv.focusDesktops.indexOf(sv.focusDesktop))));
     const QString pickerLabel = QStringLiteral("Scripts for");
     s->addRow(pickerLabel, desktop);

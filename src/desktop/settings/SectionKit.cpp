@@ -166,10 +166,11 @@ protected:
         auto* control = qobject_cast<QWidget*>(watched);
         if (event->type() != QEvent::Wheel || !control || control->hasFocus()) return false;
         for (QWidget* up = control->parentWidget(); up; up = up->parentWidget()) {
-            if (auto* area = qobject_cast<QAbstractScrollArea*>(up)) {
+            auto* area = qobject_cast<QAbstractScrollArea*>(up);
+            if (!area) continue;
+            if (area->verticalScrollBar() != control)
                 QCoreApplication::sendEvent(area->verticalScrollBar(), event);
-                break;
-            }
+            break;
         }
         return true;
     }
@@ -180,8 +181,9 @@ protected:
 void holdWheelUntilFocused(QWidget* root) {
     auto* guard = new WheelGuard(root);
     for (QWidget* w : root->findChildren<QWidget*>()) {
-        if (!qobject_cast<QAbstractSpinBox*>(w) && !qobject_cast<QComboBox*>(w) &&
-            !qobject_cast<QAbstractSlider*>(w))
+        // A list's own scroll bars scroll it and stay out of the Tab order.
+        const bool slider = qobject_cast<QAbstractSlider*>(w) && !qobject_cast<QScrollBar*>(w);
+        if (!qobject_cast<QAbstractSpinBox*>(w) && !qobject_cast<QComboBox*>(w) && !slider)
             continue;
         w->setFocusPolicy(Qt::StrongFocus);
         w->installEventFilter(guard);

@@ -28,6 +28,7 @@ public:
     bool showBanner(const BannerContent&) override { return true; }
     void closeBanner() override {}
     void setStatusTitle(const QString&, TitleColor) override {}
+    bool announce(const QString&, const QString&) override { return false; }
     void playNamedSound(const QString&) override {}
     bool playSoundFile(const QString&) override { return false; }
     AlertAnswer showAlert(const AlertRequest&) override { return {}; }

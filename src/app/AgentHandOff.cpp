@@ -37,14 +37,12 @@ public:
         releaseInstanceLock(); // this copy only tested it
         if (isInApplicationsFolder()) return installHere();
         const QString info =
-            name +
-            QStringLiteral(" runs in the background and starts at login, so it has to "
-                           "live in your Applications folder.\nOn this computer that is "
-                           "~/.local/bin, with ") +
-            name + QStringLiteral(" added to your applications menu.");
-        if (ask({QStringLiteral("Move ") + name + QStringLiteral(" to Applications?"),
+            name + QStringLiteral(" runs in the background and starts at login, so it has to be "
+                                  "installed: copied to ~/.local/bin and added to your "
+                                  "applications menu.");
+        if (ask({QStringLiteral("Install ") + name + QStringLiteral(" in ~/.local/bin?"),
                  info,
-                 {QStringLiteral("Move to Applications"), QStringLiteral("Quit")},
+                 {QStringLiteral("Install"), QStringLiteral("Quit")},
                  {},
                  false}) == 1000)
             return moveToApplications();
@@ -99,16 +97,15 @@ private:
             if (out.ok) return end(0);
             QFile::remove(marker);
             logLine(QStringLiteral("Tarvanel: the login service did not start: ") + out.reason);
+            const QString unit = QLatin1String(appLabel) + QStringLiteral(".service");
             const QString info =
-                QStringLiteral("Turn ") + name +
-                QStringLiteral(" on in System Settings → General → Login Items & Extensions "
-                               "(under “Allow in the Background”), then open it again.\nOn this "
-                               "computer the login service is the systemd user unit ") +
-                QLatin1String(appLabel) + QStringLiteral(".service, and it did not start: ") +
-                out.reason + u'.';
+                name + QStringLiteral(" starts at login through the systemd user unit ") + unit +
+                QStringLiteral(", and it did not start: ") + out.reason +
+                QStringLiteral(".\nSee why with “systemctl --user status ") + unit +
+                QStringLiteral("”, then open ") + name + QStringLiteral(" again.");
             if (ask({name + QStringLiteral(" couldn't start in the background"),
                      info,
-                     {QStringLiteral("Open Login Items"), QStringLiteral("Quit")},
+                     {QStringLiteral("Open Service Folder"), QStringLiteral("Quit")},
                      {},
                      false}) == 1000)
                 platform_->openUrl(
@@ -125,10 +122,8 @@ private:
         if (QFileInfo::exists(destination)) QFile::moveToTrash(destination);
         if (!QFile::copy(exe, destination)) {
             ask({QStringLiteral("Couldn't copy ") + name + QStringLiteral(" to ") + folder,
-                 QStringLiteral("Drag ") + name +
-                     QStringLiteral(" into your Applications folder yourself, then open it from "
-                                    "there.\nOn this computer that means copying the program "
-                                    "into ~/.local/bin and opening it from there."),
+                 QStringLiteral("Copy ") + name +
+                     QStringLiteral(" into ~/.local/bin yourself, then open it from there."),
                  {QStringLiteral("OK")},
                  {},
                  false});

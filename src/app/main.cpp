@@ -36,7 +36,7 @@ static int runHandOff(int& argc, char** argv, const QString& importFile) {
     std::unique_ptr<QtPlatform> platform;
     if (display) {
         app = std::make_unique<QApplication>(argc, argv);
-        QApplication::setApplicationDisplayName(QStringLiteral("Tarvanel"));
+        QApplication::setApplicationName(QStringLiteral("Tarvanel"));
         platform = std::make_unique<QtPlatform>();
     } else {
         app = std::make_unique<QCoreApplication>(argc, argv);

@@ -44,7 +44,8 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     TimetableOCR::restartWithThreadLimit(argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarvanel"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Tarvanel"));
+    // No display name: Qt would append " — Tarvanel" to every window title that does not end
+    // with it ("Tarvanel Settings — Tarvanel").
     QApplication::setQuitOnLastWindowClosed(false);
 
     QtPlatform platform;

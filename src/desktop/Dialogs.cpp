@@ -4,9 +4,11 @@
 #include <QDateEdit>
 #include <QDir>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace tarvanel {
@@ -14,10 +16,22 @@ namespace tarvanel {
 namespace {
 void bringToFront(QWidget* w) {
     w->setWindowFlag(Qt::WindowStaysOnTopHint);
+    placeOnPrimaryScreen(w);
     w->raise();
     w->activateWindow();
 }
 } // namespace
+
+void placeOnPrimaryScreen(QWidget* window) {
+    QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen) return;
+    window->setScreen(screen);
+    window->adjustSize();
+    QRect frame(QPoint(), window->size());
+    frame.moveCenter(screen->availableGeometry().center());
+    // Moved by hand, a dialog keeps this place when it shows instead of following the pointer.
+    window->move(frame.topLeft());
+}
 
 std::unique_ptr<QMessageBox> buildAlert(const AlertRequest& request) {
     auto box = std::make_unique<QMessageBox>();

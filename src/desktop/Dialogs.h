@@ -16,7 +16,10 @@ namespace tarvanel {
 std::unique_ptr<QMessageBox> buildAlert(const AlertRequest& request);
 // 1000 + the index of the clicked button; cancelling (Escape, closing) answers the last button.
 AlertAnswer alertAnswer(const QMessageBox& box);
+// Every question opens in the middle of the primary screen, where the user looks first, not
+// on whichever monitor the pointer last crossed.
 AlertAnswer runAlert(const AlertRequest& request);
+void placeOnPrimaryScreen(QWidget* window);
 
 class DateQuestion : public QDialog {
     Q_OBJECT

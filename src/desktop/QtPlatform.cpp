@@ -105,6 +105,10 @@ void QtPlatform::setStatusTitle(const QString& title, TitleColor color) {
     tray_.setTitle(title, color);
 }
 
+bool QtPlatform::announce(const QString& title, const QString& text) {
+    return tray_.announce(title, text);
+}
+
 void QtPlatform::playNamedSound(const QString& name) {
     sounds_.playNamed(name);
 }
@@ -141,6 +145,10 @@ void QtPlatform::openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
     GeonamesGeocoder::warmUp(); // the city table loads while the user reads the window
     model->setSoundPlayer([this](const QString& path) { return sounds_.playFile(path); },
                           [this] { sounds_.stopFile(); });
+    if (!tray_.ensureCreated())
+        model->setHeaderNote(QStringLiteral(
+            "There's no tray on this desktop, so Tarvanel runs without an icon: it still locks "
+            "on time, and opening Tarvanel from the applications menu shows these settings."));
     const QString title = model->firstRun() ? QStringLiteral("Welcome to Tarvanel")
                                             : QStringLiteral("Tarvanel Settings");
     settings_.show(title, QSize(620, 780),

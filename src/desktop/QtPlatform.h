@@ -37,6 +37,7 @@ public:
     bool showBanner(const BannerContent& banner) override;
     void closeBanner() override;
     void setStatusTitle(const QString& title, TitleColor color) override;
+    bool announce(const QString& title, const QString& text) override;
     void playNamedSound(const QString& name) override;
     bool playSoundFile(const QString& path) override;
     AlertAnswer showAlert(const AlertRequest& request) override;

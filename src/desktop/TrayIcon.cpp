@@ -10,6 +10,7 @@
 #include <QPainterPath>
 #include <QRegularExpression>
 #include <QSystemTrayIcon>
+#include <utility>
 
 namespace tarvanel {
 
@@ -177,7 +178,24 @@ bool TrayIcon::ensureCreated() {
             });
     refreshIcon();
     icon_->show();
+    if (waiting_) {
+        const auto [title, text] = *std::exchange(waiting_, std::nullopt);
+        announce(title, text);
+    }
     return true;
+}
+
+bool TrayIcon::announce(const QString& title, const QString& text) {
+    if (!icon_ && !ensureCreated()) {
+        waiting_ = std::pair{title, text};
+        return false;
+    }
+    icon_->showMessage(title, text, QSystemTrayIcon::Information, 15000);
+    return true;
+}
+
+QString TrayIcon::waitingAnnouncement() const {
+    return waiting_ ? waiting_->first + QStringLiteral(": ") + waiting_->second : QString();
 }
 
 void TrayIcon::rebuildMenu() {

@@ -43,6 +43,11 @@ public:
     QMenu* menu() const { return menu_.get(); }
     // Rebuilds the menu from the model, as opening it does.
     void rebuildMenu();
+    // A notification from the icon: now when it exists, else kept (only the latest) until a
+    // tray host appears. True when shown now.
+    bool announce(const QString& title, const QString& text);
+    // The notification still waiting for a tray host, as "title: text"; empty when none.
+    QString waitingAnnouncement() const;
 
 private:
     void refreshIcon();
@@ -51,6 +56,7 @@ private:
     QSystemTrayIcon* icon_ = nullptr;
     std::unique_ptr<QMenu> menu_;
     QTimer retry_;
+    std::optional<std::pair<QString, QString>> waiting_; // title and text
     QString title_ = QStringLiteral("🕌");
     TitleColor color_ = TitleColor::Label;
 };

@@ -89,7 +89,15 @@ public:
     void startTravelling();
     void stopTravelling();
     void pauseLocks(int days);
+    // Inside a prayer's lock window it asks first, since resuming locks at once.
     void resumeLocks();
+    // "Next lock: Asr at 3:17 PM" (or Fajr tomorrow); empty when nothing is ahead.
+    QString nextLockText();
+    // After the first save: a tray notification saying where the program lives and what comes
+    // next, or a log line when there is no tray host.
+    void announceRunning();
+    // The display name of the lock whose window is open now, unless excused.
+    std::optional<QString> lockDueNow();
 
     // Read-only views of the state, for the desktop and for tests.
     bool isLocked() const { return session_.isLocked(); }

@@ -16,6 +16,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QUrl>
 
 namespace tarvanel {
@@ -106,31 +107,42 @@ void AppDelegate::openSettings() {
     services.runFocus = [self](bool on) {
         if (self) FocusShortcuts::run(on, self);
     };
-    // No Shortcuts app here: make the pair for this desktop when there is none, then show
-    // the folder so the user can read or change them.
+    // The scripts live in a folder of their own: the form writes a pair on request, and the
+    // file manager shows the folder so the user can read or change them.
     services.openShortcuts = [self] {
-        if (!FocusShortcuts::installed())
-            FocusShortcuts::createFor(FocusShortcuts::currentDesktop());
         QDir().mkpath(FocusShortcuts::folder());
         if (self) self->platform_.openUrl(QUrl::fromLocalFile(FocusShortcuts::folder()).toString());
+    };
+    services.focusFolder = FocusShortcuts::folder();
+    for (const FocusShortcuts::Template& t : FocusShortcuts::templates())
+        services.focusDesktops << t.desktop;
+    services.focusDesktop = FocusShortcuts::currentDesktop();
+    services.writeFocus = [](const QString& desktop) {
+        return FocusShortcuts::createFor(desktop) == FocusShortcuts::CreateResult::written;
     };
     services.playSound = [self](const QString& path) {
         return self && self->platform_.playSoundFile(path);
     };
 
     PrayerSettingsActions actions;
-    actions.save = [self](const Config& cfg) {
-        if (self) self->applyConfig(cfg);
+    const bool firstRun = !QFile::exists(configURL());
+    actions.save = [self, firstRun](const Config& cfg) {
+        if (!self) return;
+        self->applyConfig(cfg);
+        if (firstRun) self->announceRunning();
     };
-    actions.cancel = [] {};
+    actions.cancel = [firstRun] {
+        if (firstRun)
+            logLine(QStringLiteral("Tarvanel: not set up yet, so nothing locks; open Tarvanel "
+                                   "from the applications menu to set it up"));
+    };
     actions.previewLock = weak(&AppDelegate::previewLock);
     actions.uninstall = weak(&AppDelegate::uninstall);
     actions.exportHistory = weak(&AppDelegate::exportHistory);
     actions.importTimetable = [self] {
         if (self) self->openTimetableImport();
     };
-    auto model = std::make_unique<PrayerSettingsModel>(config_, !QFile::exists(configURL()),
-                                                       std::move(services));
+    auto model = std::make_unique<PrayerSettingsModel>(config_, firstRun, std::move(services));
     if (!lastGoodConfig() && lastConfigError()) model->setConfigProblem(*lastConfigError());
     platform_.openSettingsWindow(std::move(model), std::move(actions));
 }
@@ -148,7 +160,15 @@ void AppDelegate::exportHistory() {
     const std::optional<QString> path =
         platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
     if (!path) return;
-    writeFileAtomically(*path, historyCSV(config_, currentTime()).toUtf8());
+    const QString csv = historyCSV(config_, currentTime());
+    if (!writeFileAtomically(*path, csv.toUtf8())) return;   // the write logged why
+    const qsizetype rows = csv.count(QLatin1Char('\n')) - 1; // less the header line
+    AlertRequest done;
+    done.message = QStringLiteral("Exported ") + QLocale().toString(qlonglong(rows)) +
+                   (rows == 1 ? QStringLiteral(" prayer to ") : QStringLiteral(" prayers to ")) +
+                   *path;
+    done.buttons = {QStringLiteral("OK")};
+    platform_.showAlert(done);
 }
 
 void AppDelegate::uninstall() {
@@ -224,6 +244,15 @@ void AppDelegate::pauseLocks(int days) {
 }
 
 void AppDelegate::resumeLocks() {
+    if (const std::optional<QString> due = lockDueNow()) {
+        AlertRequest request;
+        request.message = *due + QStringLiteral("'s lock is due now: lock now?");
+        request.info = QStringLiteral("Resuming now turns every screen black at once. Cancel keeps "
+                                      "the pause.");
+        request.buttons = {QStringLiteral("Lock Now"), QStringLiteral("Cancel")};
+        platform_.activateApp();
+        if (platform_.showAlert(request).response != 1000) return;
+    }
     modes_.setPausedUntil(std::nullopt);
     logLine(QStringLiteral("Tarvanel: resumed"));
     tick();

@@ -15,7 +15,7 @@ struct MenuItem {
     bool enabled = false;
     int tag = 0;
     bool monospaced = false; // the seven-day grid rows: monospaced system font, 12 pt
-    QString shortcut;        // "," for Settings…
+    QString shortcut;        // "Ctrl+," for Settings…
     std::function<void()> action;
     QList<MenuItem> submenu; // non-empty: the item opens a submenu
 

@@ -37,6 +37,10 @@ MenuItem gridRow(const QString& text) {
 
 } // namespace
 
+QString gridLegend() {
+    return QStringLiteral("✓ prayed   q qada   – excused   · not kept");
+}
+
 MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands) {
     MenuModel menu;
     if (!view.setUp) {
@@ -133,6 +137,7 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
             formatLocal(day, QStringLiteral("ddd d")).leftJustified(7, u' ', true);
         menu << gridRow(label + QLatin1Char(' ') + cells.join(QLatin1Char(' ')));
     }
+    menu << MenuItem::info(gridLegend());
     menu << MenuItem::separator();
 
     // "Mark as Prayed".
@@ -181,7 +186,8 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
     }
     menu << MenuItem::command(QStringLiteral("Preview Lock (10 s)"), commands.previewLock);
     MenuItem settings = MenuItem::command(QStringLiteral("Settings…"), commands.openSettings);
-    settings.shortcut = QStringLiteral(",");
+    // Written out in full: a tray menu shows a bare "," as a lone comma.
+    settings.shortcut = QStringLiteral("Ctrl+,");
     menu << settings;
     return menu;
 }

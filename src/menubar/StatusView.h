@@ -33,6 +33,8 @@ struct StatusCommands {
 
 // Built each time the menu opens.
 MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands);
+// The disabled row under the seven-day grid that says what its marks mean.
+QString gridLegend();
 
 // The countdown title of a second in which no mode holds the title.
 struct TitleView {

@@ -71,6 +71,9 @@ public:
 
     // Status item. Dropped silently when there is no tray.
     virtual void setStatusTitle(const QString& title, TitleColor color) = 0;
+    // One notification from the status item, shown now or as soon as a tray host appears (a
+    // later one replaces one still waiting); false when there is no tray host now.
+    virtual bool announce(const QString& title, const QString& text) = 0;
 
     // Sounds: "Blow", "Glass", "Sosumi"; a file is false when it cannot be opened as a sound.
     virtual void playNamedSound(const QString& name) = 0;

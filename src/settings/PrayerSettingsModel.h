@@ -31,6 +31,7 @@ struct PreviewEntry {
     X(QString, query, Query)                                                                       \
     X(bool, searching, Searching)                                                                  \
     X(QString, searchMessage, SearchMessage)                                                       \
+    X(QList<GeoPlace>, places, Places)                                                             \
     X(QString, locationName, LocationName)                                                         \
     X(double, latitude, Latitude)                                                                  \
     X(double, longitude, Longitude)                                                                \
@@ -103,6 +104,14 @@ public:
     void setConfigProblem(const QString& problem) {
         configProblem_ = problem;
     }
+    // A line for the header about how the program runs on this desktop (no tray icon); empty
+    // when there is nothing to say.
+    const QString& headerNote() const {
+        return headerNote_;
+    }
+    void setHeaderNote(const QString& note) {
+        headerNote_ = note;
+    }
     const Config& base() const {
         return base_;
     }
@@ -130,6 +139,8 @@ public:
     QList<PreviewEntry> preview() const;
 
     void search();
+    // Uses one of `places` (several places of the searched name), as the search used the first.
+    void choosePlace(int index);
 
     // The desktop shows the open panel and hands the chosen file here.
     void useAdhanFile(const QString& path);
@@ -143,6 +154,8 @@ public:
     void checkFocus();
     void testFocus();
     void openShortcuts();
+    // Writes the pair of Focus scripts for `desktop`, says so in focusMessage and checks again.
+    void writeFocusScripts(const QString& desktop);
 
     void startGuardian();
     void cancelGuardian();
@@ -159,6 +172,9 @@ signals:
 
 private:
     void answerSearch(const QString& query, const QList<GeoPlace>& places);
+    void usePlace(const GeoPlace& place);
+    // On a first run: the country's method and Asr school, and the sentence that says so.
+    QString suggestMethod(const QString& countryCode);
     void refreshTimetable();
     void load(const Config& config);
     QDateTime now() const {
@@ -170,6 +186,10 @@ private:
 #undef TARVANEL_FIELD_MEMBER
 
     QString configProblem_;
+    // The method and school last suggested, and the ones that stood before it.
+    std::optional<std::pair<QString, bool>> suggested_;
+    std::pair<QString, bool> ownMethod_;
+    QString headerNote_;
     bool firstRun_ = false;
     Config base_;
     Config loaded_; // makeConfig() right after the last load
@@ -177,7 +197,12 @@ private:
     QMetaObject::Connection timetableObserver_;
 };
 
-// "Found " + locality (or name), area and country without repeats + ".".
+// Locality (or name), area and country without repeats, joined with ", ".
+QString placeLine(const GeoPlace& place);
+// "Found " + placeLine + ".".
 QString foundMessage(const GeoPlace& place);
+// The places of `places` (best first) that share the first one's name, one per line of
+// placeLine; empty unless there are at least two.
+QList<GeoPlace> sameNamePlaces(const QList<GeoPlace>& places);
 
 } // namespace tarvanel

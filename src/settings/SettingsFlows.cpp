@@ -3,6 +3,7 @@
 #include "engine/CalcMethods.h"
 #include "guardian/Guardian.h"
 #include "records/StateFiles.h"
+#include "settings/CitySearch.h"
 #include "settings/PrayerSettingsModel.h"
 
 #include <QCoreApplication>
@@ -35,12 +36,30 @@ void onMainThread(const QPointer<PrayerSettingsModel>& weak, std::function<void(
 
 } // namespace
 
-QString foundMessage(const GeoPlace& place) {
+QString placeLine(const GeoPlace& place) {
     QStringList parts;
     for (const QString& p : {place.locality.isEmpty() ? place.name : place.locality,
                              place.administrativeArea, place.country})
         if (!p.isEmpty() && !parts.contains(p)) parts << p;
-    return QStringLiteral("Found ") + parts.join(QStringLiteral(", ")) + QLatin1Char('.');
+    return parts.join(QStringLiteral(", "));
+}
+
+QString foundMessage(const GeoPlace& place) {
+    return QStringLiteral("Found ") + placeLine(place) + QLatin1Char('.');
+}
+
+QList<GeoPlace> sameNamePlaces(const QList<GeoPlace>& places) {
+    if (places.isEmpty()) return {};
+    const QString name = foldPlaceName(places.first().name);
+    QList<GeoPlace> same;
+    QStringList lines;
+    for (const GeoPlace& p : places) {
+        if (!p.hasLocation || foldPlaceName(p.name) != name || lines.contains(placeLine(p)))
+            continue;
+        same << p;
+        lines << placeLine(p);
+    }
+    return same.size() > 1 ? same : QList<GeoPlace>();
 }
 
 void PrayerSettingsModel::search() {
@@ -60,29 +79,51 @@ void PrayerSettingsModel::search() {
 void PrayerSettingsModel::answerSearch(const QString& text, const QList<GeoPlace>& places) {
     setSearching(false);
     if (places.isEmpty() || !places.first().hasLocation) {
+        setPlaces({});
         setSearchMessage(QStringLiteral("Couldn't find “") + text +
                          QStringLiteral("”. Check the spelling, or enter coordinates below."));
         return;
     }
-    const GeoPlace& place = places.first();
+    setPlaces(sameNamePlaces(places));
+    usePlace(places.first());
+}
+
+void PrayerSettingsModel::choosePlace(int index) {
+    if (index >= 0 && index < places_.size()) usePlace(places_[index]);
+}
+
+QString PrayerSettingsModel::suggestMethod(const QString& countryCode) {
+    const auto suggestion = suggestedMethods().constFind(countryCode.toUpper());
+    QString name;
+    if (suggestion != suggestedMethods().constEnd())
+        for (const CalcMethod& m : calcMethods())
+            if (m.id == suggestion->methodId) name = m.name;
+    const bool standing =
+        suggested_ && methodID_ == suggested_->first && hanafi_ == suggested_->second;
+    if (name.isEmpty()) {
+        // The last place's suggestion does not hold here; a method the user chose stays.
+        if (standing) {
+            setMethodID(ownMethod_.first);
+            setHanafi(ownMethod_.second);
+        }
+        suggested_.reset();
+        return QString();
+    }
+    if (!standing) ownMethod_ = {methodID_, hanafi_};
+    setMethodID(suggestion->methodId);
+    setHanafi(suggestion->hanafi);
+    suggested_ = std::pair{suggestion->methodId, suggestion->hanafi};
+    return QStringLiteral(" Suggested: ") + name +
+           (suggestion->hanafi ? QStringLiteral(", Hanafi Asr") : QString()) +
+           QStringLiteral(". Change it below if your mosque uses something else.");
+}
+
+void PrayerSettingsModel::usePlace(const GeoPlace& place) {
     setLatitude(cutToFourDecimals(place.latitude));
     setLongitude(cutToFourDecimals(place.longitude));
     setLocationName(place.locality.isEmpty() ? place.name : place.locality);
     QString message = foundMessage(place);
-    if (firstRun_) {
-        const auto suggestion = suggestedMethods().constFind(place.isoCountryCode.toUpper());
-        if (suggestion != suggestedMethods().constEnd()) {
-            for (const CalcMethod& m : calcMethods()) {
-                if (m.id != suggestion->methodId) continue;
-                setMethodID(m.id);
-                setHanafi(suggestion->hanafi);
-                message += QStringLiteral(" Suggested: ") + m.name +
-                           (suggestion->hanafi ? QStringLiteral(", Hanafi Asr") : QString()) +
-                           QStringLiteral(". Change it below if your mosque uses something else.");
-                break;
-            }
-        }
-    }
+    if (firstRun_) message += suggestMethod(place.isoCountryCode);
     if (!place.timeZone.isEmpty()) {
         const QTimeZone there(place.timeZone.toUtf8());
         const QTimeZone here = services_.localZone();
@@ -179,7 +220,8 @@ void PrayerSettingsModel::checkFocus() {
 void PrayerSettingsModel::testFocus() {
     if (!services_.runFocus) return;
     services_.runFocus(true);
-    setFocusMessage(QStringLiteral("Focus on for 10 seconds… check your iPhone."));
+    setFocusMessage(
+        QStringLiteral("Focus on for 10 seconds… check that notifications stay quiet."));
     QTimer::singleShot(10000, this, [this] {
         services_.runFocus(false);
         setFocusMessage(QStringLiteral("Done. Focus is off again."));
@@ -188,6 +230,18 @@ void PrayerSettingsModel::testFocus() {
 
 void PrayerSettingsModel::openShortcuts() {
     if (services_.openShortcuts) services_.openShortcuts();
+}
+
+void PrayerSettingsModel::writeFocusScripts(const QString& desktop) {
+    if (!services_.writeFocus) return;
+    const QString pair = QStringLiteral("“") + services_.focusOnName + QStringLiteral("” and “") +
+                         services_.focusOffName + QStringLiteral("”");
+    setFocusMessage(services_.writeFocus(desktop)
+                        ? QStringLiteral("Wrote ") + pair + QStringLiteral(" for ") + desktop +
+                              QStringLiteral(".")
+                        : QStringLiteral("Couldn't write ") + pair +
+                              QStringLiteral(". The log in ~/.tarvanel/log.txt says why."));
+    checkFocus();
 }
 
 // Guardian.

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QTimeZone>
 #include <functional>
 #include <memory>
@@ -33,6 +34,7 @@ struct GeoPlace {
     double longitude = 0;
     qint64 population = 0;
     bool hasLocation = true;
+    bool operator==(const GeoPlace&) const = default;
 };
 
 // Finds places by name. The answer always arrives later, through the event loop of the thread
@@ -71,6 +73,11 @@ struct SettingsServices {
     std::function<void()> openShortcuts;
     QString focusOnName = QStringLiteral("Tarvanel Focus On");
     QString focusOffName = QStringLiteral("Tarvanel Focus Off");
+    QString focusFolder = QStringLiteral("~/.tarvanel/shortcuts");
+    QStringList focusDesktops; // desktops a pair of scripts can be written for
+    QString focusDesktop;      // this session's, when it is one of them
+    // Writes the pair for a desktop of `focusDesktops`; false when a file could not be written.
+    std::function<bool(const QString& desktop)> writeFocus;
 
     std::function<bool(const QString& path)> playSound;
     std::function<void()> stopSound;

@@ -146,7 +146,7 @@ TEST_F(AgentTest, HandOffRoads) {
     ASSERT_TRUE(bus.waitForReadyRead(10000));
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
     const QString local = scratchHome() + "/.local/bin/tarvanel",
-                  move = "Move Tarvanel to Applications?";
+                  move = "Install Tarvanel in ~/.local/bin?";
     const QString downloaded = scratchHome() + "/Downloads/tarvanel";
     struct Road {
         QString name, exe, failing;

@@ -10,11 +10,14 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QCursor>
 #include <QDateEdit>
 #include <QFile>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <csignal>
@@ -156,6 +159,23 @@ TEST(Alerts, ButtonsInTheGivenOrderTheCheckBoxTheAnswersAndTheDatesMinimum) {
     press(*ordinary, Qt::Key_Return);
     EXPECT_EQ(alertAnswer(*ordinary).response, 1000);
 
+    // A question opens in the middle of the primary screen, even with the pointer elsewhere.
+    QCursor::setPos(QGuiApplication::screens().last()->geometry().center());
+    QRect shownAt;
+    QScreen* shownOn = nullptr;
+    QTimer::singleShot(0, [&] {
+        QWidget* open = QApplication::activeModalWidget();
+        if (!open) return;
+        shownAt = open->frameGeometry();
+        shownOn = open->screen();
+        open->close();
+    });
+    runAlert({"Did you pray Asr?", "", {"Yes, I Prayed", "Not Yet"}, {}, false});
+    QScreen* primary = QGuiApplication::primaryScreen();
+    EXPECT_EQ(shownOn, primary);
+    EXPECT_TRUE(primary->geometry().contains(shownAt)) << shownAt.x() << "," << shownAt.y();
+    EXPECT_LE(std::abs(shownAt.center().x() - primary->availableGeometry().center().x()), 40);
+
     // A date question never goes earlier than its minimum.
     const QDate minimum(2026, 3, 10);
     DateQuestion question({"When did you pray?", {}, {"Save", "Cancel"}, {}, false}, minimum,
@@ -181,6 +201,12 @@ TEST(QtPlatform, EventLoopServicesAndOneSettingsWindow) {
     windows.removeIf([](QWidget* w) { return !qobject_cast<QMainWindow*>(w) || !w->isVisible(); });
     ASSERT_EQ(windows.size(), 1);
     EXPECT_EQ(windows[0]->windowTitle(), "Welcome to Tarvanel");
+    // No tray host here: the header says how to find the program again.
+    bool noted = false;
+    for (QLabel* l : windows[0]->findChildren<QLabel*>())
+        noted = noted || l->text().startsWith("There's no tray on this desktop, so Tarvanel runs "
+                                              "without an icon");
+    EXPECT_TRUE(noted);
     windows[0]->close();
     test::pump(20);
     EXPECT_FALSE(platform.settingsWindowOpen());

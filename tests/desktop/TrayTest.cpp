@@ -89,6 +89,11 @@ TEST(TrayMenu, BuiltAfreshFromTheCoresModelEachTimeItOpens) {
     EXPECT_FALSE(tray.ensureCreated());
     tray.setTitle("🕌 Asr in 5m", TitleColor::Red);
     EXPECT_EQ(tray.icon(), nullptr);
+    // A notification waits for a tray host; a later one replaces it.
+    EXPECT_EQ(tray.waitingAnnouncement(), "");
+    EXPECT_FALSE(tray.announce("Tarvanel is running", "Next lock: Asr at 3:17 PM"));
+    EXPECT_FALSE(tray.announce("Tarvanel is running", "Next lock: Maghrib at 5:02 PM"));
+    EXPECT_EQ(tray.waitingAnnouncement(), "Tarvanel is running: Next lock: Maghrib at 5:02 PM");
     int ran = 0, builds = 0;
     tray.setMenuProvider([&] {
         if (++builds > 1) return MenuModel{MenuItem::info("Tarvanel isn't set up yet")};
@@ -99,7 +104,7 @@ TEST(TrayMenu, BuiltAfreshFromTheCoresModelEachTimeItOpens) {
         model[3].submenu << MenuItem::command(
                                 "Fajr: Prayed Late (Qada)", [&] { ran += 10; }, 100)
                          << MenuItem::info("✓ Dhuhr");
-        model[4].shortcut = ",";
+        model[4].shortcut = "Ctrl+,";
         return model;
     });
     EXPECT_EQ(builds, 0);
@@ -116,7 +121,8 @@ TEST(TrayMenu, BuiltAfreshFromTheCoresModelEachTimeItOpens) {
     EXPECT_EQ(sub[0]->data().toInt(), 100);
     EXPECT_TRUE(sub[0]->isEnabled());
     EXPECT_FALSE(sub[1]->isEnabled());
-    EXPECT_EQ(actions[4]->shortcut(), QKeySequence(","));
+    EXPECT_EQ(actions[4]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    EXPECT_NE(actions[4]->shortcut().toString(QKeySequence::NativeText), ",");
 
     // Commands run once the menu has closed, not inside the click.
     sub[0]->trigger();

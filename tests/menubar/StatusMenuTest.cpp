@@ -12,6 +12,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QLocale>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
@@ -163,6 +165,22 @@ TEST_F(StatusMenuTest, ExportAndUninstallAskAndDoWhatWasChosen) {
     sim.app->exportHistory(); // cancelled: nothing happens
     EXPECT_EQ(readWholeFile(path).value_or(QByteArray()),
               "date,prayer,status\n2026-01-14,Dhuhr,elsewhere\n");
+    ASSERT_EQ(sim.platform.alerts.size(), 1);
+    EXPECT_EQ(sim.platform.alerts[0].message, "Exported 1 prayer to " + path);
+    // A long history: the count in the locale's grouping, and the file holds every row.
+    HistoryMap many;
+    for (int d = 0; d < 246; ++d)
+        many[kDay.addDays(-300 + d).toString("yyyy-MM-dd")] = prayerNames();
+    many[kDay.toString("yyyy-MM-dd")] = {"Fajr", "Dhuhr", "Asr", "Maghrib"};
+    saveHistory(many);
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    sim.platform.savePathAnswers.push_back(path);
+    sim.app->exportHistory();
+    QLocale::setDefault(QLocale::c());
+    ASSERT_EQ(sim.platform.alerts.size(), 2);
+    EXPECT_EQ(sim.platform.alerts[1].message, "Exported 1,234 prayers to " + path);
+    EXPECT_EQ(readWholeFile(path).value_or(QByteArray()).count('\n'), 1235);
+    sim.platform.alerts.clear();
     sim.app->uninstall(); // cancelled
     ASSERT_EQ(sim.platform.alerts.size(), 1);
     EXPECT_EQ(sim.platform.alerts[0].message, "Uninstall Tarvanel?");
@@ -180,6 +198,75 @@ TEST_F(StatusMenuTest, ExportAndUninstallAskAndDoWhatWasChosen) {
     EXPECT_FALSE(QDir(supportDir()).exists());
     EXPECT_TRUE(sim.logs.contains("Tarvanel: uninstalled"));
     setSystemctlForTesting({});
+}
+
+// "Resume Locks" inside a lock window asks first and Cancel keeps the pause; outside one it
+// resumes at once. The grid ends in its legend and "Settings…" shows its whole shortcut.
+TEST_F(StatusMenuTest, ResumeInsideAWindowAsksAndTheMenuExplainsItself) {
+    UserDefaults().setPausedUntil(at("18:00"));
+    DaySimulator sim(fixedTimesConfig(), at("12:00"));
+    sim.item("Resume Locks").action();
+    EXPECT_TRUE(sim.platform.alerts.isEmpty());
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 1h 0m");
+
+    sim.platform.answerAlert(1000);
+    sim.item("Pause Locks").submenu[0].action();
+    sim.sleepUntil(at("12:55"));
+    sim.step();
+    EXPECT_EQ(sim.platform.title, "🕌 Paused");
+    sim.item("Resume Locks").action(); // no answer scripted: Cancel
+    ASSERT_EQ(sim.platform.alerts.size(), 2);
+    EXPECT_EQ(sim.platform.alerts[1].message, "Dhuhr's lock is due now: lock now?");
+    EXPECT_EQ(sim.platform.alerts[1].buttons, QStringList({"Lock Now", "Cancel"}));
+    EXPECT_FALSE(sim.app->isLocked());
+    EXPECT_TRUE(sim.has("Resume Locks"));
+    sim.platform.answerAlert(1000);
+    sim.item("Resume Locks").action();
+    EXPECT_TRUE(sim.app->isLocked());
+    EXPECT_EQ(sim.app->lockPrayer(), "Dhuhr");
+
+    const MenuModel menu = sim.app->buildMenu();
+    qsizetype last = -1;
+    for (qsizetype i = 0; i < menu.size(); ++i)
+        if (menu[i].monospaced) last = i;
+    ASSERT_GT(last, 0);
+    EXPECT_EQ(menu[last + 1].text, "✓ prayed   q qada   – excused   · not kept");
+    EXPECT_FALSE(menu[last + 1].enabled);
+    EXPECT_EQ(sim.item("Settings…").shortcut, "Ctrl+,");
+}
+
+// Set up for the first time: one notification says where the program lives and what comes
+// next; with no tray host, a log line says it instead. Cancel on a first run is logged too.
+TEST_F(StatusMenuTest, FirstStartSaysWhereTheProgramLivesAndTheNextLock) {
+    DaySimulator sim(std::nullopt, at("14:00"));
+    sim.app->openSettings();
+    ASSERT_TRUE(sim.platform.settingsFirstRun);
+    sim.platform.settingsActions.cancel();
+    EXPECT_EQ(sim.logsContaining("Tarvanel: not set up yet").size(), 1);
+    sim.app->openSettings();
+    sim.platform.settingsActions.save(fixedTimesConfig());
+    EXPECT_EQ(sim.platform.announcements,
+              QStringList{"Tarvanel is running: Tarvanel lives in the tray: its menu has today's "
+                          "times and Settings.\nNext lock: Asr at 2:55 PM"});
+    EXPECT_TRUE(sim.logsContaining("no tray icon").isEmpty());
+
+    // Not a first run: no notification. After the last lock of the day: tomorrow's Fajr.
+    sim.app->openSettings();
+    sim.platform.settingsActions.save(fixedTimesConfig());
+    EXPECT_EQ(sim.platform.announcements.size(), 1);
+    sim.sleepUntil(at("23:00"));
+    sim.step();
+    EXPECT_EQ(sim.app->nextLockText(), "Next lock: Fajr tomorrow at 6:25 AM");
+
+    QFile::remove(configURL());
+    sim.platform.trayHost = false;
+    sim.app->openSettings();
+    sim.platform.settingsActions.save(fixedTimesConfig());
+    ASSERT_EQ(sim.platform.announcements.size(), 2);
+    EXPECT_EQ(sim.logsContaining("no tray icon"),
+              QStringList{"Tarvanel: running in the background with no tray icon (no tray "
+                          "host); open Tarvanel from the applications menu for its settings. "
+                          "Next lock: Fajr tomorrow at 6:25 AM"});
 }
 
 using StatusTitleTest = SimTest;

@@ -165,6 +165,66 @@ TEST_F(SettingsModel, SearchFillsThePlaceSuggestsOnFirstRunAndWarnsOfAnotherZone
     waitFor([] { return false; }, 30);
 }
 
+// Each search suggests for its own country only: a country with no suggestion takes back the
+// last one (never the user's own pick), and several places of one name are offered to choose.
+TEST_F(SettingsModel, SuggestionsFollowTheLastPlaceAndSameNamesOfferAChoice) {
+    auto geo = std::make_shared<FakeGeocoder>();
+    auto find = [&](PrayerSettingsModel& m, const QList<GeoPlace>& places) {
+        geo->places = places;
+        m.setQuery(places.value(0).name + "?");
+        m.search();
+        EXPECT_TRUE(waitFor([&] { return !m.searching(); }));
+        return m.searchMessage();
+    };
+    auto place = [](const char* name, const char* area, const char* country, const char* code,
+                    double lat) {
+        return GeoPlace{name, name, area, country, code, "Europe/London", lat, -1, 1000, true};
+    };
+    const GeoPlace makkah = place("Makkah", "Makkah Region", "Saudi Arabia", "SA", 21.4266);
+    const GeoPlace cologne = place("Cologne", "North Rhine-Westphalia", "Germany", "DE", 50.9333);
+    const GeoPlace london = place("London", "England", "United Kingdom", "GB", 51.5085);
+    const QList<GeoPlace> springfields{
+        place("Springfield", "Missouri", "United States", "US", 37.2153),
+        place("Springfield", "Massachusetts", "United States", "US", 42.1015),
+        place("Springfield", "Missouri", "United States", "US", 37.3), // the same line again
+        place("Springfield Gardens", "New York", "United States", "US", 40.6632),
+        place("Springfield", "Illinois", "United States", "US", 39.80175)};
+
+    PrayerSettingsModel m(Config(), true, services(geo));
+    EXPECT_TRUE(find(m, {makkah}).contains(" Suggested: Umm al-Qura (Makkah)."));
+    EXPECT_EQ(m.methodID(), "Makkah");
+    EXPECT_EQ(find(m, {cologne}), "Found Cologne, North Rhine-Westphalia, Germany.");
+    EXPECT_EQ(std::pair(m.methodID(), m.hanafi()), std::pair(QString("MWL"), false));
+    EXPECT_TRUE(m.places().isEmpty());
+
+    EXPECT_TRUE(find(m, springfields).contains(" Suggested: ISNA (North America)."));
+    EXPECT_EQ(m.methodID(), "ISNA");
+    ASSERT_EQ(m.places().size(), 3);
+    QStringList lines;
+    for (const GeoPlace& p : m.places())
+        lines << placeLine(p);
+    EXPECT_EQ(lines, QStringList({"Springfield, Missouri, United States",
+                                  "Springfield, Massachusetts, United States",
+                                  "Springfield, Illinois, United States"}));
+    EXPECT_EQ(m.latitude(), 37.2153);
+    m.choosePlace(2);
+    EXPECT_EQ(m.latitude(), 39.8017);
+    EXPECT_TRUE(m.searchMessage().startsWith("Found Springfield, Illinois, United States."));
+    EXPECT_EQ(m.methodID(), "ISNA");
+    m.choosePlace(3); // out of range: nothing changes
+    EXPECT_EQ(m.latitude(), 39.8017);
+    EXPECT_EQ(find(m, {london}), "Found London, England, United Kingdom.");
+    EXPECT_EQ(m.methodID(), "MWL");
+    EXPECT_TRUE(m.places().isEmpty());
+
+    // The user's own choice after a suggestion stays when the next country has none.
+    find(m, {place("Lahore", "Punjab", "Pakistan", "PK", 31.5581)});
+    EXPECT_EQ(std::pair(m.methodID(), m.hanafi()), std::pair(QString("Karachi"), true));
+    m.setMethodID("Egypt");
+    find(m, {cologne});
+    EXPECT_EQ(std::pair(m.methodID(), m.hanafi()), std::pair(QString("Egypt"), true));
+}
+
 TEST_F(SettingsModel, GuardianCodeTypedInPersianDigitsWithASpaceIsAccepted) {
     PrayerSettingsModel m(Config(), false, services());
     m.startGuardian();

@@ -2,8 +2,8 @@
 """Drives the settings window as a screen reader does, over AT-SPI.
 
 Usage: settings_e2e.py first-run HOME | guardian HOME
-first-run: types a city into "City", presses Find, waits for the found message and presses
-"Start Tarvanel". guardian: sets up the guardian code with a code from oathtool, then ends a
+first-run: finds "Springfield" (a list of places to choose from), then "Lahore" (one place),
+and presses "Start Tarvanel". guardian: checks the window's title, sets up the guardian code with a code from oathtool, then ends a
 preview lock by typing the next code.
 Exit status 0 on success; the reason on standard error otherwise.
 """
@@ -70,14 +70,31 @@ PUSH = (pyatspi.ROLE_PUSH_BUTTON,)
 FIELD = (pyatspi.ROLE_TEXT, pyatspi.ROLE_ENTRY, pyatspi.ROLE_PASSWORD_TEXT)
 
 
+def place_rows(a):
+    places = find(a, "Places with this name", (pyatspi.ROLE_LIST, pyatspi.ROLE_LIST_BOX))
+    if places is None or not places.getState().contains(pyatspi.STATE_SHOWING):
+        return None
+    rows = [places.getChildAtIndex(i) for i in range(places.childCount)]
+    return [r.name for r in rows if r is not None and r.name] or None
+
+
 def first_run():
     a = wait("the Tarvanel application on the accessibility bus", app)
     city = wait("the City field", lambda: find(a, "City", FIELD))
+    # Several Springfields: a list a screen reader reads row by row.
+    set_text(city, "Springfield")
+    press(wait("the Find button", lambda: find(a, "Find", PUSH)))
+    rows = wait("the list of Springfields", lambda: place_rows(a))
+    if len(rows) < 2 or not all(r.startswith("Springfield, ") for r in rows):
+        fail("unexpected places: " + repr(rows))
+    wait("the first Springfield in use", lambda: find_text(a, "Found Springfield, "))
     set_text(city, "Lahore")
     press(wait("the Find button", lambda: find(a, "Find", PUSH)))
-    message = wait("the found message", lambda: find_text(a, "Found "))
+    message = wait("the found message", lambda: find_text(a, "Found Lahore"))
     if "Lahore" not in message.name or "Suggested:" not in message.name:
         fail("unexpected message: " + message.name)
+    if place_rows(a) is not None:
+        fail("the list of places stayed for a city with one place")
     start = wait("Start Tarvanel", lambda: find(a, "Start Tarvanel", PUSH))
     wait("Start Tarvanel enabled",
          lambda: start if start.getState().contains(pyatspi.STATE_ENABLED) else None)
@@ -86,6 +103,12 @@ def first_run():
 
 def guardian():
     a = wait("the Tarvanel application on the accessibility bus", app)
+    # The window manager's title is the window's own, with no program name appended.
+    titles = wait("the settings window", lambda: subprocess.run(
+        ["xdotool", "search", "--name", "Tarvanel Settings", "getwindowname", "%@"],
+        capture_output=True, text=True).stdout.split("\n")[0] or None)
+    if titles != "Tarvanel Settings":
+        fail("window title: " + titles)
     press(wait("the set-up button", lambda: find(a, "Set Up Guardian Code…", PUSH)))
     key = wait("the key", lambda: find(a, "Key", FIELD))
     secret = wait("the key text", lambda: key.queryText().getText(0, -1) or None)

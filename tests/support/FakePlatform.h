@@ -20,7 +20,9 @@ public:
     QString title;
     TitleColor titleColor = TitleColor::Label;
     QStringList titles; // every distinct title in order
-    QStringList sounds; // named sounds, and "file:<path>" for played files
+    bool trayHost = true;
+    QStringList announcements; // "title: text"
+    QStringList sounds;        // named sounds, and "file:<path>" for played files
     QList<AlertRequest> alerts;
     QStringList openedUrls;
     QStringList importsOpened;        // the file of every import window opened
@@ -66,6 +68,10 @@ public:
         if (titles.isEmpty() || titles.last() != text) titles << text;
         title = text;
         titleColor = color;
+    }
+    bool announce(const QString& heading, const QString& text) override {
+        announcements << heading + QStringLiteral(": ") + text;
+        return trayHost;
     }
     void playNamedSound(const QString& name) override { sounds << name; }
     bool playSoundFile(const QString& path) override {

@@ -37,7 +37,7 @@ GuardianSetup::GuardianSetup(PrayerSettingsModel& model, QWidget* parent)
     column->addWidget(qr_, 0, Qt::AlignHCenter);
     column->addWidget(wrapped(
         QStringLiteral("Ask the person you trust to scan this with an authenticator app (Google "
-                       "Authenticator, Microsoft Authenticator, Authy, or the iPhone's Passwords "
+                       "Authenticator, Microsoft Authenticator, Authy, or Apple's Passwords "
                        "app), or to type the key:"),
         this));
     key_ = new QLineEdit(this);

@@ -3,7 +3,9 @@
 
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTimeZone>
 #include <QToolButton>
 
@@ -30,6 +32,31 @@ QLineEdit* coordinateField(SectionContext& c, const QString& label, Field field,
     return edit;
 }
 
+// Several places of the searched name: one line each (name, region, country), the one in use
+// selected. Arrow keys or a click use another at once; a screen reader reads each line.
+void addPlaceChoice(Section& s, PrayerSettingsModel& model) {
+    const QString label = QStringLiteral("Places with this name");
+    auto* list = new QListWidget;
+    s.addRow(label, list);
+    auto* caption = s.form()->labelForField(list);
+    PrayerSettingsModel* m = &model;
+    watch(*m, list, {Field::places}, [m, list, caption] {
+        const QSignalBlocker quiet(list);
+        list->clear();
+        for (const GeoPlace& p : m->places()) {
+            auto* item = new QListWidgetItem(placeLine(p), list);
+            item->setData(Qt::AccessibleTextRole, item->text());
+        }
+        if (list->count() > 0) list->setCurrentRow(0);
+        const int rows = std::min(list->count(), 6);
+        list->setFixedHeight(rows * std::max(list->sizeHintForRow(0), 1) + 2 * list->frameWidth());
+        list->setVisible(rows > 0);
+        if (caption) caption->setVisible(rows > 0);
+    });
+    QObject::connect(list, &QListWidget::currentRowChanged, m,
+                     [m](int row) { m->choosePlace(row); });
+}
+
 } // namespace
 
 QWidget* makeLocationSection(SectionContext& c) {
@@ -53,6 +80,7 @@ QWidget* makeLocationSection(SectionContext& c) {
     city->setAccessibleName(QStringLiteral("City"));
     qobject_cast<QLabel*>(s->form()->labelForField(cityRow))->setBuddy(city);
     s->addRow(statusLabel(c, Field::searchMessage, &PrayerSettingsModel::searchMessage));
+    addPlaceChoice(*s, *m);
 
     auto* using_ = wrapped(QString());
     watch(*m, using_, {Field::locationName, Field::latitude, Field::longitude}, [m, using_] {

@@ -10,15 +10,15 @@
 namespace tarvanel {
 
 QString lockFooter(bool guardianSet) {
-    return QStringLiteral("During a lock every screen goes black, and the Dock, ⌘-Tab and Force "
-                          "Quit are switched off. There's no way to end it early") +
+    return QStringLiteral("During a lock every screen goes black, and the lock holds the "
+                          "keyboard and mouse, so the panel, window and workspace switching and "
+                          "the desktop's shortcuts are out of reach. There's no way to end it "
+                          "early") +
            (guardianSet ? QStringLiteral(" except your guardian's code") : QString()) +
            QStringLiteral(". If your mic or camera is in use when a lock is due, it waits for the "
                           "call to end, then locks for the full time. With “Did you pray?”, "
                           "answering Not Yet locks again for 5 minutes. If your computer is "
-                          "asleep, it locks on wake only while still inside the lock window.") +
-           QStringLiteral("\nOn Linux the lock covers every screen and holds the keyboard and "
-                          "mouse, so the panel and window switching can't be reached.");
+                          "asleep, it locks on wake only while still inside the lock window.");
 }
 
 QWidget* makeLockSection(SectionContext& c) {

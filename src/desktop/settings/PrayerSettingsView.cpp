@@ -5,6 +5,7 @@
 #include "engine/LocalTime.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -71,6 +72,7 @@ PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> mode
                        makeEmergencySection, makeHistorySection, makeExtrasSection})
         sections->addWidget(make(ctx));
     sections->addStretch(1);
+    holdWheelUntilFocused(form);
     scroll->setWidget(form);
     column->addWidget(scroll, 1);
     column->addWidget(makeButtonBar());
@@ -98,6 +100,7 @@ QWidget* PrayerSettingsView::makeHeader() {
     texts->addWidget(title);
     status_ = new QLabel(header);
     texts->addWidget(status_);
+    if (!model_->headerNote().isEmpty()) texts->addWidget(wrapped(model_->headerNote(), header));
     if (first) {
         auto* tagline = new QLabel(QStringLiteral("Get up and pray, on time"), header);
         QFont bold = tagline->font();
@@ -156,13 +159,15 @@ QWidget* PrayerSettingsView::makeButtonBar() {
     row->addWidget(preview);
     row->addWidget(button(QStringLiteral("Uninstall…"), actions_.uninstall, bar));
     row->addStretch(1);
-    row->addWidget(button(
+    QPushButton* cancel = button(
         QStringLiteral("Cancel"),
         [this] {
             if (actions_.cancel) actions_.cancel();
             closeWindow();
         },
-        bar));
+        bar);
+    row->addWidget(cancel);
+    cancel_ = cancel;
     save_ = button(
         saveTitle(model_->firstRun()),
         [this] {
@@ -184,6 +189,15 @@ QWidget* PrayerSettingsView::makeButtonBar() {
                              : QStringLiteral("Find your city or enter coordinates first."));
     });
     return bar;
+}
+
+// Escape that no control took (an open picker closes its popup first) leaves as Cancel does.
+void PrayerSettingsView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier && cancel_) {
+        cancel_->click();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void PrayerSettingsView::closeWindow() {

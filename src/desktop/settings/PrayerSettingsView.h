@@ -24,6 +24,9 @@ public:
     PrayerSettingsModel& model() { return *model_; }
     QPushButton* saveButton() const { return save_; }
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     QWidget* makeHeader();
     QWidget* makeButtonBar();
@@ -34,6 +37,7 @@ private:
     PrayerSettingsActions actions_;
     QLabel* status_ = nullptr;
     QPushButton* save_ = nullptr;
+    QPushButton* cancel_ = nullptr;
 };
 
 } // namespace tarvanel

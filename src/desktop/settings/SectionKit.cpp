@@ -3,11 +3,17 @@
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 
+#include <QAbstractScrollArea>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <cmath>
@@ -146,6 +152,42 @@ QWidget* hbox(std::initializer_list<QWidget*> widgets) {
         layout->addWidget(w);
     layout->addStretch(1);
     return row;
+}
+
+namespace {
+
+// Hands a wheel turn over an unfocused control to the scroll area around it.
+class WheelGuard : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* control = qobject_cast<QWidget*>(watched);
+        if (event->type() != QEvent::Wheel || !control || control->hasFocus()) return false;
+        for (QWidget* up = control->parentWidget(); up; up = up->parentWidget()) {
+            auto* area = qobject_cast<QAbstractScrollArea*>(up);
+            if (!area) continue;
+            if (area->verticalScrollBar() != control)
+                QCoreApplication::sendEvent(area->verticalScrollBar(), event);
+            break;
+        }
+        return true;
+    }
+};
+
+} // namespace
+
+void holdWheelUntilFocused(QWidget* root) {
+    auto* guard = new WheelGuard(root);
+    for (QWidget* w : root->findChildren<QWidget*>()) {
+        // A list's own scroll bars scroll it and stay out of the Tab order.
+        const bool slider = qobject_cast<QAbstractSlider*>(w) && !qobject_cast<QScrollBar*>(w);
+        if (!qobject_cast<QAbstractSpinBox*>(w) && !qobject_cast<QComboBox*>(w) && !slider)
+            continue;
+        w->setFocusPolicy(Qt::StrongFocus);
+        w->installEventFilter(guard);
+    }
 }
 
 QTime localTime(const QDateTime& instant) {

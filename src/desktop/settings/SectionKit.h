@@ -70,6 +70,11 @@ QLabel* wrapped(const QString& text, QWidget* parent = nullptr);
 // A horizontal row of widgets, aligned left.
 QWidget* hbox(std::initializer_list<QWidget*> widgets);
 
+// Spin boxes, time editors, pickers and sliders under `root` take the mouse wheel only once
+// focused (by a click or Tab); until then the wheel scrolls the form around them, so scrolling
+// the window never changes a value.
+void holdWheelUntilFocused(QWidget* root);
+
 // The local hour and minute of an instant as a QTime, and back onto today's date.
 QTime localTime(const QDateTime& instant);
 QDateTime instantToday(const QTime& time, const QDateTime& now);

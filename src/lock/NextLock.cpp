@@ -1,0 +1,56 @@
+// What comes next, for the user who has just set the program up or asks to resume locks: the
+// next lock's name and time, and whether a prayer's lock window is open right now.
+#include "engine/LocalTime.h"
+#include "lock/AppDelegate.h"
+#include "lock/DayRules.h"
+#include "lock/Scheduler.h"
+#include "records/Excused.h"
+#include "records/Log.h"
+
+namespace tarvanel {
+
+QString AppDelegate::nextLockText() {
+    const QDateTime now = currentTime();
+    scheduleFor(now);
+    const bool combining = combiningPrayers(now);
+    const bool jumuah = today_.jumuah();
+    // The screens go dark the lead before the lock time.
+    const qint64 leadMs = minutesMs(config_.leadMinutes());
+    const QString pattern = QStringLiteral("h:mm AP");
+    for (const PrayerSlot& slot : today_.prayerSlots()) {
+        if (!slot.valid || completedLocks_.contains(slot.lockKey)) continue;
+        if (combining && isCombinedAway(slot.name, jumuah)) continue;
+        const QDateTime start = QDateTime::fromMSecsSinceEpoch(slot.at - leadMs, Qt::UTC);
+        if (start <= now) continue;
+        return QStringLiteral("Next lock: ") + lockName(slot.name, combining, jumuah) +
+               QStringLiteral(" at ") + formatLocal(start, pattern);
+    }
+    if (const auto fajr = today_.tomorrowsFajr(now, activeConfig()))
+        return QStringLiteral("Next lock: Fajr tomorrow at ") +
+               formatLocal(fajr->addMSecs(-leadMs), pattern);
+    return QString();
+}
+
+void AppDelegate::announceRunning() {
+    const QString next = nextLockText();
+    const QString text = QStringLiteral("Tarvanel lives in the tray: its menu has today's times "
+                                        "and Settings.") +
+                         (next.isEmpty() ? QString() : QStringLiteral("\n") + next);
+    if (platform_.announce(QStringLiteral("Tarvanel is running"), text)) return;
+    logLine(QStringLiteral("Tarvanel: running in the background with no tray icon (no tray "
+                           "host); open Tarvanel from the applications menu for its settings") +
+            (next.isEmpty() ? QString() : QStringLiteral(". ") + next));
+}
+
+std::optional<QString> AppDelegate::lockDueNow() {
+    const QDateTime now = currentTime();
+    if (Excused::current(config_.excusedDays(), now)) return std::nullopt;
+    scheduleFor(now);
+    QSet<QString> fired = firedNudges_; // asking must not use up a reminder
+    const PrayerDecision decision =
+        decidePrayers(today_, config_, now, combiningPrayers(now), completedLocks_, fired);
+    if (!decision.lock) return std::nullopt;
+    return decision.lock->displayName;
+}
+
+} // namespace tarvanel

@@ -1,11 +1,14 @@
 // What comes next, for the user who has just set the program up or asks to resume locks: the
 // next lock's name and time, and whether a prayer's lock window is open right now.
 #include "engine/LocalTime.h"
+#include "engine/LockWindow.h"
 #include "lock/AppDelegate.h"
 #include "lock/DayRules.h"
 #include "lock/Scheduler.h"
 #include "records/Excused.h"
 #include "records/Log.h"
+
+#include <QTimeZone>
 
 namespace tarvanel {
 
@@ -14,20 +17,23 @@ QString AppDelegate::nextLockText() {
     scheduleFor(now);
     const bool combining = combiningPrayers(now);
     const bool jumuah = today_.jumuah();
-    // The screens go dark the lead before the lock time.
-    const qint64 leadMs = minutesMs(config_.leadMinutes());
     const QString pattern = QStringLiteral("h:mm AP");
     for (const PrayerSlot& slot : today_.prayerSlots()) {
         if (!slot.valid || completedLocks_.contains(slot.lockKey)) continue;
         if (combining && isCombinedAway(slot.name, jumuah)) continue;
-        const QDateTime start = QDateTime::fromMSecsSinceEpoch(slot.at - leadMs, Qt::UTC);
+        // The screens go dark at the window's start, the lead before the lock time.
+        const QDateTime start =
+            lockWindow(QDateTime::fromMSecsSinceEpoch(slot.at, QTimeZone::utc()), slot.name, jumuah,
+                       config_)
+                .start;
         if (start <= now) continue;
         return QStringLiteral("Next lock: ") + lockName(slot.name, combining, jumuah) +
                QStringLiteral(" at ") + formatLocal(start, pattern);
     }
     if (const auto fajr = today_.tomorrowsFajr(now, activeConfig()))
         return QStringLiteral("Next lock: Fajr tomorrow at ") +
-               formatLocal(fajr->addMSecs(-leadMs), pattern);
+               formatLocal(lockWindow(*fajr, QStringLiteral("Fajr"), false, config_).start,
+                           pattern);
     return QString();
 }
 

@@ -84,7 +84,7 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
     if (row.times.size() < 3) return std::nullopt;
 
     if (!row.date) {
-        const QRegularExpressionMatch d = p.leadingDay.match(QStringView(line).left(firstTime));
+        const QRegularExpressionMatch d = p.leadingDay.match(line.left(firstTime));
         if (d.hasMatch()) row.day = d.captured(1).toInt();
     }
     return row;

@@ -5,6 +5,7 @@
 #include "timetable/TimetableImportModel.h"
 
 #include <QPointer>
+#include <QTextCursor>
 #include <QWidget>
 #include <functional>
 
@@ -30,11 +31,17 @@ public:
     void openFile(const QString& path);
     void chooseFile(); // the open panel; nothing happens when it is cancelled
 
+    // Puts the text cursor at the start of the first row that would not be saved.
+    void goToFirstProblem();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void refresh();
+    void refreshMarks();
+    void takeDoubtfulCells();
     void refreshPickers();
     void refreshPreview();
 
@@ -45,6 +52,8 @@ private:
     QPlainTextEdit* editor_;
     QProgressBar* spinner_;
     QLabel* status_;
+    QLabel* problems_;
+    QList<QTextCursor> doubtful_; // follow the user's edits
     QList<QComboBox*> pickers_;
     QComboBox* month_;
     QSpinBox* year_;

@@ -5,49 +5,56 @@
 #include "ocr/TimetableOCR.h"
 
 #include <QFileInfo>
+#include <QThread>
+#include <atomic>
 #include <memory>
-#include <optional>
+#include <mutex>
 #include <poppler-qt6.h>
+#include <thread>
+#include <vector>
 
 namespace tarvanel::SheetReader {
 
 namespace {
 
-// Reads the pages of one file into one text, loading the recogniser only for the first page
-// that needs it.
-class Reading {
+// Pages are recognised side by side, each reader with a model of its own (some 30 MB).
+constexpr int maxReaders = 4;
+
+// Where the pages come from. Both calls are made one at a time (a PDF document serves one
+// thread); the recognition that follows runs in parallel.
+struct Pages {
+    int count = 0; // in the file
+    // A page's text layer; empty for a page without one.
+    std::function<QStringList(int)> text = [](int) { return QStringList(); };
+    std::function<QImage(int)> image;
+};
+
+struct PageText {
+    QStringList lines;
+    QList<TextMark> doubtful;
+};
+
+// One reader's pages, taken in turn from the shared counter.
+class PageWorker {
 public:
-    explicit Reading(const Hooks& hooks) : hooks_(hooks) {}
+    PageWorker(const Pages& pages, const Hooks& hooks) : pages_(pages), hooks_(hooks) {}
 
-    bool stopped() const { return hooks_.stop && hooks_.stop(); }
-
-    // False when the read was stopped before the page.
-    bool startPage(int index, int pageCount) {
-        if (stopped()) return false;
-        if (hooks_.progress) hooks_.progress(index + 1, pageCount);
-        return true;
-    }
-
-    void addText(const QStringList& lines) {
-        out_.lines += lines;
-        ++out_.pagesRead;
-    }
-
-    void addImage(const QImage& image) {
-        QList<TextMark> marks;
-        QStringList lines;
-        if (!image.isNull() && recognizer())
-            lines = TimetableOCR::lines(image, *recognizer_, marks);
-        for (TextMark& mark : marks)
-            mark.line += int(out_.lines.size());
-        out_.doubtful += marks;
-        addText(lines);
-    }
-
-    SheetReading finish(int pageCount) {
-        if (stopped()) return {};
-        out_.pageCount = pageCount;
-        return out_;
+    void run(std::atomic_int& next, int last, std::mutex& file, std::vector<PageText>& out,
+             const std::function<void()>& pageDone) {
+        for (int i = next++; i < last; i = next++) {
+            if (hooks_.stop && hooks_.stop()) return;
+            QStringList text;
+            QImage image;
+            {
+                const std::lock_guard lock(file);
+                text = pages_.text(i);
+                if (text.isEmpty()) image = pages_.image(i);
+            }
+            if (text.isEmpty() && !image.isNull() && recognizer())
+                text = TimetableOCR::lines(image, *recognizer_, out[size_t(i)].doubtful);
+            out[size_t(i)].lines = text;
+            pageDone();
+        }
     }
 
 private:
@@ -60,55 +67,90 @@ private:
         return failed_ ? nullptr : recognizer_.get();
     }
 
+    const Pages& pages_;
     const Hooks& hooks_;
-    SheetReading out_;
     std::unique_ptr<Recognizer> recognizer_;
     bool failed_ = false;
 };
 
-SheetReading readPdf(const QString& path, Reading& reading) {
+SheetReading readPages(const Pages& pages, const Hooks& hooks) {
+    const int last = std::min(pages.count, maxPages);
+    if (last < 1) return {};
+    std::vector<PageText> out(static_cast<size_t>(last));
+    std::atomic_int next = 0;
+    std::mutex file, progress;
+    int done = 0, reported = 0;
+    auto report = [&] { // "page k of n": the first page not yet finished
+        const std::lock_guard lock(progress);
+        const int page = std::min(done + 1, last);
+        if (page != reported && hooks.progress) hooks.progress(page, last);
+        reported = page;
+    };
+    auto pageDone = [&] {
+        {
+            const std::lock_guard lock(progress);
+            ++done;
+        }
+        report();
+    };
+    report();
+    const int readers = std::clamp(QThread::idealThreadCount(), 1, std::min(maxReaders, last));
+    std::vector<std::thread> helpers;
+    std::vector<std::unique_ptr<PageWorker>> workers;
+    for (int r = 0; r < readers; ++r)
+        workers.push_back(std::make_unique<PageWorker>(pages, hooks));
+    for (int r = 1; r < readers; ++r)
+        helpers.emplace_back([&, r] { workers[size_t(r)]->run(next, last, file, out, pageDone); });
+    workers[0]->run(next, last, file, out, pageDone);
+    for (std::thread& helper : helpers)
+        helper.join();
+    if (hooks.stop && hooks.stop()) return {};
+
+    SheetReading reading;
+    for (const PageText& page : out) {
+        for (TextMark mark : page.doubtful) {
+            mark.line += int(reading.lines.size());
+            reading.doubtful << mark;
+        }
+        reading.lines += page.lines;
+    }
+    reading.pagesRead = last;
+    reading.pageCount = pages.count;
+    return reading;
+}
+
+SheetReading readPdf(const QString& path, const Hooks& hooks) {
     const std::unique_ptr<Poppler::Document> doc = Poppler::Document::load(path);
     if (!doc || doc->isLocked() || doc->numPages() < 1) return {};
     doc->setRenderHint(Poppler::Document::Antialiasing);
     doc->setRenderHint(Poppler::Document::TextAntialiasing);
-    const int pages = std::min(doc->numPages(), maxPages);
-    for (int i = 0; i < pages; ++i) {
-        if (!reading.startPage(i, pages)) break;
+    Pages pages;
+    pages.count = doc->numPages();
+    pages.text = [&](int i) {
         const std::unique_ptr<Poppler::Page> page = doc->page(i);
-        if (!page) {
-            reading.addText({});
-            continue;
-        }
-        const QStringList text = textLines(*page);
-        if (text.isEmpty())
-            reading.addImage(PageImage::render(*page));
-        else
-            reading.addText(text);
-    }
-    return reading.finish(doc->numPages());
-}
-
-SheetReading readTiff(const QString& path, Reading& reading) {
-    const int count = PageImage::tiffPageCount(path);
-    const int pages = std::min(count, maxPages);
-    for (int i = 0; i < pages; ++i) {
-        if (!reading.startPage(i, pages)) break;
-        reading.addImage(PageImage::tiffPage(path, i));
-    }
-    return reading.finish(count);
+        return page ? textLines(*page) : QStringList();
+    };
+    pages.image = [&](int i) {
+        const std::unique_ptr<Poppler::Page> page = doc->page(i);
+        return page ? PageImage::render(*page) : QImage();
+    };
+    return readPages(pages, hooks);
 }
 
 } // namespace
 
 SheetReading read(const QString& path, const Hooks& hooks) {
-    Reading reading(hooks);
     const QString suffix = QFileInfo(path).suffix().toLower();
-    if (suffix == QLatin1String("pdf")) return readPdf(path, reading);
-    if (suffix == QLatin1String("tif") || suffix == QLatin1String("tiff"))
-        return readTiff(path, reading);
-    if (!reading.startPage(0, 1)) return {};
-    reading.addImage(PageImage::load(path));
-    return reading.finish(1);
+    if (suffix == QLatin1String("pdf")) return readPdf(path, hooks);
+    Pages pages;
+    if (suffix == QLatin1String("tif") || suffix == QLatin1String("tiff")) {
+        pages.count = PageImage::tiffPageCount(path);
+        pages.image = [&path](int i) { return PageImage::tiffPage(path, i); };
+    } else {
+        pages.count = 1;
+        pages.image = [&path](int) { return PageImage::load(path); };
+    }
+    return readPages(pages, hooks);
 }
 
 QStringList textLines(const Poppler::Page& page) {

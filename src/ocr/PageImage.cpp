@@ -180,15 +180,21 @@ QImage load(const QString& path) {
     return image;
 }
 
-PixPtr prepare(const QImage& image) {
+PixPtr prepare(const QImage& image, const std::function<bool()>& stop) {
     if (image.isNull()) return {};
-    PixPtr page = levelled(evenlyLit(greyPix(image)));
+    auto stopped = [&] { return stop && stop(); };
+    PixPtr page = evenlyLit(greyPix(image));
+    if (stopped()) return {};
+    page = levelled(std::move(page));
+    if (stopped()) return {};
     const int character = typicalCharacterHeight(page.get());
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled
     // again, which runs in steps, still counts.
     const int rule = std::max(51, 3 * character) | 1;
     withoutRules(page.get(), rule, 1);
+    if (stopped()) return {};
     withoutRules(page.get(), 1, rule);
+    if (stopped()) return {};
     if (character > 0 && character < smallCharacterPixels &&
         qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
         PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));

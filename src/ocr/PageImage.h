@@ -3,6 +3,7 @@
 // and without the table's ruled lines.
 #include <QImage>
 #include <QString>
+#include <functional>
 #include <memory>
 
 struct Pix;
@@ -31,7 +32,7 @@ QImage tiffPage(const QString& path, int index);
 
 // Grey, opaque and evenly lit, turned level when the page is tilted, with the table's
 // horizontal and vertical rules painted out, and enlarged twice when the print is small.
-// Null for a null image.
-PixPtr prepare(const QImage& image);
+// Null for a null image, and when `stop` (asked between the steps) says so.
+PixPtr prepare(const QImage& image, const std::function<bool()>& stop = {});
 
 } // namespace tarvanel::PageImage

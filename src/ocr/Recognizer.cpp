@@ -36,7 +36,7 @@ bool Recognizer::load() {
 }
 
 bool Recognizer::recognize() {
-    if (stop_ && stop_()) return false;
+    if (stopped()) return false;
     tesseract::ETEXT_DESC monitor;
     monitor.set_deadline_msecs(deadlineMs);
     if (stop_) {
@@ -46,7 +46,7 @@ bool Recognizer::recognize() {
         };
     }
     if (api_.Recognize(&monitor) == 0) return true;
-    if (!stop_ || !stop_()) logLine(QStringLiteral("Tarvanel: text recognition failed"));
+    if (!stopped()) logLine(QStringLiteral("Tarvanel: text recognition failed"));
     return false;
 }
 

@@ -27,6 +27,7 @@ public:
 
     // Asked between words; true ends the recognition under way and every later one at once.
     void stopWhen(std::function<bool()> stop) { stop_ = std::move(stop); }
+    bool stopped() const { return stop_ && stop_(); }
 
 private:
     bool recognize();

@@ -99,7 +99,8 @@ QStringList lines(const QImage& image) {
 }
 
 QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& marks) {
-    const PageImage::PixPtr page = PageImage::prepare(image);
+    const PageImage::PixPtr page =
+        PageImage::prepare(image, [&recognizer] { return recognizer.stopped(); });
     if (!page) return {};
     // A sheet read as one block of rows is quickest and keeps wide rows whole; a page with
     // several blocks of text needs the automatic layout.

@@ -62,6 +62,8 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     editor_ = new QPlainTextEdit(form);
     editor_->setFont(monospaced());
     editor_->setMinimumHeight(150);
+    // One row of the sheet a line: the marks and "line 6" in the summary stay one line each.
+    editor_->setLineWrapMode(QPlainTextEdit::NoWrap);
     editor_->setAccessibleName(QStringLiteral("1. Your masjid's timetable"));
     textRows->addWidget(editor_);
     auto* fileRow = new QHBoxLayout;
@@ -254,6 +256,7 @@ void TimetableImportView::refreshMarks() {
     for (const RowProblem& problem : model_->problems()) {
         QTextEdit::ExtraSelection row;
         row.cursor = QTextCursor(editor_->document()->findBlockByNumber(problem.line));
+        row.cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
         row.format.setBackground(QColor(0xF8, 0xD7, 0xD3));
         row.format.setProperty(QTextFormat::FullWidthSelection, true);
         marks << row;

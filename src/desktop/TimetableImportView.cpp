@@ -66,6 +66,7 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     editor_->setLineWrapMode(QPlainTextEdit::NoWrap);
     editor_->setAccessibleName(QStringLiteral("1. Your masjid's timetable"));
     textRows->addWidget(editor_);
+    marks_ = std::make_unique<TimetableTextMarks>(editor_);
     auto* fileRow = new QHBoxLayout;
     auto* choose = new QPushButton(QStringLiteral("Choose File…"), form);
     choose->setAccessibleName(choose->text());
@@ -89,6 +90,8 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     problems_->setPalette(warning);
     problems_->installEventFilter(this);
     textRows->addWidget(problems_);
+    doubts_ = secondary(QString(), form);
+    textRows->addWidget(doubts_);
     formLayout->addWidget(section(
         QStringLiteral("1. Your masjid's timetable"),
         QStringLiteral("Paste it from the masjid's website or PDF, or choose a CSV, a photo or a "
@@ -162,7 +165,7 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     connect(model_, &TimetableImportModel::textChanged, this, [this] {
         if (editor_->toPlainText() == model_->text()) return;
         editor_->setPlainText(model_->text());
-        takeDoubtfulCells();
+        marks_->take(model_->doubtfulCells());
         refreshMarks();
     });
     connect(model_, &TimetableImportModel::changed, this, &TimetableImportView::refresh);
@@ -238,37 +241,11 @@ void TimetableImportView::goToFirstProblem() {
     editor_->setFocus();
 }
 
-void TimetableImportView::takeDoubtfulCells() {
-    doubtful_.clear();
-    for (const TextMark& mark : model_->doubtfulCells()) {
-        const QTextBlock block = editor_->document()->findBlockByNumber(mark.line);
-        if (!block.isValid() || mark.start + mark.length > block.length()) continue;
-        QTextCursor cell(block);
-        cell.setPosition(block.position() + mark.start);
-        cell.setPosition(block.position() + mark.start + mark.length, QTextCursor::KeepAnchor);
-        doubtful_ << cell;
-    }
-}
-
-// Rows that will not be saved on a pink band; cells settled from their neighbours on yellow.
 void TimetableImportView::refreshMarks() {
-    QList<QTextEdit::ExtraSelection> marks;
-    for (const RowProblem& problem : model_->problems()) {
-        QTextEdit::ExtraSelection row;
-        row.cursor = QTextCursor(editor_->document()->findBlockByNumber(problem.line));
-        row.cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-        row.format.setBackground(QColor(0xF8, 0xD7, 0xD3));
-        row.format.setProperty(QTextFormat::FullWidthSelection, true);
-        marks << row;
-    }
-    for (const QTextCursor& cell : std::as_const(doubtful_)) {
-        if (!cell.hasSelection()) continue; // typed over
-        QTextEdit::ExtraSelection mark;
-        mark.cursor = cell;
-        mark.format.setBackground(QColor(0xFF, 0xE8, 0x8C));
-        marks << mark;
-    }
-    editor_->setExtraSelections(marks);
+    const QString note = TimetableTextMarks::note(marks_->show(model_->problems()));
+    doubts_->setText(note);
+    doubts_->setAccessibleName(note);
+    doubts_->setVisible(!note.isEmpty());
 }
 
 void TimetableImportView::refresh() {

@@ -1,13 +1,14 @@
 #pragma once
 // The import form: the sheet's text (typed, pasted, or read from a file), which column is
 // which prayer, month and year, and a preview of the days that "Use This Timetable" saves.
+#include "desktop/TimetableTextMarks.h"
 #include "ocr/TimetableOCR.h"
 #include "timetable/TimetableImportModel.h"
 
 #include <QPointer>
-#include <QTextCursor>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 class QComboBox;
 class QLabel;
@@ -41,7 +42,6 @@ protected:
 private:
     void refresh();
     void refreshMarks();
-    void takeDoubtfulCells();
     void refreshPickers();
     void refreshPreview();
 
@@ -53,7 +53,8 @@ private:
     QProgressBar* spinner_;
     QLabel* status_;
     QLabel* problems_;
-    QList<QTextCursor> doubtful_; // follow the user's edits
+    QLabel* doubts_; // how many cells the reading settled from their neighbours
+    std::unique_ptr<TimetableTextMarks> marks_;
     QList<QComboBox*> pickers_;
     QComboBox* month_;
     QSpinBox* year_;

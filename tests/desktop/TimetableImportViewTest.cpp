@@ -130,6 +130,14 @@ TEST(TimetableImportViewTest, CellsSettledFromTheirNeighboursAreMarkedUntilTyped
     for (const QTextEdit::ExtraSelection& s : editor->extraSelections())
         marked << s.cursor.selectedText();
     EXPECT_EQ(marked, QStringList({"1:10", "2"}));
+    auto note = [&] {
+        for (auto* label : view.findChildren<QLabel*>())
+            if (label->text().contains("hard to read") && label->isVisibleTo(&view))
+                return label->text();
+        return QString();
+    };
+    EXPECT_EQ(note(), "2 cells were hard to read and are marked in yellow: check them against the "
+                      "sheet.");
     // Typing elsewhere moves the marks along; typing over one removes it.
     QTextCursor start(editor->document());
     start.insertText("Masjid ");
@@ -140,5 +148,7 @@ TEST(TimetableImportViewTest, CellsSettledFromTheirNeighboursAreMarkedUntilTyped
     for (const QTextEdit::ExtraSelection& s : editor->extraSelections())
         marked << s.cursor.selectedText();
     EXPECT_EQ(marked, QStringList({"2"}));
+    EXPECT_EQ(note(),
+              "1 cell was hard to read and is marked in yellow: check it against the sheet.");
     EXPECT_EQ(model.days().value("2026-03-01").value("Dhuhr"), "13:15");
 }

@@ -53,8 +53,6 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
     for (const OcrLines::Doubt& doubt : OcrLines::doubtful(items)) {
         QString& text = items[doubt.item].text;
         const bool time = doubt.kind == OcrLines::Doubt::Time;
-        // Shown to the user to check, once it reads as a cell the table can use.
-        items[doubt.item].doubtful = true;
         if (!time && doubt.expected > 0) { // the count says it; no need to look again
             text = OcrLines::settle(doubt, text, {});
             continue;
@@ -78,10 +76,13 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
                  QList<TextMark>& marks) {
     const QList<Recognizer::Word> words = recognizer.words(page, mode);
     QList<RecognizedItem> items = relative(words, page);
+    const QList<RecognizedItem> first = items;
     repair(items, words, recognizer, page);
-    for (RecognizedItem& item : items)
-        item.doubtful =
-            item.doubtful && (OcrLines::isTime(item.text) || OcrLines::isDay(item.text));
+    // A cell the second reading or its neighbours changed is shown to the user to check, once
+    // it reads as a cell the table can use.
+    for (qsizetype i = 0; i < items.size(); ++i)
+        items[i].doubtful = items[i].text != first[i].text &&
+                            (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));
     return OcrLines::group(items, marks);
 }
 

@@ -163,8 +163,9 @@ TEST(TimetablePagesTest, ScannedPdfAndTiffPagesAreRecognisedOneAfterAnother) {
         const SheetReading read = SheetReader::read(path);
         EXPECT_EQ(std::pair(read.pagesRead, read.pageCount), std::pair(2, 2));
         const DayTable have = daysOf(read.lines);
-        std::printf("%s: %d of %d jamaat cells right\n", qPrintable(QFileInfo(path).fileName()),
-                    cellsRight(want, have), 61 * 5);
+        std::printf("%s: %d of %d jamaat cells right, %lld marked doubtful\n",
+                    qPrintable(QFileInfo(path).fileName()), cellsRight(want, have), 61 * 5,
+                    (long long)read.doubtful.size());
         EXPECT_GE(cellsRight(want, have), 61 * 5 * 98 / 100) << read.lines.join('\n').toStdString();
         EXPECT_TRUE(have.contains("2026-03-31") && have.contains("2026-04-30"));
         for (const TextMark& mark : read.doubtful)

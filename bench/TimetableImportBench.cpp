@@ -32,6 +32,15 @@ void BM_ReparseFortyLines(benchmark::State& state) {
 }
 BENCHMARK(BM_ReparseFortyLines)->Unit(benchmark::kMicrosecond);
 
+// What the window redraws after each edit besides the parse: the rows that won't be saved.
+void BM_ProblemsFortyLines(benchmark::State& state) {
+    TimetableImportModel model;
+    model.setText(fortyLines());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(model.problemSummary().size());
+}
+BENCHMARK(BM_ProblemsFortyLines)->Unit(benchmark::kMicrosecond);
+
 } // namespace
 
 BENCHMARK_MAIN();

@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSpinBox>
+#include <QTextBlock>
 
 namespace tarvanel {
 
@@ -61,8 +62,11 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     editor_ = new QPlainTextEdit(form);
     editor_->setFont(monospaced());
     editor_->setMinimumHeight(150);
+    // One row of the sheet a line: the marks and "line 6" in the summary stay one line each.
+    editor_->setLineWrapMode(QPlainTextEdit::NoWrap);
     editor_->setAccessibleName(QStringLiteral("1. Your masjid's timetable"));
     textRows->addWidget(editor_);
+    marks_ = std::make_unique<TimetableTextMarks>(editor_);
     auto* fileRow = new QHBoxLayout;
     auto* choose = new QPushButton(QStringLiteral("Choose File…"), form);
     choose->setAccessibleName(choose->text());
@@ -76,6 +80,18 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     fileRow->addWidget(spinner_);
     fileRow->addWidget(status_, 1);
     textRows->addLayout(fileRow);
+    // Rows that would be dropped: a click takes the cursor to the first so it can be mended.
+    problems_ = new QLabel(form);
+    problems_->setWordWrap(true);
+    problems_->setCursor(Qt::PointingHandCursor);
+    problems_->setFocusPolicy(Qt::TabFocus);
+    QPalette warning = problems_->palette();
+    warning.setColor(QPalette::WindowText, QColor(0xB0, 0x3A, 0x2E));
+    problems_->setPalette(warning);
+    problems_->installEventFilter(this);
+    textRows->addWidget(problems_);
+    doubts_ = secondary(QString(), form);
+    textRows->addWidget(doubts_);
     formLayout->addWidget(section(
         QStringLiteral("1. Your masjid's timetable"),
         QStringLiteral("Paste it from the masjid's website or PDF, or choose a CSV, a photo or a "
@@ -147,7 +163,10 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
         if (editor_->toPlainText() != model_->text()) model_->setText(editor_->toPlainText());
     });
     connect(model_, &TimetableImportModel::textChanged, this, [this] {
-        if (editor_->toPlainText() != model_->text()) editor_->setPlainText(model_->text());
+        if (editor_->toPlainText() == model_->text()) return;
+        editor_->setPlainText(model_->text());
+        marks_->take(model_->doubtfulCells());
+        refreshMarks();
     });
     connect(model_, &TimetableImportModel::changed, this, &TimetableImportView::refresh);
     connect(month_, &QComboBox::activated, this,
@@ -155,6 +174,8 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     connect(year_, &QSpinBox::valueChanged, this, [this](int year) { model_->setYear(year); });
     connect(reader_, &TimetableImageReader::finished, model_,
             &TimetableImportModel::imageReadFinished);
+    connect(reader_, &TimetableImageReader::progress, model_,
+            &TimetableImportModel::imageReadProgress);
     connect(choose, &QPushButton::clicked, this, &TimetableImportView::chooseFile);
     connect(cancelButton, &QPushButton::clicked, this, [this] { cancel_(); });
     connect(use_, &QPushButton::clicked, this, [this] {
@@ -197,10 +218,45 @@ void TimetableImportView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+bool TimetableImportView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == problems_) {
+        const bool click = event->type() == QEvent::MouseButtonRelease;
+        const bool key = event->type() == QEvent::KeyPress &&
+                         (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space ||
+                          static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return);
+        if (click || key) {
+            goToFirstProblem();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void TimetableImportView::goToFirstProblem() {
+    const QList<RowProblem> problems = model_->problems();
+    if (problems.isEmpty()) return;
+    QTextCursor cursor(editor_->document()->findBlockByNumber(problems.first().line));
+    editor_->setTextCursor(cursor);
+    editor_->ensureCursorVisible();
+    editor_->setFocus();
+}
+
+void TimetableImportView::refreshMarks() {
+    const QString note = TimetableTextMarks::note(marks_->show(model_->problems()));
+    doubts_->setText(note);
+    doubts_->setAccessibleName(note);
+    doubts_->setVisible(!note.isEmpty());
+}
+
 void TimetableImportView::refresh() {
     spinner_->setVisible(model_->reading());
     status_->setText(model_->status());
     status_->setAccessibleName(model_->status());
+    const QString problems = model_->problemSummary();
+    problems_->setText(problems);
+    problems_->setAccessibleName(problems);
+    problems_->setVisible(!problems.isEmpty());
+    refreshMarks();
     refreshPickers();
     month_->setCurrentIndex(model_->month() - 1);
     const QSignalBlocker block(year_);

@@ -1,12 +1,14 @@
 #pragma once
 // The import form: the sheet's text (typed, pasted, or read from a file), which column is
 // which prayer, month and year, and a preview of the days that "Use This Timetable" saves.
+#include "desktop/TimetableTextMarks.h"
 #include "ocr/TimetableOCR.h"
 #include "timetable/TimetableImportModel.h"
 
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 class QComboBox;
 class QLabel;
@@ -30,11 +32,16 @@ public:
     void openFile(const QString& path);
     void chooseFile(); // the open panel; nothing happens when it is cancelled
 
+    // Puts the text cursor at the start of the first row that would not be saved.
+    void goToFirstProblem();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void refresh();
+    void refreshMarks();
     void refreshPickers();
     void refreshPreview();
 
@@ -45,6 +52,9 @@ private:
     QPlainTextEdit* editor_;
     QProgressBar* spinner_;
     QLabel* status_;
+    QLabel* problems_;
+    QLabel* doubts_; // how many cells the reading settled from their neighbours
+    std::unique_ptr<TimetableTextMarks> marks_;
     QList<QComboBox*> pickers_;
     QComboBox* month_;
     QSpinBox* year_;

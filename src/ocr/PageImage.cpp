@@ -1,10 +1,12 @@
 #include "ocr/PageImage.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <leptonica/allheaders.h>
 #include <poppler-qt6.h>
 #include <vector>
@@ -35,11 +37,12 @@ QImage loadPdfPage(const QString& path) {
     if (!page) return {};
     doc->setRenderHint(Poppler::Document::Antialiasing);
     doc->setRenderHint(Poppler::Document::TextAntialiasing);
-    const QSizeF points = page->pageSizeF(); // 1/72 inch
-    double dpi = 300;
-    const double pixels = points.width() * points.height() * (dpi / 72) * (dpi / 72);
-    if (pixels > double(maxPixels)) dpi *= std::sqrt(double(maxPixels) / pixels);
-    return page->renderToImage(dpi, dpi);
+    return render(*page);
+}
+
+bool isTiff(const QString& path) {
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == QLatin1String("tif") || suffix == QLatin1String("tiff");
 }
 
 PixPtr greyPix(const QImage& image) {
@@ -122,9 +125,49 @@ int typicalCharacterHeight(Pix* page) {
 
 } // namespace
 
+QImage render(const Poppler::Page& page) {
+    const QSizeF points = page.pageSizeF(); // 1/72 inch
+    double dpi = 300;
+    const double pixels = points.width() * points.height() * (dpi / 72) * (dpi / 72);
+    if (pixels > double(maxPixels)) dpi *= std::sqrt(double(maxPixels) / pixels);
+    return page.renderToImage(dpi, dpi);
+}
+
+int tiffPageCount(const QString& path) {
+    FILE* file = std::fopen(QFile::encodeName(path).constData(), "rb");
+    if (!file) return 0;
+    l_int32 count = 0;
+    if (tiffGetCount(file, &count) != 0) count = 0;
+    std::fclose(file);
+    return count;
+}
+
+QImage tiffPage(const QString& path, int index) {
+    PixPtr page(pixReadTiff(QFile::encodeName(path).constData(), index));
+    if (!page) return {};
+    const qint64 pixels = qint64(pixGetWidth(page.get())) * pixGetHeight(page.get());
+    if (pixels > maxPixels) {
+        const float f = float(std::sqrt(double(maxPixels) / double(pixels)));
+        page.reset(pixScale(page.get(), f, f));
+    }
+    const PixPtr grey(page ? pixConvertTo8(page.get(), 0) : nullptr);
+    if (!grey) return {};
+    QImage image(pixGetWidth(grey.get()), pixGetHeight(grey.get()), QImage::Format_Grayscale8);
+    const l_uint32* data = pixGetData(grey.get());
+    const int wpl = pixGetWpl(grey.get());
+    for (int y = 0; y < image.height(); ++y) {
+        uchar* to = image.scanLine(y);
+        const l_uint32* line = data + y * wpl;
+        for (int x = 0; x < image.width(); ++x)
+            to[x] = uchar(GET_DATA_BYTE(line, x));
+    }
+    return image;
+}
+
 QImage load(const QString& path) {
     if (QFileInfo(path).suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive) == 0)
         return loadPdfPage(path);
+    if (isTiff(path)) return tiffPage(path, 0);
     QImageReader reader(path);
     reader.setAutoTransform(true); // a phone photo's orientation tag
     const QSize size = reader.size();
@@ -137,15 +180,21 @@ QImage load(const QString& path) {
     return image;
 }
 
-PixPtr prepare(const QImage& image) {
+PixPtr prepare(const QImage& image, const std::function<bool()>& stop) {
     if (image.isNull()) return {};
-    PixPtr page = levelled(evenlyLit(greyPix(image)));
+    auto stopped = [&] { return stop && stop(); };
+    PixPtr page = evenlyLit(greyPix(image));
+    if (stopped()) return {};
+    page = levelled(std::move(page));
+    if (stopped()) return {};
     const int character = typicalCharacterHeight(page.get());
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled
     // again, which runs in steps, still counts.
     const int rule = std::max(51, 3 * character) | 1;
     withoutRules(page.get(), rule, 1);
+    if (stopped()) return {};
     withoutRules(page.get(), 1, rule);
+    if (stopped()) return {};
     if (character > 0 && character < smallCharacterPixels &&
         qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
         PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));

@@ -3,9 +3,13 @@
 // and without the table's ruled lines.
 #include <QImage>
 #include <QString>
+#include <functional>
 #include <memory>
 
 struct Pix;
+namespace Poppler {
+class Page;
+}
 
 namespace tarvanel::PageImage {
 
@@ -19,10 +23,16 @@ using PixPtr = std::unique_ptr<Pix, PixFree>;
 // not an image, no pages, a password.
 inline constexpr qint64 maxPixels = 12'000'000;
 QImage load(const QString& path);
+// One page of a PDF drawn at 300 dpi, or less when that would pass `maxPixels`.
+QImage render(const Poppler::Page& page);
+// The pages of a TIFF file (a scanner's several months); 0 when it is none or does not load.
+int tiffPageCount(const QString& path);
+// Page `index` (from 0) of a TIFF file, grey, within `maxPixels`; null when it does not load.
+QImage tiffPage(const QString& path, int index);
 
 // Grey, opaque and evenly lit, turned level when the page is tilted, with the table's
 // horizontal and vertical rules painted out, and enlarged twice when the print is small.
-// Null for a null image.
-PixPtr prepare(const QImage& image);
+// Null for a null image, and when `stop` (asked between the steps) says so.
+PixPtr prepare(const QImage& image, const std::function<bool()>& stop = {});
 
 } // namespace tarvanel::PageImage

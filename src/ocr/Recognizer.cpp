@@ -36,10 +36,17 @@ bool Recognizer::load() {
 }
 
 bool Recognizer::recognize() {
+    if (stopped()) return false;
     tesseract::ETEXT_DESC monitor;
     monitor.set_deadline_msecs(deadlineMs);
+    if (stop_) {
+        monitor.cancel_this = &stop_;
+        monitor.cancel = [](void* stop, int) {
+            return (*static_cast<std::function<bool()>*>(stop))();
+        };
+    }
     if (api_.Recognize(&monitor) == 0) return true;
-    logLine(QStringLiteral("Tarvanel: text recognition failed"));
+    if (!stopped()) logLine(QStringLiteral("Tarvanel: text recognition failed"));
     return false;
 }
 

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QRect>
 #include <QString>
+#include <functional>
 #include <tesseract/baseapi.h>
 
 struct Pix;
@@ -24,10 +25,15 @@ public:
     // `scale` times; the pass for a cell whose first reading is doubtful.
     QString reread(Pix* page, QRect box, const char* allowed, int scale);
 
+    // Asked between words; true ends the recognition under way and every later one at once.
+    void stopWhen(std::function<bool()> stop) { stop_ = std::move(stop); }
+    bool stopped() const { return stop_ && stop_(); }
+
 private:
     bool recognize();
 
     tesseract::TessBaseAPI api_;
+    std::function<bool()> stop_;
 };
 
 } // namespace tarvanel

@@ -2,6 +2,7 @@
 
 #include "ocr/PageImage.h"
 #include "ocr/Recognizer.h"
+#include "ocr/SheetReader.h"
 #include "timetable/OcrLines.h"
 #include "timetable/TimetableParser.h"
 
@@ -71,11 +72,18 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
     }
 }
 
-QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode) {
+QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
+                 QList<TextMark>& marks) {
     const QList<Recognizer::Word> words = recognizer.words(page, mode);
     QList<RecognizedItem> items = relative(words, page);
+    const QList<RecognizedItem> first = items;
     repair(items, words, recognizer, page);
-    return OcrLines::group(items);
+    // A cell the second reading or its neighbours changed is shown to the user to check, once
+    // it reads as a cell the table can use.
+    for (qsizetype i = 0; i < items.size(); ++i)
+        items[i].doubtful = items[i].text != first[i].text &&
+                            (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));
+    return OcrLines::group(items, marks);
 }
 
 } // namespace
@@ -85,21 +93,34 @@ QImage loadImage(const QString& path) {
 }
 
 QStringList lines(const QImage& image) {
-    const PageImage::PixPtr page = PageImage::prepare(image);
-    if (!page) return {};
     Recognizer recognizer;
     if (!recognizer.load()) return {};
+    QList<TextMark> marks;
+    return lines(image, recognizer, marks);
+}
+
+QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& marks) {
+    const PageImage::PixPtr page =
+        PageImage::prepare(image, [&recognizer] { return recognizer.stopped(); });
+    if (!page) return {};
     // A sheet read as one block of rows is quickest and keeps wide rows whole; a page with
     // several blocks of text needs the automatic layout.
-    const QStringList column = read(recognizer, page.get(), tesseract::PSM_SINGLE_BLOCK);
+    QList<TextMark> columnMarks, layoutMarks;
+    const QStringList column =
+        read(recognizer, page.get(), tesseract::PSM_SINGLE_BLOCK, columnMarks);
     const TableShape shape = tableShape(column);
-    if (shape.times == 0 || shape.cells == shape.times) return column;
-    const QStringList layout = read(recognizer, page.get(), tesseract::PSM_AUTO);
-    return tableShape(layout).cells > shape.cells ? layout : column;
+    if (shape.times == 0 || shape.cells == shape.times) {
+        marks = columnMarks;
+        return column;
+    }
+    const QStringList layout = read(recognizer, page.get(), tesseract::PSM_AUTO, layoutMarks);
+    const bool byLayout = tableShape(layout).cells > shape.cells;
+    marks = byLayout ? layoutMarks : columnMarks;
+    return byLayout ? layout : column;
 }
 
 QStringList readFile(const QString& path) {
-    return lines(loadImage(path));
+    return SheetReader::read(path).lines;
 }
 
 void restartWithThreadLimit(char** argv) {
@@ -110,14 +131,37 @@ void restartWithThreadLimit(char** argv) {
 
 } // namespace TimetableOCR
 
+TimetableImageReader::~TimetableImageReader() {
+    cancel();
+}
+
+void TimetableImageReader::cancel() {
+    for (QFutureWatcher<SheetReading>* watcher : std::as_const(watchers_)) {
+        watcher->cancel();
+    }
+}
+
 void TimetableImageReader::read(const QString& path) {
-    auto* watcher = new QFutureWatcher<QStringList>(this);
+    auto* watcher = new QFutureWatcher<SheetReading>(this);
+    watchers_ << watcher;
     const QString fileName = QFileInfo(path).fileName();
-    connect(watcher, &QFutureWatcher<QStringList>::finished, this, [this, watcher, fileName] {
+    connect(watcher, &QFutureWatcher<SheetReading>::finished, this, [this, watcher, fileName] {
+        watchers_.removeOne(watcher);
         watcher->deleteLater();
-        emit finished(fileName, watcher->result());
+        if (!watcher->isCanceled() && watcher->future().resultCount() > 0)
+            emit finished(fileName, watcher->result());
     });
-    watcher->setFuture(QtConcurrent::run(&TimetableOCR::readFile, path));
+    connect(watcher, &QFutureWatcher<SheetReading>::progressValueChanged, this,
+            [this, watcher](int page) { emit progress(page, watcher->progressMaximum()); });
+    watcher->setFuture(QtConcurrent::run([path](QPromise<SheetReading>& promise) {
+        SheetReader::Hooks hooks;
+        hooks.stop = [&promise] { return promise.isCanceled(); };
+        hooks.progress = [&promise](int page, int pageCount) {
+            promise.setProgressRange(0, pageCount);
+            promise.setProgressValue(page);
+        };
+        promise.addResult(SheetReader::read(path, hooks));
+    }));
 }
 
 } // namespace tarvanel

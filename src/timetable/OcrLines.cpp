@@ -81,12 +81,22 @@ bool isDay(const QString& word) {
 }
 
 QStringList group(const QList<RecognizedItem>& items) {
+    QList<TextMark> marks;
+    return group(items, marks);
+}
+
+QStringList group(const QList<RecognizedItem>& items, QList<TextMark>& marks) {
+    static const QString gap = QStringLiteral("   ");
     QStringList out;
     for (const QList<qsizetype>& line : lineIndices(items)) {
-        QStringList texts;
-        for (qsizetype i : line)
-            texts << items[i].text;
-        out << texts.join(QStringLiteral("   "));
+        QString text;
+        for (qsizetype i : line) {
+            if (!text.isEmpty()) text += gap;
+            if (items[i].doubtful)
+                marks.append({int(out.size()), int(text.size()), int(items[i].text.size())});
+            text += items[i].text;
+        }
+        out << text;
     }
     return out;
 }
@@ -229,10 +239,14 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
 }
 
 QRectF relativeBox(int left, int top, int right, int bottom, int width, int height) {
-    if (width <= 0 || height <= 0) return {};
-    const qreal w = width;
-    const qreal h = height;
-    return QRectF(left / w, (h - bottom) / h, (right - left) / w, (bottom - top) / h);
+    return relativeBox(QRectF(QPointF(left, top), QPointF(right, bottom)), QSizeF(width, height));
+}
+
+QRectF relativeBox(const QRectF& box, const QSizeF& page) {
+    if (page.width() <= 0 || page.height() <= 0) return {};
+    const qreal w = page.width();
+    const qreal h = page.height();
+    return QRectF(box.left() / w, (h - box.bottom()) / h, box.width() / w, box.height() / h);
 }
 
 } // namespace tarvanel::OcrLines

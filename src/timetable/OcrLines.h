@@ -2,6 +2,7 @@
 // Recognised words of an image grouped into the text lines of the sheet they came from.
 #include <QList>
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
@@ -12,6 +13,24 @@ struct RecognizedItem {
     // Relative to the image (0..1 on both axes) with the vertical axis pointing up:
     // y is the bottom edge.
     QRectF box;
+    bool doubtful = false; // read again, or settled from the neighbouring rows
+};
+
+// A stretch of one line of text: a cell whose reading was doubtful.
+struct TextMark {
+    int line = 0;
+    int start = 0;
+    int length = 0;
+    bool operator==(const TextMark&) const = default;
+};
+
+// What reading a file gave: its text lines, top to bottom and page after page, the cells
+// among them that were settled from their neighbours, and how many pages were read of how many.
+struct SheetReading {
+    QStringList lines;
+    QList<TextMark> doubtful;
+    int pagesRead = 0;
+    int pageCount = 0;
 };
 
 namespace OcrLines {
@@ -20,6 +39,8 @@ namespace OcrLines {
 // (median) item height of the line's first item; a line's items are joined left to right with
 // three spaces.
 QStringList group(const QList<RecognizedItem>& items);
+// The same lines, with where each item marked `doubtful` ended up in them.
+QStringList group(const QList<RecognizedItem>& items, QList<TextMark>& marks);
 
 // A word that stands where a table's times or day numbers stand but does not read as one;
 // worth reading again with only the characters those are written with.
@@ -48,6 +69,7 @@ bool isDay(const QString& word);
 
 // A box in pixels (y down, as recognisers report it) made image-relative with y up.
 QRectF relativeBox(int left, int top, int right, int bottom, int width, int height);
+QRectF relativeBox(const QRectF& box, const QSizeF& page);
 
 } // namespace OcrLines
 } // namespace tarvanel

@@ -80,7 +80,7 @@ QStringList TimetableImportModel::monthNames() {
 }
 
 std::optional<MonthAndYear> TimetableImportModel::monthAndYear(const QString& text) {
-    const QString haystack = text.toLower();
+    const QString haystack = TimetableParser::plainDigits(text).toLower();
     const QStringList names = monthNames();
     auto letterAt = [&](qsizetype i) {
         return i >= 0 && i < haystack.size() && haystack[i].isLetter();
@@ -122,7 +122,12 @@ ImportFileKind TimetableImportModel::kindOf(const QString& path) {
 }
 
 void TimetableImportModel::setText(const QString& text) {
+    assignText(text, {});
+}
+
+void TimetableImportModel::assignText(const QString& text, const QList<TextMark>& doubtful) {
     text_ = text;
+    doubtful_ = doubtful;
     reparse();
     emit textChanged();
 }
@@ -165,6 +170,7 @@ void TimetableImportModel::reparse() {
                       .arg(rows_.size() == 1 ? "" : "s")
                       .arg(columnCount_);
     }
+    if (!pagesNote_.isEmpty()) status_ += u' ' + pagesNote_;
     emit changed();
 }
 
@@ -190,21 +196,66 @@ void TimetableImportModel::setStatus(const QString& status) {
     emit changed();
 }
 
-QList<ParsedRow> TimetableImportModel::usableRows() const {
+int TimetableImportModel::largestColumn() const {
     int largest = -1;
     for (int position : columns_)
         largest = std::max(largest, position);
+    return largest;
+}
+
+namespace {
+ColumnMap chosenOnly(const ColumnMap& columns) {
+    ColumnMap chosen;
+    for (auto it = columns.begin(); it != columns.end(); ++it)
+        if (it.value() >= 0) chosen.insert(it.key(), it.value());
+    return chosen;
+}
+
+QList<ParsedRow> usable(const QList<ParsedRow>& rows, int largest) {
     QList<ParsedRow> usable;
-    for (const ParsedRow& row : rows_)
+    for (const ParsedRow& row : rows)
         if (row.times.size() >= largest + 1) usable << row;
     return usable;
 }
 
+// A sheet of several months numbered by day alone (a Ramadan sheet, one month a page): where
+// the count falls from the month's last days back to its first, the rows that follow belong to
+// the next month. Those rows get that month's date; a day it does not have gets none.
+QList<ParsedRow> continuedMonths(QList<ParsedRow> rows, int month, int year) {
+    int monthsOn = 0;
+    int last = 0;
+    for (ParsedRow& row : rows) {
+        if (row.date || !row.day) continue;
+        if (last >= 28 && *row.day >= 1 && *row.day <= 3) ++monthsOn;
+        last = *row.day;
+        if (monthsOn == 0) continue;
+        const QDate first = QDate(year, month, 1).addMonths(monthsOn);
+        const QDate date(first.year(), first.month(), *row.day);
+        if (date.isValid())
+            row.date = date;
+        else
+            row.day.reset();
+    }
+    return rows;
+}
+} // namespace
+
+QList<ParsedRow> TimetableImportModel::usableRows() const {
+    return usable(rows_, largestColumn());
+}
+
 DayTable TimetableImportModel::days() const {
-    ColumnMap chosen;
-    for (auto it = columns_.begin(); it != columns_.end(); ++it)
-        if (it.value() >= 0) chosen.insert(it.key(), it.value());
-    return TimetableParser::days(usableRows(), month_, year_, chosen);
+    return TimetableParser::days(usable(continuedMonths(rows_, month_, year_), largestColumn()),
+                                 month_, year_, chosenOnly(columns_));
+}
+
+QList<RowProblem> TimetableImportModel::problems() const {
+    return RowProblems::find(continuedMonths(rows_, month_, year_), month_, year_, largestColumn(),
+                             chosenOnly(columns_));
+}
+
+QString TimetableImportModel::problemSummary() const {
+    return RowProblems::describe(problems(), month_, monthNames());
 }
 
 QList<std::pair<QString, QMap<QString, QString>>> TimetableImportModel::preview() const {
@@ -235,6 +286,7 @@ void TimetableImportModel::loadTextFile(const QString& path) {
         setStatus(couldNotRead(info.fileName()));
         return;
     }
+    pagesNote_.clear();
     setText(*text);
 }
 
@@ -243,13 +295,25 @@ void TimetableImportModel::imageReadStarted(const QString& fileName) {
     setStatus(QStringLiteral("Reading ") + fileName + QStringLiteral("\u2026"));
 }
 
-void TimetableImportModel::imageReadFinished(const QString& fileName, const QStringList& lines) {
+void TimetableImportModel::imageReadProgress(int page, int pageCount) {
+    if (readsUnderWay_ > 0 && pageCount > 1)
+        setStatus(QStringLiteral("Reading page %1 of %2\u2026").arg(page).arg(pageCount));
+}
+
+void TimetableImportModel::imageReadFinished(const QString& fileName, const SheetReading& reading) {
     readsUnderWay_ = std::max(0, readsUnderWay_ - 1);
-    if (lines.isEmpty()) {
+    if (reading.lines.isEmpty()) {
         setStatus(couldNotRead(fileName));
         return;
     }
-    setText(lines.join(QLatin1Char('\n')));
+    pagesNote_.clear();
+    if (reading.pageCount > reading.pagesRead)
+        pagesNote_ = QStringLiteral("Read the first %1 of %2 pages.")
+                         .arg(reading.pagesRead)
+                         .arg(reading.pageCount);
+    else if (reading.pagesRead > 1)
+        pagesNote_ = QStringLiteral("Read %1 pages.").arg(reading.pagesRead);
+    assignText(reading.lines.join(QLatin1Char('\n')), reading.doubtful);
 }
 
 } // namespace tarvanel

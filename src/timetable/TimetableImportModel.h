@@ -1,6 +1,8 @@
 #pragma once
 // The import window's state and logic: the sheet's text, the rows found in it, the chosen
 // columns, month and year, and the day table that "Use This Timetable" would save.
+#include "timetable/OcrLines.h"
+#include "timetable/RowProblems.h"
 #include "timetable/TimetableParser.h"
 
 #include <QList>
@@ -53,6 +55,13 @@ public:
     DayTable days() const;
     QList<std::pair<QString, QMap<QString, QString>>> preview() const;
     QString columnLabel(int i) const;
+    // The rows found that would not be saved, in line order, and the line that says so
+    // ("3 rows can't be used: …"; empty when every row is used).
+    QList<RowProblem> problems() const;
+    QString problemSummary() const;
+    // The cells of the last file read that were settled from their neighbours; cleared when
+    // anything else sets the text.
+    const QList<TextMark>& doubtfulCells() const { return doubtful_; }
 
     // A text or CSV file: UTF-8, or UTF-16/32 with a byte-order mark. Anything else (too big,
     // binary, unreadable) leaves `text` alone and says so in `status`.
@@ -60,7 +69,9 @@ public:
     // An image or PDF read elsewhere: announce it, then hand over the recognised lines. Each
     // finished read with lines sets `text`, so the one that finishes last wins.
     void imageReadStarted(const QString& fileName);
-    void imageReadFinished(const QString& fileName, const QStringList& lines);
+    // "Reading page 3 of 12…" while a file of several pages is read.
+    void imageReadProgress(int page, int pageCount);
+    void imageReadFinished(const QString& fileName, const SheetReading& reading);
 
 signals:
     void textChanged();
@@ -69,6 +80,8 @@ signals:
 
 private:
     void setStatus(const QString& status);
+    void assignText(const QString& text, const QList<TextMark>& doubtful);
+    int largestColumn() const;
 
     QString text_;
     QList<ParsedRow> rows_;
@@ -78,6 +91,8 @@ private:
     int year_;
     QString status_;
     int readsUnderWay_ = 0;
+    QList<TextMark> doubtful_;
+    QString pagesNote_; // how many pages the last file gave, when it had several
 };
 
 } // namespace tarvanel

@@ -1,5 +1,6 @@
 #include "timetable/TimetableParser.h"
 #include "engine/DayTimes.h"
+#include "engine/Digits.h"
 #include "records/StateFiles.h"
 
 #include <QRegularExpression>
@@ -40,11 +41,16 @@ std::optional<QDate> lenientDate(int year, int month, int day) {
     return d;
 }
 
+bool isBidiMark(char16_t c) {
+    return c == 0x200E || c == 0x200F || c == 0x061C || (c >= 0x202A && c <= 0x202E) ||
+           (c >= 0x2066 && c <= 0x2069);
+}
+
 std::optional<ParsedRow> parseLine(const QString& raw) {
     const Patterns& p = patterns();
     ParsedRow row;
     row.raw = raw;
-    QString line = raw;
+    QString line = TimetableParser::plainDigits(raw);
 
     QRegularExpressionMatch dateMatch = p.isoDate.match(line);
     if (dateMatch.hasMatch()) {
@@ -122,10 +128,35 @@ std::optional<QString> ParsedTime::clock(const QString& prayer) const {
 
 namespace TimetableParser {
 
+QString plainDigits(const QString& line) {
+    QString plain;
+    plain.reserve(line.size());
+    for (QChar c : line) {
+        const char16_t u = c.unicode();
+        if (const int d = digitValue(u); d >= 0)
+            plain += QChar(u'0' + d);
+        else if (u == 0x060C || u == 0x066C) // Arabic comma, thousands separator
+            plain += u',';
+        else if (u == 0x061B) // Arabic semicolon
+            plain += u';';
+        else if (u == 0x066B || u == 0x06D4) // Arabic decimal separator, full stop
+            plain += u'.';
+        else if (u == 0x2236 || u == 0xFF1A) // ratio sign, full-width colon
+            plain += u':';
+        else if (!isBidiMark(u))
+            plain += c;
+    }
+    return plain;
+}
+
 QList<ParsedRow> parse(const QStringList& lines) {
     QList<ParsedRow> rows;
-    for (const QString& line : lines)
-        if (auto row = parseLine(line)) rows << std::move(*row);
+    for (int i = 0; i < lines.size(); ++i) {
+        if (auto row = parseLine(lines[i])) {
+            row->line = i;
+            rows << std::move(*row);
+        }
+    }
     return rows;
 }
 
@@ -147,15 +178,18 @@ ColumnMap guessColumns(int columnCount) {
     return columns;
 }
 
+std::optional<QDate> dateOf(const ParsedRow& row, int month, int year) {
+    if (row.date || !row.day) return row.date;
+    // Only a day that exists in the chosen month counts; no carrying over here.
+    std::optional<QDate> date = lenientDate(year, month, *row.day);
+    if (date && date->month() != month) date.reset();
+    return date;
+}
+
 DayTable days(const QList<ParsedRow>& rows, int month, int year, const ColumnMap& columns) {
     DayTable table;
     for (const ParsedRow& row : rows) {
-        std::optional<QDate> date = row.date;
-        if (!date && row.day) {
-            // Only a day that exists in the chosen month counts; no carrying over here.
-            date = lenientDate(year, month, *row.day);
-            if (date && date->month() != month) date.reset();
-        }
+        const std::optional<QDate> date = dateOf(row, month, year);
         if (!date) continue;
         QMap<QString, QString> entries;
         for (auto it = columns.begin(); it != columns.end(); ++it) {

@@ -29,6 +29,7 @@ struct ParsedRow {
     std::optional<QDate> date; // a full date printed on the line
     QList<ParsedTime> times;   // every time on the line, left to right: the columns
     QString raw;
+    int line = -1; // index of the line among those given to `parse`
 };
 
 // Prayer name → column position; -1 for a prayer the sheet does not have.
@@ -36,9 +37,17 @@ using ColumnMap = QMap<QString, int>;
 
 namespace TimetableParser {
 
-// One row per line holding at least three times, in line order.
+// The line with Arabic-Indic and Extended Arabic-Indic digits as 0–9, the Arabic comma,
+// semicolon and decimal and thousands separators as their Latin counterparts, and bidi marks
+// (which a right-to-left sheet scatters between digits) removed.
+QString plainDigits(const QString& line);
+// One row per line holding at least three times, in line order. Lines are read through
+// `plainDigits`; `raw` keeps them as given.
 QList<ParsedRow> parse(const QStringList& lines);
 ColumnMap guessColumns(int columnCount);
+// The day a row stands for: its full date, else its day number in `month` of `year` when that
+// month has such a day.
+std::optional<QDate> dateOf(const ParsedRow& row, int month, int year);
 // Day key → prayer → "HH:mm". `columns` holds positions ≥ 0 only.
 DayTable days(const QList<ParsedRow>& rows, int month, int year, const ColumnMap& columns);
 

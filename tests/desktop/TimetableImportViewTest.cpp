@@ -1,12 +1,19 @@
 #include "desktop/TimetableImportView.h"
 #include "DesktopTest.h"
+#include "support/TestEnv.h"
+#include "timetable/Timetable.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QFile>
 #include <QGroupBox>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
 #include <gtest/gtest.h>
@@ -60,4 +67,88 @@ TEST(TimetableImportViewTest, PastedSheetFillsPickersPreviewAndSaves) {
     EXPECT_EQ(saved->keys(), QStringList({"2026-04-01", "2026-04-02"}));
     press(&view, Qt::Key_Escape);
     EXPECT_EQ(cancelled, 1);
+}
+
+TEST(TimetableImportViewTest, RowsThatWouldBeDroppedAreNamedMarkedAndMendedBeforeSaving) {
+    test::wipeScratchHome();
+    Timetable::resetCacheForTesting();
+    int used = 0;
+    TimetableImportView* view = openTimetableImport(QString(), [&] { ++used; });
+    auto* editor = view->findChild<QPlainTextEdit*>();
+    QLabel* problems = nullptr;
+    for (auto* label : view->findChildren<QLabel*>())
+        if (label->text().contains("can't be used")) problems = label;
+    EXPECT_EQ(problems, nullptr);
+
+    // Day 2 lost its Isha cell: the row is named, marked pink, and the click finds it.
+    editor->setPlainText("April 2026\n1 Wed 5:01 1:10 4:20 7:30 8:40\n2 Thu 5:02 1:11 4:21 "
+                         "7:31\n3 Fri 5:03 1:12 4:22 7:32 8:42\n");
+    for (auto* label : view->findChildren<QLabel*>())
+        if (label->text().contains("can't be used")) problems = label;
+    ASSERT_NE(problems, nullptr);
+    EXPECT_EQ(problems->text(),
+              "1 row can't be used: 2 April is missing a time in a chosen column.");
+    EXPECT_EQ(problems->accessibleName(), problems->text());
+    EXPECT_TRUE(problems->isVisibleTo(view));
+    ASSERT_EQ(editor->extraSelections().size(), 1);
+    EXPECT_EQ(editor->extraSelections()[0].cursor.blockNumber(), 2);
+    QMouseEvent click(QEvent::MouseButtonRelease, QPointF(4, 4), QPointF(4, 4), Qt::LeftButton,
+                      Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(problems, &click);
+    EXPECT_EQ(editor->textCursor().blockNumber(), 2);
+    EXPECT_EQ(editor->textCursor().positionInBlock(), 0);
+
+    // The user types the missing time; the row counts again and all three days are saved.
+    QTextCursor cursor = editor->textCursor();
+    cursor.movePosition(QTextCursor::EndOfBlock);
+    cursor.insertText(" 8:41");
+    EXPECT_FALSE(problems->isVisibleTo(view));
+    EXPECT_TRUE(editor->extraSelections().isEmpty());
+    EXPECT_EQ(view->findChildren<QGroupBox*>().last()->title(), "3. Preview (3 days)");
+    QPointer<TimetableImportView> alive(view);
+    press(view, Qt::Key_Return);
+    EXPECT_EQ(used, 1);
+    test::waitFor([&] { return alive.isNull(); }, 2000);
+    QFile file(Timetable::url());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject saved = QJsonDocument::fromJson(file.readAll()).object();
+    EXPECT_EQ(saved.keys(), QStringList({"2026-04-01", "2026-04-02", "2026-04-03"}));
+    EXPECT_EQ(saved["2026-04-02"].toObject()["Isha"].toString(), "20:41");
+}
+
+TEST(TimetableImportViewTest, CellsSettledFromTheirNeighboursAreMarkedUntilTypedOver) {
+    TimetableImportView view([](const DayTable&) {}, [] {});
+    auto* editor = view.findChild<QPlainTextEdit*>();
+    TimetableImportModel& model = view.model();
+    model.imageReadStarted("sheet.png");
+    model.imageReadFinished("sheet.png", {{"March 2026", "1  5:01  1:10  4:20  7:30  8:40",
+                                           "2  5:02  1:11  4:21  7:31  8:41"},
+                                          {{1, 9, 4}, {2, 0, 1}},
+                                          1,
+                                          1});
+    QStringList marked;
+    for (const QTextEdit::ExtraSelection& s : editor->extraSelections())
+        marked << s.cursor.selectedText();
+    EXPECT_EQ(marked, QStringList({"1:10", "2"}));
+    auto note = [&] {
+        for (auto* label : view.findChildren<QLabel*>())
+            if (label->text().contains("hard to read") && label->isVisibleTo(&view))
+                return label->text();
+        return QString();
+    };
+    EXPECT_EQ(note(), "2 cells were hard to read and are marked in yellow: check them against the "
+                      "sheet.");
+    // Typing elsewhere moves the marks along; typing over one removes it.
+    QTextCursor start(editor->document());
+    start.insertText("Masjid ");
+    QTextCursor cell = editor->extraSelections()[0].cursor;
+    EXPECT_EQ(cell.selectedText(), "1:10");
+    cell.insertText("1:15");
+    marked.clear();
+    for (const QTextEdit::ExtraSelection& s : editor->extraSelections())
+        marked << s.cursor.selectedText();
+    EXPECT_EQ(marked, QStringList({"2"}));
+    EXPECT_EQ(note(),
+              "1 cell was hard to read and is marked in yellow: check it against the sheet.");
+    EXPECT_EQ(model.days().value("2026-03-01").value("Dhuhr"), "13:15");
 }

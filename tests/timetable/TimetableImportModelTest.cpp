@@ -99,12 +99,27 @@ TEST(TimetableImportModelTest, FilesAndImageReadsReportInTheStatusLine) {
     model.imageReadStarted("a.png");
     model.imageReadStarted("b.pdf");
     EXPECT_EQ(model.status(), "Reading b.pdf\u2026");
-    model.imageReadFinished("b.pdf", {"1 5:00 6:00 7:00"});
+    model.imageReadProgress(3, 12);
+    EXPECT_EQ(model.status(), "Reading page 3 of 12\u2026");
+    model.imageReadFinished("b.pdf", {{"1 5:00 6:00 7:00", "2 5:01 6:01 7:01"}, {}, 12, 200});
+    EXPECT_EQ(model.status(), "Found 2 rows with 3 times each. Read the first 12 of 200 pages.");
     EXPECT_TRUE(model.reading());
     model.imageReadFinished("a.png", {});
     EXPECT_FALSE(model.reading());
     EXPECT_EQ(model.status(), "Couldn't read any text in a.png.");
-    EXPECT_EQ(model.text(), "1 5:00 6:00 7:00");
+    EXPECT_EQ(model.text(), "1 5:00 6:00 7:00\n2 5:01 6:01 7:01");
+    // The pages stay said while the text is mended; a single page says nothing of pages.
+    model.setText("1 5:00 6:00 7:00");
+    EXPECT_EQ(model.status(), "Found 1 row with 3 times each. Read the first 12 of 200 pages.");
+    model.imageReadStarted("c.tiff");
+    model.imageReadProgress(1, 1);
+    EXPECT_EQ(model.status(), "Reading c.tiff\u2026");
+    model.imageReadFinished("c.tiff", {{"1 5:00 6:00 7:00"}, {{0, 2, 4}}, 2, 2});
+    EXPECT_EQ(model.status(), "Found 1 row with 3 times each. Read 2 pages.");
+    EXPECT_EQ(model.doubtfulCells(), QList<TextMark>({{0, 2, 4}}));
+    model.loadTextFile(write("plain.txt", "1 5:00 6:00 7:00"));
+    EXPECT_EQ(model.status(), "Found 1 row with 3 times each.");
+    EXPECT_TRUE(model.doubtfulCells().isEmpty());
     EXPECT_EQ(TimetableImportModel::kindOf("/x/Sheet.JPG"), ImportFileKind::Image);
 }
 
@@ -121,6 +136,61 @@ TEST(TimetableImportModelTest, RecognisedWordsGroupIntoLevelLines) {
     EXPECT_EQ(OcrLines::group(items), QStringList({"TITLE", "1   Sat   5:12   1:15", "2"}));
     EXPECT_EQ(OcrLines::relativeBox(100, 0, 300, 50, 1000, 500), QRectF(0.1, 0.9, 0.2, 0.1));
     EXPECT_TRUE(OcrLines::group({}).isEmpty());
+
+    // Doubtful items are found again in the joined lines.
+    QList<RecognizedItem> marked = items;
+    marked[2].doubtful = marked[4].doubtful = true;
+    QList<TextMark> marks;
+    EXPECT_EQ(OcrLines::group(marked, marks), OcrLines::group(items));
+    EXPECT_EQ(marks, QList<TextMark>({{1, 17, 4}, {2, 0, 1}}));
+}
+
+TEST(TimetableImportModelTest, RowsThatWouldNotBeSavedAreNamedWithTheirReason) {
+    // April: 1 and 3 lack Isha's column, 5 has no day number, 31 is no April day, 4 comes twice.
+    QString text = "April 2026\n";
+    for (int d = 1; d <= 6; ++d) {
+        const int times = d == 1 || d == 3 ? 10 : 11;
+        QStringList cells;
+        for (int i = 0; i < times; ++i)
+            cells << QString::asprintf("%d:%02d", 1 + i, d);
+        text +=
+            (d == 5 ? "Sat" : QString::number(d == 6 ? 31 : d)) + "  " + cells.join("  ") + "\n";
+    }
+    text += "4  5:00 5:30 6:40 12:10 1:15 4:20 4:40 7:30 7:35 8:50 9:00\n";
+    TimetableImportModel model;
+    model.setText(text);
+    EXPECT_EQ(model.status(), "Found 7 rows with 11 times each.");
+    EXPECT_EQ(model.problemSummary(),
+              "5 rows can't be used: 1 and 3 April are missing a time in a chosen column; line 6 "
+              "has no day number or date; day 31 is not in April; 4 April appears twice (the "
+              "later row is used).");
+    QList<int> lines;
+    for (const RowProblem& p : model.problems())
+        lines << p.line;
+    EXPECT_EQ(lines, QList<int>({1, 3, 4, 5, 6}));
+    EXPECT_EQ(model.days().size(), 2); // 2 and 4 April
+
+    // Isha taken out of the timetable: the short rows count again. In May day 31 is a day.
+    model.setColumn("Isha", -1);
+    model.setMonth(5);
+    EXPECT_EQ(model.problemSummary(),
+              "2 rows can't be used: line 6 has no day number or date; 4 May appears twice (the "
+              "later row is used).");
+    EXPECT_EQ(model.days().size(), 5);
+    // No column chosen: nothing is saved, and nothing is blamed on a row.
+    for (const QString& prayer : TimetableImportModel::prayers())
+        model.setColumn(prayer, -1);
+    EXPECT_TRUE(model.problems().isEmpty());
+    EXPECT_EQ(model.problemSummary(), "");
+
+    // Full dates of two months.
+    model.setText("30/04/2026 5:00 6:00 7:00 8:00\n01/05/2026 5:00 6:00 7:00 8:00\n"
+                  "02/05/2026 5:00 6:00 7:00");
+    EXPECT_EQ(model.problemSummary(),
+              "1 row can't be used: 2 May is missing a time in a chosen column.");
+    model.setColumn("Isha", 4);
+    EXPECT_EQ(model.problemSummary(), "3 rows can't be used: 30 April and 1 and 2 May are "
+                                      "missing a time in a chosen column.");
 }
 
 TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeighbours) {
@@ -157,4 +227,24 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     EXPECT_EQ(OcrLines::settle(day, "A", "8"), "2");
     EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Day}, "A", "8"), "8");
     EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Day}, "A", "x"), "A");
+}
+
+TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
+    // Ramadan across two months, numbered by day alone: 20–31 March, then 1–19 April.
+    QString text = "Ramadan 1447 / March 2026\n";
+    for (int i = 0; i < 31; ++i) {
+        const int day = i < 12 ? 20 + i : i - 11;
+        text += QString::asprintf("%d  5:%02d  1:10  4:%02d  7:%02d  8:40\n", day, i, i, i);
+    }
+    TimetableImportModel model;
+    model.setText(text);
+    const DayTable days = model.days();
+    ASSERT_EQ(days.size(), 31);
+    EXPECT_EQ(days.firstKey(), "2026-03-20");
+    EXPECT_EQ(days.lastKey(), "2026-04-19");
+    EXPECT_EQ(days["2026-04-01"]["Fajr"], "05:12");
+    EXPECT_TRUE(model.problems().isEmpty());
+    // A count that falls in the middle of a month is a misread day, not a new month.
+    model.setText("10 5:00 6:00 7:00\n1 5:00 6:00 7:00\n12 5:00 6:00 7:00");
+    EXPECT_EQ(model.days().keys(), QStringList({"2026-03-01", "2026-03-10", "2026-03-12"}));
 }

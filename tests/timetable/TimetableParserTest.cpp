@@ -1,5 +1,6 @@
 #include "timetable/TimetableParser.h"
 #include "support/TestEnv.h"
+#include "timetable/TimetableImportModel.h"
 
 using namespace tarvanel;
 
@@ -69,11 +70,36 @@ TEST(TimetableParserTest, DatesAreReadCarriedOverOrBlankedAndTimesNeedThree) {
     for (const QString& line :
          {QString(), QStringLiteral("1 5:12 6:45"), QStringLiteral("Fajr Dhuhr Asr"),
           QStringLiteral("1234 24:00 9:5 1:00 2:00"), // none of the first three is a time
-          QStringLiteral("\u0665:\u0661\u0662 \u0666:\u0664\u0665 \u0661:\u0661\u0665 "
-                         "\u0664:\u0664\u0660")})
+          QStringLiteral("\u096B:\u0967\u0968 \u096C:\u096A\u096B \u0967:\u0967\u096B "
+                         "\u096A:\u096A\u0966")}) // Devanagari digits
         EXPECT_TRUE(TimetableParser::parse({line}).isEmpty()) << line.toStdString();
     EXPECT_EQ(labels(only("12:30:45 1:00 2:00 3:00")),
               QStringList({"12:30", "1:00", "2:00", "3:00"}));
+}
+
+TEST(TimetableParserTest, EasternArabicDigitsAndSeparatorsReadAsWesternOnes) {
+    // Arabic-Indic digits, the Arabic decimal separator between hour and minute, Arabic commas
+    // between cells and a right-to-left mark glued to a time: day 5, times 5:12 1:15 4:40.
+    const QString arabic =
+        QStringLiteral("\u0665 \u0665\u066B\u0661\u0662\u060C \u0661:\u0661\u0665\u200F\u060C "
+                       "\u0664:\u0664\u0660\u060C \u0667:\u0662\u0662");
+    const ParsedRow row = only(arabic);
+    EXPECT_EQ(row.day, 5);
+    EXPECT_EQ(row.raw, arabic);
+    EXPECT_EQ(labels(row), QStringList({"5:12", "1:15", "4:40", "7:22"}));
+    // Extended (Persian and Urdu) digits in a full date, mixed with Western ones in the times.
+    const ParsedRow dated = only(QStringLiteral(
+        "\u06F0\u06F1/\u06F0\u06F3/\u06F2\u06F0\u06F2\u06F6  05:12  \u06F1:\u06F1\u06F5  "
+        "4:40 pm"));
+    EXPECT_EQ(dated.date, QDate(2026, 3, 1));
+    EXPECT_EQ(labels(dated), QStringList({"5:12", "1:15", "4:40 pm"}));
+    // The boundaries of both ranges; the Arabic semicolon, ratio sign and full-width colon.
+    EXPECT_EQ(TimetableParser::plainDigits(QStringLiteral(
+                  "\u0660\u0669\u06F0\u06F9\u065F\u066A\u061B\u2236\uFF1A\u06D4\u202B")),
+              QStringLiteral("0909\u065F\u066A;::."));
+    // A month heading with an Eastern year.
+    EXPECT_EQ(TimetableImportModel::monthAndYear(QStringLiteral("March \u0662\u0660\u0662\u0666")),
+              (MonthAndYear{3, 2026}));
 }
 
 TEST(TimetableParserTest, MarkersDecideTheHalfOfTheDayElseThePrayerDoes) {

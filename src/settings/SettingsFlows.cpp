@@ -195,8 +195,9 @@ void PrayerSettingsModel::calendarToggled(bool on) {
                 } else {
                     setCalendarSync(false);
                     setCalendarMessage(QStringLiteral(
-                        "Calendar access is off. Turn on Tarvanel in System Settings → Privacy & "
-                        "Security → Calendars."));
+                        "Calendar access is off. Tarvanel writes its events under "
+                        "~/.local/share/calendars: turn this on again and choose Allow, and check "
+                        "that you can write to that folder."));
                 }
             });
         });

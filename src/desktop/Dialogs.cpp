@@ -45,7 +45,9 @@ std::unique_ptr<QMessageBox> buildAlert(const AlertRequest& request) {
     for (const QString& label : request.buttons)
         buttons << box->addButton(label, QMessageBox::ActionRole);
     if (buttons.isEmpty()) buttons << box->addButton(QStringLiteral("OK"), QMessageBox::ActionRole);
-    box->setDefaultButton(buttons.first());
+    // Return must never take a destructive answer: such a question defaults to the last
+    // button, its way out.
+    box->setDefaultButton(request.firstIsDestructive ? buttons.last() : buttons.first());
     box->setEscapeButton(buttons.last());
     if (!request.checkBox.isEmpty()) box->setCheckBox(new QCheckBox(request.checkBox));
     return box;

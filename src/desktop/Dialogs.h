@@ -11,7 +11,8 @@ class QDateEdit;
 
 namespace tarvanel {
 
-// The alert for a request: buttons left to right in the request's order, the first the default.
+// The alert for a request: buttons left to right in the request's order, the first the default
+// (the last when the first is destructive).
 std::unique_ptr<QMessageBox> buildAlert(const AlertRequest& request);
 // 1000 + the index of the clicked button; cancelling (Escape, closing) answers the last button.
 AlertAnswer alertAnswer(const QMessageBox& box);

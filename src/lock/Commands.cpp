@@ -120,6 +120,16 @@ void AppDelegate::openSettings() {
     services.writeFocus = [](const QString& desktop) {
         return FocusShortcuts::createFor(desktop) == FocusShortcuts::CreateResult::written;
     };
+    services.focusHandWritten = &FocusShortcuts::handWritten;
+    services.confirmReplace = [self](const QString& question, const QString& info) {
+        if (!self) return false;
+        AlertRequest ask;
+        ask.message = question;
+        ask.info = info;
+        ask.buttons = {QStringLiteral("Replace"), QStringLiteral("Cancel")};
+        ask.firstIsDestructive = true;
+        return self->platform_.showAlert(ask).response == 1000;
+    };
     services.playSound = [self](const QString& path) {
         return self && self->platform_.playSoundFile(path);
     };

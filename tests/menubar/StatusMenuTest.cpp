@@ -5,6 +5,7 @@
 #include "engine/CalcMethods.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
+#include "integrations/FocusShortcuts.h"
 #include "records/History.h"
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
@@ -323,3 +324,37 @@ TEST_F(StatusTitleTest, CachedFajrTitleMatchesTheRuleEverySecond) {
 }
 
 } // namespace
+
+// Write Scripts in the settings replaces Tarvanel's own pair at once and asks before replacing
+// a script the user wrote; Cancel, the default, keeps it as it was.
+TEST_F(StatusMenuTest, WriteScriptsAsksBeforeReplacingTheUsersOwn) {
+    DaySimulator sim(fixedTimesConfig(), at("10:00"));
+    sim.app->openSettings();
+    ASSERT_TRUE(sim.platform.settingsModel);
+    PrayerSettingsModel& m = *sim.platform.settingsModel;
+    const QString on = FocusShortcuts::folder() + "/Tarvanel Focus On",
+                  off = FocusShortcuts::folder() + "/Tarvanel Focus Off";
+    m.writeFocusScripts("GNOME");
+    EXPECT_TRUE(sim.platform.alerts.isEmpty());
+    EXPECT_TRUE(readWholeFile(off).value_or("").contains("show-banners true"));
+
+    const QByteArray mine = "#!/bin/sh\nkdeconnect-cli --ping\n";
+    writeFile(on, mine, true);
+    m.writeFocusScripts("XFCE"); // no answer scripted: Cancel
+    ASSERT_EQ(sim.platform.alerts.size(), 1);
+    const AlertRequest& ask = sim.platform.alerts[0];
+    EXPECT_EQ(ask.message, "Replace your own “Tarvanel Focus On”?");
+    EXPECT_EQ(ask.buttons, QStringList({"Replace", "Cancel"}));
+    EXPECT_TRUE(ask.firstIsDestructive); // so the question defaults to Cancel
+    EXPECT_EQ(readWholeFile(on), mine);
+    EXPECT_TRUE(readWholeFile(off).value_or("").contains("show-banners true")); // pair kept whole
+    EXPECT_EQ(m.focusMessage(), "Kept your own “Tarvanel Focus On”.");
+
+    sim.platform.answerAlert(1000);
+    m.writeFocusScripts("XFCE");
+    EXPECT_EQ(sim.platform.alerts.size(), 2);
+    EXPECT_TRUE(readWholeFile(on).value_or("").contains("xfce4-notifyd"));
+    EXPECT_TRUE(readWholeFile(off).value_or("").contains("xfce4-notifyd"));
+    EXPECT_TRUE(FocusShortcuts::handWritten().isEmpty());
+    EXPECT_EQ(m.focusMessage(), "Wrote “Tarvanel Focus On” and “Tarvanel Focus Off” for XFCE.");
+}

@@ -171,13 +171,19 @@ void AppDelegate::exportHistory() {
         platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
     if (!path) return;
     const QString csv = historyCSV(config_, currentTime());
-    if (!writeFileAtomically(*path, csv.toUtf8())) return;   // the write logged why
-    const qsizetype rows = csv.count(QLatin1Char('\n')) - 1; // less the header line
+    QString error;
     AlertRequest done;
+    done.buttons = {QStringLiteral("OK")};
+    if (!writeFileAtomically(*path, csv.toUtf8(), &error)) { // the write logged it too
+        done.message = QStringLiteral("Couldn't export the history to ") + *path;
+        done.info = error + QStringLiteral(".");
+        platform_.showAlert(done);
+        return;
+    }
+    const qsizetype rows = csv.count(QLatin1Char('\n')) - 1; // less the header line
     done.message = QStringLiteral("Exported ") + QLocale().toString(qlonglong(rows)) +
                    (rows == 1 ? QStringLiteral(" prayer to ") : QStringLiteral(" prayers to ")) +
                    *path;
-    done.buttons = {QStringLiteral("OK")};
     platform_.showAlert(done);
 }
 

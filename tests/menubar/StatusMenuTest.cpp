@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 
 using namespace tarvanel;
@@ -168,6 +169,18 @@ TEST_F(StatusMenuTest, ExportAndUninstallAskAndDoWhatWasChosen) {
               "date,prayer,status\n2026-01-14,Dhuhr,elsewhere\n");
     ASSERT_EQ(sim.platform.alerts.size(), 1);
     EXPECT_EQ(sim.platform.alerts[0].message, "Exported 1 prayer to " + path);
+    // A write that fails is said on screen with the path and the reason, and logged.
+    const QString nowhere = scratchHome() + "/no such folder/export.csv";
+    sim.platform.savePathAnswers.push_back(nowhere);
+    sim.app->exportHistory();
+    ASSERT_EQ(sim.platform.alerts.size(), 2);
+    EXPECT_EQ(sim.platform.alerts[1].message, "Couldn't export the history to " + nowhere);
+    EXPECT_EQ(sim.platform.alerts[1].info, "No such file or directory.");
+    EXPECT_EQ(sim.platform.alerts[1].buttons, QStringList{"OK"});
+    EXPECT_EQ(
+        sim.logsContaining("could not save " + nowhere + " (No such file or directory)").size(), 1);
+    EXPECT_FALSE(QFileInfo::exists(nowhere));
+    sim.platform.alerts.removeLast();
     // A long history: the count in the locale's grouping, and the file holds every row.
     HistoryMap many;
     for (int d = 0; d < 246; ++d)

@@ -75,8 +75,8 @@ int main(int argc, char** argv) {
     }
     if (cl.installAgent) {
         const InstallOutcome out = installAgent();
-        print(out.ok ? QStringLiteral("✓ Tarvanel running — look for 🕌 in the menu bar\n")
-                     : QStringLiteral("✗ launchctl bootstrap failed\n"));
+        print(out.ok ? QStringLiteral("✓ Tarvanel running — look for 🕌 in the tray\n")
+                     : QStringLiteral("✗ Tarvanel's login service did not start\n"));
         if (!out.reason.isEmpty()) print(out.reason + QLatin1Char('\n'));
         return out.ok ? 0 : 1;
     }

@@ -30,8 +30,11 @@ bool processRuns(const QString& name) {
     return false;
 }
 
+// The comment line that tells a script Tarvanel wrote from one the user wrote.
+constexpr char kMarker[] = "# Made by Tarvanel for ";
+
 QByteArray script(const Template& t, const QString& command) {
-    QByteArray text = "#!/bin/sh\n# Made by Tarvanel for " + t.desktop.toUtf8() +
+    QByteArray text = "#!/bin/sh\n" + QByteArray(kMarker) + t.desktop.toUtf8() +
                       ". Edit freely: Tarvanel runs this file when a lock ";
     text += command == t.onCommand ? "starts.\n" : "ends.\n";
     if (!t.note.isEmpty()) text += "# " + t.note.toUtf8() + "\n";
@@ -52,6 +55,19 @@ QString folder() {
 
 bool installed() {
     return isExecutableFile(scriptPath(onName())) && isExecutableFile(scriptPath(offName()));
+}
+
+QStringList handWritten() {
+    QStringList names;
+    for (const QString& name : {onName(), offName()}) {
+        const QFileInfo info(scriptPath(name));
+        if (!info.exists() && !info.isSymLink()) continue;
+        const auto text = readWholeFile(info.filePath());
+        const bool ours =
+            text && (text->startsWith(kMarker) || text->contains(QByteArray("\n") + kMarker));
+        if (!ours) names << name;
+    }
+    return names;
 }
 
 void run(bool on, QObject* context, int timeoutMs) {

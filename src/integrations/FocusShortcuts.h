@@ -5,6 +5,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 namespace tarvanel::FocusShortcuts {
 
@@ -14,6 +15,10 @@ QString folder();  // ~/.tarvanel/shortcuts
 
 // Both scripts exist and are executable. A stat each: cheap enough for the main thread.
 bool installed();
+
+// The scripts of the pair that exist but were not written by Tarvanel (its own carry a marker
+// comment line); one that cannot be read counts as the user's.
+QStringList handWritten();
 
 // Starts the On or Off script and returns at once; the lock never waits for it. A non-zero
 // status, a script that cannot start and one still running after `timeoutMs` (then killed) log
@@ -39,7 +44,8 @@ enum class CreateResult {
     unknownDesktop, // no template: the folder exists and the scripts are left to the user
     failed          // the folder or a script could not be written (logged)
 };
-// Writes both scripts for `desktop` (a Template key), replacing any already there.
+// Writes both scripts for `desktop` (a Template key), replacing any already there: callers ask
+// before replacing hand-written ones.
 CreateResult createFor(const QString& desktop);
 
 } // namespace tarvanel::FocusShortcuts

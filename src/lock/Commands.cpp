@@ -120,6 +120,16 @@ void AppDelegate::openSettings() {
     services.writeFocus = [](const QString& desktop) {
         return FocusShortcuts::createFor(desktop) == FocusShortcuts::CreateResult::written;
     };
+    services.focusHandWritten = &FocusShortcuts::handWritten;
+    services.confirmReplace = [self](const QString& question, const QString& info) {
+        if (!self) return false;
+        AlertRequest ask;
+        ask.message = question;
+        ask.info = info;
+        ask.buttons = {QStringLiteral("Replace"), QStringLiteral("Cancel")};
+        ask.firstIsDestructive = true;
+        return self->platform_.showAlert(ask).response == 1000;
+    };
     services.playSound = [self](const QString& path) {
         return self && self->platform_.playSoundFile(path);
     };
@@ -161,13 +171,19 @@ void AppDelegate::exportHistory() {
         platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
     if (!path) return;
     const QString csv = historyCSV(config_, currentTime());
-    if (!writeFileAtomically(*path, csv.toUtf8())) return;   // the write logged why
-    const qsizetype rows = csv.count(QLatin1Char('\n')) - 1; // less the header line
+    QString error;
     AlertRequest done;
+    done.buttons = {QStringLiteral("OK")};
+    if (!writeFileAtomically(*path, csv.toUtf8(), &error)) { // the write logged it too
+        done.message = QStringLiteral("Couldn't export the history to ") + *path;
+        done.info = error + QStringLiteral(".");
+        platform_.showAlert(done);
+        return;
+    }
+    const qsizetype rows = csv.count(QLatin1Char('\n')) - 1; // less the header line
     done.message = QStringLiteral("Exported ") + QLocale().toString(qlonglong(rows)) +
                    (rows == 1 ? QStringLiteral(" prayer to ") : QStringLiteral(" prayers to ")) +
                    *path;
-    done.buttons = {QStringLiteral("OK")};
     platform_.showAlert(done);
 }
 

@@ -127,7 +127,7 @@ bool setAside(const QString& path, const QString& reason) {
 
 namespace {
 bool writeFile(const QString& path, const QByteArray& bytes,
-               std::optional<QFileDevice::Permissions> permissions) {
+               std::optional<QFileDevice::Permissions> permissions, QString* error = nullptr) {
     // Unbuffered on purpose: a buffered QSaveFile flushes a short write (file-size limit, full
     // disk) without noticing and commits a truncated file. Unbuffered, write() reports the
     // short count and the temporary file is discarded.
@@ -160,6 +160,7 @@ bool writeFile(const QString& path, const QByteArray& bytes,
     }
     const QString why =
         reason.isEmpty() || reason == QLatin1String("Unknown error") ? f.errorString() : reason;
+    if (error) *error = why;
     logOncePerCause(path, why,
                     QStringLiteral("Tarvanel: could not save %1 (%2); the previous file is kept")
                         .arg(path, why));
@@ -167,12 +168,13 @@ bool writeFile(const QString& path, const QByteArray& bytes,
 }
 } // namespace
 
-bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
+bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error) {
     const bool inside =
         QFileInfo(path).absolutePath() == QFileInfo(supportDir()).absoluteFilePath();
     return writeFile(path, bytes,
                      inside ? std::optional(QFileDevice::ReadOwner | QFileDevice::WriteOwner)
-                            : std::nullopt);
+                            : std::nullopt,
+                     error);
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes,

@@ -29,8 +29,8 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error = nu
 // The one way the program writes a file: a temporary file in the same folder, flushed and
 // renamed over the old one. Files in supportDir are owner-only from the first byte. A failure
 // leaves the previous file whole and logs one line naming the file and the reason, once per
-// file and cause.
-bool writeFileAtomically(const QString& path, const QByteArray& bytes);
+// file and cause. `error`, when given, receives the reason of a failed write.
+bool writeFileAtomically(const QString& path, const QByteArray& bytes, QString* error = nullptr);
 bool writeFileAtomically(const QString& path, const QByteArray& bytes,
                          QFileDevice::Permissions permissions);
 

@@ -195,8 +195,9 @@ void PrayerSettingsModel::calendarToggled(bool on) {
                 } else {
                     setCalendarSync(false);
                     setCalendarMessage(QStringLiteral(
-                        "Calendar access is off. Turn on Tarvanel in System Settings → Privacy & "
-                        "Security → Calendars."));
+                        "Calendar access is off. Tarvanel writes its events under "
+                        "~/.local/share/calendars: turn this on again and choose Allow, and check "
+                        "that you can write to that folder."));
                 }
             });
         });
@@ -232,10 +233,37 @@ void PrayerSettingsModel::openShortcuts() {
     if (services_.openShortcuts) services_.openShortcuts();
 }
 
+namespace {
+// “A”, or “A” and “B”.
+QString quotedNames(const QStringList& names) {
+    QStringList quoted;
+    for (const QString& name : names)
+        quoted << QStringLiteral("“") + name + QStringLiteral("”");
+    return quoted.join(QStringLiteral(" and "));
+}
+} // namespace
+
 void PrayerSettingsModel::writeFocusScripts(const QString& desktop) {
     if (!services_.writeFocus) return;
-    const QString pair = QStringLiteral("“") + services_.focusOnName + QStringLiteral("” and “") +
-                         services_.focusOffName + QStringLiteral("”");
+    // Scripts the user wrote are replaced only when they say so; Cancel is the default.
+    const QStringList own =
+        services_.focusHandWritten ? services_.focusHandWritten() : QStringList();
+    if (!own.isEmpty()) {
+        QPointer<PrayerSettingsModel> weak(this);
+        const bool replace =
+            services_.confirmReplace &&
+            services_.confirmReplace(QStringLiteral("Replace your own ") + quotedNames(own) +
+                                         QStringLiteral("?"),
+                                     QStringLiteral("Tarvanel's pair for ") + desktop +
+                                         QStringLiteral(" takes the place of what you wrote."));
+        if (!weak) return; // the window went away while the question was open
+        if (!replace) {
+            setFocusMessage(QStringLiteral("Kept your own ") + quotedNames(own) +
+                            QStringLiteral("."));
+            return;
+        }
+    }
+    const QString pair = quotedNames({services_.focusOnName, services_.focusOffName});
     setFocusMessage(services_.writeFocus(desktop)
                         ? QStringLiteral("Wrote ") + pair + QStringLiteral(" for ") + desktop +
                               QStringLiteral(".")

@@ -78,6 +78,10 @@ struct SettingsServices {
     QString focusDesktop;      // this session's, when it is one of them
     // Writes the pair for a desktop of `focusDesktops`; false when a file could not be written.
     std::function<bool(const QString& desktop)> writeFocus;
+    // The scripts of the pair that exist and were written by the user, not by Tarvanel.
+    std::function<QStringList()> focusHandWritten;
+    // Asks `question` with "Replace" and "Cancel", Cancel the default; true for Replace.
+    std::function<bool(const QString& question, const QString& info)> confirmReplace;
 
     std::function<bool(const QString& path)> playSound;
     std::function<void()> stopSound;

@@ -130,11 +130,12 @@ TEST_F(AgentTest, InstallTwiceThenWithoutServiceManager) {
 TEST_F(AgentTest, InstallAgentCommandPrintsTheOutcomeAndWhy) {
     qputenv("PATH", (scratchHome() + "/bin:").toUtf8() + qgetenv("PATH"));
     EXPECT_EQ(run(TARVANEL_BINARY, {"--install-agent"}),
-              std::pair(0, QString("✓ Tarvanel running — look for 🕌 in the menu bar\n")));
+              std::pair(0, QString("✓ Tarvanel running — look for 🕌 in the tray\n")));
     fail("enable");
-    EXPECT_EQ(run(TARVANEL_BINARY, {"--install-agent"}),
-              std::pair(1, "✗ launchctl bootstrap failed\nsystemctl --user enable --now " +
-                               unitFile + " failed with status 1\n"));
+    EXPECT_EQ(
+        run(TARVANEL_BINARY, {"--install-agent"}),
+        std::pair(1, "✗ Tarvanel's login service did not start\nsystemctl --user enable --now " +
+                         unitFile + " failed with status 1\n"));
     calls(); // --times comes first: nothing is installed.
     EXPECT_EQ(run(TARVANEL_BINARY, {"--install-agent", "--times"}).first, 0);
     EXPECT_TRUE(calls().isEmpty());

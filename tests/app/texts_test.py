@@ -7,7 +7,8 @@ import re
 import sys
 
 WORDS = ["Dock", "⌘", "Force Quit", "iPhone", "Shortcuts app", "Applications folder",
-         "Login Items"]
+         "Login Items", "menu bar", "launchctl", "System Settings", "Privacy & Security",
+         "Both shortcuts", "Shortcuts missing", "Turn on a Focus"]
 
 
 # A UTF-16 text is a run of code units that are printable ASCII, Latin to Cyrillic letters, or

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -72,4 +73,27 @@ TEST_F(FocusTest, EachTemplateWritesAPrivateRunnablePair) {
         EXPECT_TRUE(readWholeFile(on)->contains("\nexec " + t.onCommand.toUtf8() + "\n"));
         EXPECT_EQ(QProcess::execute("sh", {"-n", on}), 0) << t.desktop.toStdString();
     }
+}
+
+// Tarvanel's own scripts carry their marker line, even after the user edits them; anything else
+// at those names, an unreadable file included, is the user's.
+TEST_F(FocusTest, HandWrittenScriptsAreToldFromTarvanelsOwn) {
+    EXPECT_TRUE(Focus::handWritten().isEmpty()); // nothing there yet
+    script(Focus::offName(), "notify-send quiet");
+    EXPECT_EQ(Focus::handWritten(), QStringList{Focus::offName()});
+    script(Focus::onName(), "echo '# Made by Tarvanel for GNOME'"); // not a line of its own
+    EXPECT_EQ(Focus::handWritten(), QStringList({Focus::onName(), Focus::offName()}));
+
+    ASSERT_EQ(Focus::createFor("GNOME"), Focus::CreateResult::written);
+    EXPECT_TRUE(Focus::handWritten().isEmpty());
+    const QString on = Focus::folder() + '/' + Focus::onName();
+    test::writeFile(on, readWholeFile(on).value() + "kdeconnect-cli --ping\n", true);
+    EXPECT_TRUE(Focus::handWritten().isEmpty()); // edited, still ours
+
+    QFile::remove(on);
+    ASSERT_TRUE(QFile::link("/nonexistent/target", on)); // a dangling link cannot be read
+    EXPECT_EQ(Focus::handWritten(), QStringList{Focus::onName()});
+    QFile::remove(on);
+    ASSERT_TRUE(QDir().mkpath(on)); // nor can a folder
+    EXPECT_EQ(Focus::handWritten(), QStringList{Focus::onName()});
 }

@@ -5,6 +5,7 @@
 #include "engine/CalcMethods.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
+#include "integrations/FocusShortcuts.h"
 #include "records/History.h"
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
@@ -13,6 +14,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 
 using namespace tarvanel;
@@ -167,6 +169,18 @@ TEST_F(StatusMenuTest, ExportAndUninstallAskAndDoWhatWasChosen) {
               "date,prayer,status\n2026-01-14,Dhuhr,elsewhere\n");
     ASSERT_EQ(sim.platform.alerts.size(), 1);
     EXPECT_EQ(sim.platform.alerts[0].message, "Exported 1 prayer to " + path);
+    // A write that fails is said on screen with the path and the reason, and logged.
+    const QString nowhere = scratchHome() + "/no such folder/export.csv";
+    sim.platform.savePathAnswers.push_back(nowhere);
+    sim.app->exportHistory();
+    ASSERT_EQ(sim.platform.alerts.size(), 2);
+    EXPECT_EQ(sim.platform.alerts[1].message, "Couldn't export the history to " + nowhere);
+    EXPECT_EQ(sim.platform.alerts[1].info, "No such file or directory.");
+    EXPECT_EQ(sim.platform.alerts[1].buttons, QStringList{"OK"});
+    EXPECT_EQ(
+        sim.logsContaining("could not save " + nowhere + " (No such file or directory)").size(), 1);
+    EXPECT_FALSE(QFileInfo::exists(nowhere));
+    sim.platform.alerts.removeLast();
     // A long history: the count in the locale's grouping, and the file holds every row.
     HistoryMap many;
     for (int d = 0; d < 246; ++d)
@@ -323,3 +337,37 @@ TEST_F(StatusTitleTest, CachedFajrTitleMatchesTheRuleEverySecond) {
 }
 
 } // namespace
+
+// Write Scripts in the settings replaces Tarvanel's own pair at once and asks before replacing
+// a script the user wrote; Cancel, the default, keeps it as it was.
+TEST_F(StatusMenuTest, WriteScriptsAsksBeforeReplacingTheUsersOwn) {
+    DaySimulator sim(fixedTimesConfig(), at("10:00"));
+    sim.app->openSettings();
+    ASSERT_TRUE(sim.platform.settingsModel);
+    PrayerSettingsModel& m = *sim.platform.settingsModel;
+    const QString on = FocusShortcuts::folder() + "/Tarvanel Focus On",
+                  off = FocusShortcuts::folder() + "/Tarvanel Focus Off";
+    m.writeFocusScripts("GNOME");
+    EXPECT_TRUE(sim.platform.alerts.isEmpty());
+    EXPECT_TRUE(readWholeFile(off).value_or("").contains("show-banners true"));
+
+    const QByteArray mine = "#!/bin/sh\nkdeconnect-cli --ping\n";
+    writeFile(on, mine, true);
+    m.writeFocusScripts("XFCE"); // no answer scripted: Cancel
+    ASSERT_EQ(sim.platform.alerts.size(), 1);
+    const AlertRequest& ask = sim.platform.alerts[0];
+    EXPECT_EQ(ask.message, "Replace your own “Tarvanel Focus On”?");
+    EXPECT_EQ(ask.buttons, QStringList({"Replace", "Cancel"}));
+    EXPECT_TRUE(ask.firstIsDestructive); // so the question defaults to Cancel
+    EXPECT_EQ(readWholeFile(on), mine);
+    EXPECT_TRUE(readWholeFile(off).value_or("").contains("show-banners true")); // pair kept whole
+    EXPECT_EQ(m.focusMessage(), "Kept your own “Tarvanel Focus On”.");
+
+    sim.platform.answerAlert(1000);
+    m.writeFocusScripts("XFCE");
+    EXPECT_EQ(sim.platform.alerts.size(), 2);
+    EXPECT_TRUE(readWholeFile(on).value_or("").contains("xfce4-notifyd"));
+    EXPECT_TRUE(readWholeFile(off).value_or("").contains("xfce4-notifyd"));
+    EXPECT_TRUE(FocusShortcuts::handWritten().isEmpty());
+    EXPECT_EQ(m.focusMessage(), "Wrote “Tarvanel Focus On” and “Tarvanel Focus Off” for XFCE.");
+}

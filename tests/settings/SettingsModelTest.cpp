@@ -12,6 +12,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QThread>
+#include <QThreadPool>
 #include <QTimer>
 #include <gtest/gtest.h>
 #include <thread>
@@ -223,6 +224,64 @@ TEST_F(SettingsModel, SuggestionsFollowTheLastPlaceAndSameNamesOfferAChoice) {
     m.setMethodID("Egypt");
     find(m, {cologne});
     EXPECT_EQ(std::pair(m.methodID(), m.hanafi()), std::pair(QString("Egypt"), true));
+}
+
+// A refused calendar (answered later, from another thread) says where access comes from on this
+// computer; Write Scripts asks before replacing scripts the user wrote, and Cancel keeps them.
+TEST_F(SettingsModel, RefusedCalendarAndTheUsersOwnScriptsSayWhatHappensHere) {
+    SettingsServices s = services();
+    s.calendarAuthorized = [] { return false; };
+    s.requestCalendarAccess = [](std::function<void(bool)> done) {
+        QThreadPool::globalInstance()->start([done] {
+            QThread::msleep(5);
+            done(false);
+        });
+    };
+    QStringList own{"Tarvanel Focus Off"}, written, asked;
+    bool replace = false;
+    s.focusHandWritten = [&] { return own; };
+    s.confirmReplace = [&](const QString& question, const QString& info) {
+        asked << question << info;
+        return replace;
+    };
+    s.writeFocus = [&](const QString& desktop) {
+        written << desktop;
+        own.clear();
+        return true;
+    };
+    PrayerSettingsModel m(saved(R"({"calendarSync": false})"), false, s);
+    m.calendarToggled(true);
+    EXPECT_EQ(m.calendarMessage(), "Asking for Calendar access…");
+    ASSERT_TRUE(waitFor([&] { return !m.calendarSync(); }));
+    EXPECT_EQ(m.calendarMessage(),
+              "Calendar access is off. Tarvanel writes its events under ~/.local/share/calendars: "
+              "turn this on again and choose Allow, and check that you can write to that folder.");
+    EXPECT_EQ(m.makeConfig().calendarSync, false);
+
+    m.writeFocusScripts("XFCE"); // Cancel
+    EXPECT_EQ(asked, QStringList({"Replace your own “Tarvanel Focus Off”?",
+                                  "Tarvanel's pair for XFCE takes the place of what you wrote."}));
+    EXPECT_TRUE(written.isEmpty());
+    EXPECT_EQ(m.focusMessage(), "Kept your own “Tarvanel Focus Off”.");
+    own = QStringList{"Tarvanel Focus On", "Tarvanel Focus Off"};
+    replace = true;
+    asked.clear();
+    m.writeFocusScripts("GNOME");
+    EXPECT_EQ(asked.value(0), "Replace your own “Tarvanel Focus On” and “Tarvanel Focus Off”?");
+    EXPECT_EQ(written, QStringList{"GNOME"});
+    EXPECT_EQ(m.focusMessage(), "Wrote “Tarvanel Focus On” and “Tarvanel Focus Off” for GNOME.");
+    asked.clear();
+    m.writeFocusScripts("MATE"); // Tarvanel's own pair: replaced without a question
+    EXPECT_TRUE(asked.isEmpty());
+    EXPECT_EQ(written, QStringList({"GNOME", "MATE"}));
+
+    // With nobody to ask, the user's scripts stay.
+    s.confirmReplace = nullptr;
+    PrayerSettingsModel quiet(Config(), false, s);
+    own = QStringList{"Tarvanel Focus On"};
+    quiet.writeFocusScripts("MATE");
+    EXPECT_EQ(written.size(), 2);
+    EXPECT_EQ(quiet.focusMessage(), "Kept your own “Tarvanel Focus On”.");
 }
 
 TEST_F(SettingsModel, GuardianCodeTypedInPersianDigitsWithASpaceIsAccepted) {

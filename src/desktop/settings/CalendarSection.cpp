@@ -41,14 +41,6 @@ QWidget* makeCalendarSection(SectionContext& c) {
                      [m, picker](int i) { m->setCalendarID(picker->itemData(i).toString()); });
     s->addRow(QStringLiteral("Calendar"), picker);
     s->addRow(statusLabel(c, Field::calendarMessage, &PrayerSettingsModel::calendarMessage));
-    // The access message names a macOS pane; say where access comes from here.
-    auto* linuxWay = wrapped(QStringLiteral(
-        "On Linux, access means a writable ~/.local/share/calendars folder: create it, or let "
-        "vdirsyncer create it when it syncs your calendars."));
-    watch(*m, linuxWay, {Field::calendarMessage}, [m, linuxWay] {
-        linuxWay->setVisible(m->calendarMessage().contains(QLatin1String("System Settings")));
-    });
-    s->addRow(linuxWay);
     return s;
 }
 

@@ -1,4 +1,4 @@
-// 10. Your phone too: a Focus during each lock, through two executable scripts.
+// 10. Your phone too: two executable scripts that quiet notifications during each lock.
 #include "desktop/settings/SectionKit.h"
 
 #include <QCheckBox>
@@ -33,18 +33,19 @@ QWidget* makePhoneSection(SectionContext& c) {
             QStringLiteral(" when it ends. The pair written for your desktop turns its "
                            "notification banners off and back on; a command added to both can "
                            "quiet your phone as well."));
-    s->addRow(boundToggle(c, QStringLiteral("Turn on a Focus during each lock"), Field::focusOn,
-                          &PrayerSettingsModel::focusOn, &PrayerSettingsModel::setFocusOn));
+    s->addRow(boundToggle(c, QStringLiteral("Run the Focus scripts during each lock"),
+                          Field::focusOn, &PrayerSettingsModel::focusOn,
+                          &PrayerSettingsModel::setFocusOn));
     auto* status = new QLabel;
     watch(*m, status, {Field::focusInstalled}, [m, status] {
         const auto installed = m->focusInstalled();
         status->setText(!installed   ? QStringLiteral("Not checked yet")
-                        : *installed ? QStringLiteral("Both shortcuts found")
-                                     : QStringLiteral("Shortcuts missing"));
-        status->setAccessibleName(QStringLiteral("Shortcuts ") + status->text());
+                        : *installed ? QStringLiteral("Both scripts found")
+                                     : QStringLiteral("Scripts missing"));
+        status->setAccessibleName(QStringLiteral("Scripts ") + status->text());
     });
-    s->addRow(QStringLiteral("Shortcuts"), status);
-    status->setAccessibleName(QStringLiteral("Shortcuts ") + status->text());
+    s->addRow(QStringLiteral("Scripts"), status);
+    status->setAccessibleName(QStringLiteral("Scripts ") + status->text());
     s->addRow(wrapped(
         QStringLiteral("1. Choose your desktop below and press Write Scripts: it makes ") + on +
         QStringLiteral(" and ") + off + QStringLiteral(" in ") + folder +

@@ -3,6 +3,7 @@
 #include "ocr/PageImage.h"
 #include "records/Log.h"
 
+#include <QRegularExpression>
 #include <leptonica/allheaders.h>
 #include <memory>
 #include <tesseract/ocrclass.h>
@@ -15,6 +16,33 @@ namespace {
 constexpr int deadlineMs = 30'000;
 // Capitals that look like digits (7, 1, 2, 8, 6, 0) and begin no month name.
 constexpr const char* lookalikeCapitals = "TLIZBGQ";
+
+// A gap wider than most of a character's height is no space between words of one cell.
+bool cellsApart(QRect word, QRect next) {
+    return !word.isNull() && next.left() - word.right() > word.height() * 4 / 5;
+}
+// "5 15" as one time when its two halves stand closer than cells do: small print loses the
+// dot or colon between them.
+QList<Recognizer::Word> withTimesWhole(const QList<Recognizer::Word>& words) {
+    static const QRegularExpression hours(QStringLiteral("^[012]?\\d$"));
+    static const QRegularExpression minutes(QStringLiteral("^[0-5]\\d$"));
+    QList<Recognizer::Word> whole;
+    for (const Recognizer::Word& word : words) {
+        if (!whole.isEmpty()) {
+            Recognizer::Word& last = whole.last();
+            const bool sameLine =
+                word.box.top() < last.box.center().y() && last.box.center().y() < word.box.bottom();
+            if (sameLine && hours.match(last.text).hasMatch() &&
+                minutes.match(word.text).hasMatch() && !cellsApart(last.box, word.box)) {
+                last.text += u':' + word.text;
+                last.box = last.box.united(word.box);
+                continue;
+            }
+        }
+        whole.append(word);
+    }
+    return whole;
+}
 } // namespace
 
 bool Recognizer::load() {
@@ -49,16 +77,28 @@ QList<Recognizer::Word> Recognizer::words(Pix* page, tesseract::PageSegMode mode
     api_.SetSourceResolution(300);
     if (!recognize()) return {};
     const std::unique_ptr<tesseract::ResultIterator> it(api_.GetIterator());
-    if (!it) return {};
+    if (!it || it->Empty(tesseract::RIL_SYMBOL)) return {};
+    // Built from the characters: the recogniser joins cells of a tight table into one word
+    // ("54:20" for day 5 and 4:20), and the gap between them tells them apart again.
     QList<Word> words;
+    Word word;
+    auto finish = [&] {
+        word.text = word.text.trimmed();
+        if (!word.text.isEmpty()) words.append(word);
+        word = {};
+    };
     do {
-        const std::unique_ptr<char[]> text(it->GetUTF8Text(tesseract::RIL_WORD));
+        const std::unique_ptr<char[]> text(it->GetUTF8Text(tesseract::RIL_SYMBOL));
         int left, top, right, bottom;
-        if (!text || !it->BoundingBox(tesseract::RIL_WORD, &left, &top, &right, &bottom)) continue;
-        const QString word = QString::fromUtf8(text.get()).trimmed();
-        if (!word.isEmpty()) words.append({word, QRect(QPoint(left, top), QPoint(right, bottom))});
-    } while (it->Next(tesseract::RIL_WORD));
-    return words;
+        if (!text || !it->BoundingBox(tesseract::RIL_SYMBOL, &left, &top, &right, &bottom))
+            continue;
+        const QRect box(QPoint(left, top), QPoint(right, bottom));
+        if (it->IsAtBeginningOf(tesseract::RIL_WORD) || cellsApart(word.box, box)) finish();
+        word.text += QString::fromUtf8(text.get());
+        word.box = word.box.isNull() ? box : word.box.united(box);
+    } while (it->Next(tesseract::RIL_SYMBOL));
+    finish();
+    return withTimesWhole(words);
 }
 
 QString Recognizer::reread(Pix* page, QRect box, const char* allowed, int scale) {

@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QFutureWatcher>
+#include <QRegularExpression>
 #include <QtConcurrent>
 #include <leptonica/allheaders.h>
 #include <unistd.h>
@@ -42,6 +43,29 @@ QList<RecognizedItem> relative(const QList<Recognizer::Word>& words, Pix* page) 
     return items;
 }
 
+// "1Mar" as the day and the month it is printed with: a narrow space between them is easily
+// lost, and the day is then no day to the parser nor to the count down the column.
+QList<Recognizer::Word> daysApartFromMonths(const QList<Recognizer::Word>& words) {
+    static const QRegularExpression glued(
+        QStringLiteral(
+            "^(\\S{1,3}?)((jan|feb|mar|apr|may|jun|jul|aug|sep|[o0]ct|nov|dec)\\w*\\.?)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    QList<Recognizer::Word> apart;
+    for (const Recognizer::Word& word : words) {
+        const QRegularExpressionMatch m = glued.match(word.text);
+        if (!m.hasMatch()) {
+            apart.append(word);
+            continue;
+        }
+        const QRect box = word.box;
+        const int split = box.left() + int(box.width() * m.capturedLength(1) / word.text.size());
+        apart.append(
+            {m.captured(1), QRect(QPoint(box.left(), box.top()), QPoint(split - 1, box.bottom()))});
+        apart.append({m.captured(2), QRect(QPoint(split, box.top()), box.bottomRight())});
+    }
+    return apart;
+}
+
 // Reads again, with only a time's or a day's characters allowed, the words that stand in the
 // table's time and day columns but read as something else, or stand apart from the days
 // around them.
@@ -72,7 +96,7 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
 }
 
 QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode) {
-    const QList<Recognizer::Word> words = recognizer.words(page, mode);
+    const QList<Recognizer::Word> words = daysApartFromMonths(recognizer.words(page, mode));
     QList<RecognizedItem> items = relative(words, page);
     repair(items, words, recognizer, page);
     return OcrLines::group(items);

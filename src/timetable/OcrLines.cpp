@@ -178,9 +178,12 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
 
     // Day numbers down the first column: one that is no number, or breaks the count between
     // its neighbours, is read again; the count tells what it should be.
+    // The first word of a row, or the second after a weekday's name.
+    static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
     QList<qsizetype> firsts;
     for (qsizetype l : table)
-        firsts << lines[l].first();
+        firsts
+            << lines[l][lines[l].size() > 1 && name.match(items[lines[l].first()].text).hasMatch()];
     const auto days = std::count_if(firsts.begin(), firsts.end(),
                                     [&](qsizetype i) { return isDay(items[i].text); });
     if (days * 2 < firsts.size()) return doubts;

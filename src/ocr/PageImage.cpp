@@ -141,23 +141,17 @@ PixPtr prepare(const QImage& image) {
     if (image.isNull()) return {};
     PixPtr page = levelled(evenlyLit(greyPix(image)));
     int character = typicalCharacterHeight(page.get());
-    if (character > 0 && character < smallCharacterPixels) {
-        // Tiny print (a small screenshot) needs more than twice to reach a readable size, and
-        // its rules are told from its strokes better once it is larger.
-        const int factor = std::clamp((20 + character - 1) / character, 2, 4);
-        const qint64 pixels = qint64(pixGetWidth(page.get())) * pixGetHeight(page.get());
-        if (pixels * factor * factor <= maxPixels) {
-            PixPtr larger(pixScaleGrayLI(page.get(), float(factor), float(factor)));
-            // Enlarging smooths the strokes further; sharpening gives back their edges.
-            if (larger) larger.reset(pixUnsharpMaskingGray(larger.get(), factor, 0.6f));
-            if (larger) {
-                page = std::move(larger);
-                character *= factor;
-            }
+    if (character > 0 && character < smallCharacterPixels &&
+        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
+        PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));
+        if (twice) {
+            page = std::move(twice);
+            character *= 2;
         }
     }
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled
-    // again, which runs in steps, still counts.
+    // again, which runs in steps, still counts. Small print is enlarged first: its rules are
+    // told from its strokes better then.
     const int rule = std::max(51, 3 * character) | 1;
     withoutRules(page.get(), rule, 1);
     withoutRules(page.get(), 1, rule);

@@ -2,8 +2,10 @@
 
 #include "ocr/PageImage.h"
 #include "records/Log.h"
+#include "timetable/OcrLines.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <leptonica/allheaders.h>
 #include <memory>
 #include <tesseract/ocrclass.h>
@@ -21,6 +23,34 @@ constexpr const char* lookalikeCapitals = "TLIZBGQ";
 bool cellsApart(QRect word, QRect next) {
     return !word.isNull() && next.left() - word.right() > word.height() * 4 / 5;
 }
+// One word's characters as the cells they stand in, when the gaps part a time from what
+// stands beside it. Anything else stays whole: the boxes of single characters are rough, and a
+// garbled cell is read again as a whole.
+QList<Recognizer::Word> cells(const QList<Recognizer::Word>& symbols) {
+    QList<Recognizer::Word> pieces;
+    Recognizer::Word word, whole;
+    auto finish = [&] {
+        word.text = word.text.trimmed();
+        if (!word.text.isEmpty()) pieces.append(word);
+        word = {};
+    };
+    for (const Recognizer::Word& symbol : symbols) {
+        if (cellsApart(word.box, symbol.box)) finish();
+        word.text += symbol.text;
+        word.box = word.box.isNull() ? symbol.box : word.box.united(symbol.box);
+        whole.text += symbol.text;
+        whole.box = whole.box.isNull() ? symbol.box : whole.box.united(symbol.box);
+    }
+    finish();
+    whole.text = whole.text.trimmed();
+    const bool parted = pieces.size() > 1 && !OcrLines::isTime(whole.text) &&
+                        std::any_of(pieces.begin(), pieces.end(), [](const Recognizer::Word& w) {
+                            return OcrLines::isTime(w.text);
+                        });
+    if (parted) return pieces;
+    return whole.text.isEmpty() ? QList<Recognizer::Word>{} : QList<Recognizer::Word>{whole};
+}
+
 // "5 15" as one time when its two halves stand closer than cells do: small print loses the
 // dot or colon between them.
 QList<Recognizer::Word> withTimesWhole(const QList<Recognizer::Word>& words) {
@@ -81,23 +111,19 @@ QList<Recognizer::Word> Recognizer::words(Pix* page, tesseract::PageSegMode mode
     // Built from the characters: the recogniser joins cells of a tight table into one word
     // ("54:20" for day 5 and 4:20), and the gap between them tells them apart again.
     QList<Word> words;
-    Word word;
-    auto finish = [&] {
-        word.text = word.text.trimmed();
-        if (!word.text.isEmpty()) words.append(word);
-        word = {};
-    };
+    QList<Word> symbols; // of the word being read
     do {
+        if (it->IsAtBeginningOf(tesseract::RIL_WORD)) {
+            words << cells(symbols);
+            symbols.clear();
+        }
         const std::unique_ptr<char[]> text(it->GetUTF8Text(tesseract::RIL_SYMBOL));
         int left, top, right, bottom;
-        if (!text || !it->BoundingBox(tesseract::RIL_SYMBOL, &left, &top, &right, &bottom))
-            continue;
-        const QRect box(QPoint(left, top), QPoint(right, bottom));
-        if (it->IsAtBeginningOf(tesseract::RIL_WORD) || cellsApart(word.box, box)) finish();
-        word.text += QString::fromUtf8(text.get());
-        word.box = word.box.isNull() ? box : word.box.united(box);
+        if (text && it->BoundingBox(tesseract::RIL_SYMBOL, &left, &top, &right, &bottom))
+            symbols.append(
+                {QString::fromUtf8(text.get()), QRect(QPoint(left, top), QPoint(right, bottom))});
     } while (it->Next(tesseract::RIL_SYMBOL));
-    finish();
+    words << cells(symbols);
     return withTimesWhole(words);
 }
 

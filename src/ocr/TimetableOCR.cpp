@@ -5,6 +5,7 @@
 #include "timetable/OcrLines.h"
 #include "timetable/TimetableParser.h"
 
+#include <QDate>
 #include <QFileInfo>
 #include <QFutureWatcher>
 #include <QRegularExpression>
@@ -43,15 +44,29 @@ QList<RecognizedItem> relative(const QList<Recognizer::Word>& words, Pix* page) 
     return items;
 }
 
-// "1Mar" as the day and the month it is printed with: a narrow space between them is easily
-// lost, and the day is then no day to the parser nor to the count down the column.
-QList<Recognizer::Word> daysApartFromMonths(const QList<Recognizer::Word>& words) {
+// "01/03/2026" from "01032026" or "0103/2026": the slashes are thin and the first to go.
+QString wholeDate(const QString& word) {
+    static const QRegularExpression date(
+        QStringLiteral("^([0-3]\\d)[^\\d]?([01]\\d)[^\\d]?(20\\d\\d)$"));
+    const QRegularExpressionMatch m = date.match(word);
+    if (!m.hasMatch()) return {};
+    return m.captured(1) + u'/' + m.captured(2) + u'/' + m.captured(3);
+}
+
+// Dates as the parser reads them: whole (see wholeDate), and "1Mar" as the day and the month it
+// is printed with: a narrow space between them is easily lost, and the day is then no day to
+// the parser nor to the count down the column.
+QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
     static const QRegularExpression glued(
         QStringLiteral(
             "^(\\S{1,3}?)((jan|feb|mar|apr|may|jun|jul|aug|sep|[o0]ct|nov|dec)\\w*\\.?)$"),
         QRegularExpression::CaseInsensitiveOption);
     QList<Recognizer::Word> apart;
     for (const Recognizer::Word& word : words) {
+        if (const QString date = wholeDate(word.text); !date.isEmpty()) {
+            apart.append({date, word.box});
+            continue;
+        }
         const QRegularExpressionMatch m = glued.match(word.text);
         if (!m.hasMatch()) {
             apart.append(word);
@@ -95,11 +110,56 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
     }
 }
 
+// Full dates down the first column count up a day a row: one that is unreadable, or breaks
+// the count between two neighbours that agree, is the day after the row above it. The print's
+// thin slashes make them the first thing small print loses.
+QStringList datesCounted(QStringList lines) {
+    const QString gap = QStringLiteral("   ");
+    const QString format = QStringLiteral("dd/MM/yyyy");
+    struct Row {
+        qsizetype line;
+        qsizetype firstTime; // words before it hold the date
+        QDate date;
+    };
+    QList<Row> rows;
+    for (qsizetype l = 0; l < lines.size(); ++l) {
+        const QStringList words = lines[l].split(gap);
+        const auto times = std::count_if(words.begin(), words.end(), OcrLines::isTime);
+        const auto first = std::find_if(words.begin(), words.end(), OcrLines::isTime);
+        if (times < 3) continue;
+        const qsizetype at = first - words.begin();
+        rows.append({l, at, at == 1 ? QDate::fromString(words[0], format) : QDate()});
+    }
+    const auto dated =
+        std::count_if(rows.begin(), rows.end(), [](const Row& r) { return r.date.isValid(); });
+    if (dated < 2 || dated * 4 < rows.size()) return lines;
+    auto write = [&](Row& row, QDate date) {
+        row.date = date;
+        QStringList words = lines[row.line].split(gap);
+        words.erase(words.begin(), words.begin() + row.firstTime);
+        words.prepend(date.toString(format));
+        lines[row.line] = words.join(gap);
+    };
+    // Down the rows, each from the one above it (set right already) ...
+    for (qsizetype r = 1; r < rows.size(); ++r) {
+        const QDate counted = rows[r - 1].date.isValid() ? rows[r - 1].date.addDays(1) : QDate();
+        const QDate next = r + 1 < rows.size() ? rows[r + 1].date : QDate();
+        if (!counted.isValid() || rows[r].date == counted) continue;
+        // A readable date off the count stands only when the row below goes on from it.
+        if (!rows[r].date.isValid() || next != rows[r].date.addDays(1)) write(rows[r], counted);
+    }
+    // ... and the rows above the first readable one from below.
+    for (qsizetype r = rows.size() - 2; r >= 0; --r)
+        if (!rows[r].date.isValid() && rows[r + 1].date.isValid())
+            write(rows[r], rows[r + 1].date.addDays(-1));
+    return lines;
+}
+
 QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode) {
-    const QList<Recognizer::Word> words = daysApartFromMonths(recognizer.words(page, mode));
+    const QList<Recognizer::Word> words = datesTidied(recognizer.words(page, mode));
     QList<RecognizedItem> items = relative(words, page);
     repair(items, words, recognizer, page);
-    return OcrLines::group(items);
+    return datesCounted(OcrLines::group(items));
 }
 
 } // namespace

@@ -150,14 +150,22 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     // A word stands in a column of times when times of several other rows stand above or
     // below it. Only lines between the table's first and last row count: the heading above
     // the time columns is no time.
+    // A word with digits right of a row's first time is taken for a time too: a column the
+    // print made hard to read may hold no clean time in any row.
     const int evidence = std::max<int>(2, int(table.size() / 3));
+    static const QRegularExpression digit(QStringLiteral("\\d"));
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
+        qreal firstTime = 2;
+        for (qsizetype i : lines[l])
+            if (isTimeLike(items[i].text)) firstTime = std::min(firstTime, items[i].box.left());
         for (qsizetype i : lines[l]) {
             if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
+            const bool amongTimes = table.contains(l) && items[i].box.left() > firstTime &&
+                                    items[i].text.contains(digit);
             const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
                 return t != l && timeBelowOrAbove(t, i, true) >= 0;
             });
-            if (rows >= evidence) doubts.append({i, Doubt::Time});
+            if (amongTimes || rows >= evidence) doubts.append({i, Doubt::Time});
         }
     }
 
@@ -181,9 +189,13 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     // The first word of a row, or the second after a weekday's name.
     static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
     QList<qsizetype> firsts;
-    for (qsizetype l : table)
-        firsts
-            << lines[l][lines[l].size() > 1 && name.match(items[lines[l].first()].text).hasMatch()];
+    for (qsizetype l : table) {
+        const QList<qsizetype>& line = lines[l];
+        static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
+        const bool weekday = line.size() > 1 && name.match(items[line[0]].text).hasMatch() &&
+                             !clock.match(items[line[1]].text).hasMatch();
+        firsts << line[weekday ? 1 : 0];
+    }
     const auto days = std::count_if(firsts.begin(), firsts.end(),
                                     [&](qsizetype i) { return isDay(items[i].text); });
     if (days * 2 < firsts.size()) return doubts;

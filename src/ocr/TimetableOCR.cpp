@@ -99,7 +99,7 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
         const int margin = box.height() / 3;
         const QRect area = box.adjusted(-margin, -margin, margin, margin).intersected(whole);
         // Some print reads right only larger (a serif 4 passes for an A).
-        for (int scale : {1, 2}) {
+        for (int scale : {1, 2, 3}) {
             const QString second = recognizer.reread(
                 page, area, time ? timeCharacters.constData() : "0123456789", scale);
             const QString kept = OcrLines::settle(doubt, text, second);

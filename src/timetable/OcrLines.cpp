@@ -208,13 +208,27 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         const int before = day(k - 1), after = day(k + 1);
         const bool between = before > 0 && after == before + 2;
         if (day(k) > 0) {
-            // A number is only overruled by two neighbours that agree.
-            if (between && day(k) != before + 1) doubts.append({firsts[k], Doubt::Day, before + 1});
+            // A number is only overruled by two neighbours that agree; at either end of the
+            // table, by the two rows next to it.
+            const bool last = k + 1 == firsts.size() && before > 1 && day(k - 2) == before - 1;
+            const bool first = k == 0 && after > 0 && day(k + 2) == after + 1;
+            if ((between || last) && day(k) != before + 1)
+                doubts.append({firsts[k], Doubt::Day, before + 1});
+            else if (first && day(k) != after - 1)
+                doubts.append({firsts[k], Doubt::Day, after - 1});
             continue;
         }
-        const int counted = between || (before > 0 && after < 0) ? before + 1
-                            : before < 0 && after > 1            ? after - 1
-                                                                 : -1;
+        // Unreadable: counted from the nearest readable day above, else below (three rows off at
+        // most: unreadable days come in runs).
+        auto nearest = [&](int step) {
+            for (int d = 1; d <= 3; ++d)
+                if (const int v = day(k + step * d); v > 0) return v - step * (d - 1);
+            return -1;
+        };
+        const int above = nearest(-1), below = nearest(1);
+        const int counted = above > 0 && (below < 0 || below == above + 2) ? above + 1
+                            : above < 0 && below > 1                       ? below - 1
+                                                                           : -1;
         doubts.append({firsts[k], Doubt::Day, counted});
     }
     return doubts;
@@ -226,6 +240,14 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
             return QString::number(doubt.expected);
         return isDay(second) ? second : first;
     }
+    auto withColon = [](const QString& digits) {
+        return digits.left(digits.size() - 2) + u':' + digits.right(2);
+    };
+    // A first reading that lacks only its colon keeps its digits: a second reading held to fewer
+    // characters more often changes a digit than finds a lost one.
+    if (colonless().match(first).hasMatch() && withColon(first) != second &&
+        withColon(first) != QString(second).replace(u'.', u':'))
+        return withColon(first);
     if (!isTime(second)) {
         // Cells a rule's remains had joined.
         const QStringList parts = timesRunTogether(second);

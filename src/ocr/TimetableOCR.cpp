@@ -110,9 +110,9 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
     }
 }
 
-// Full dates down the first column count up a day a row: one that is unreadable, or breaks
-// the count between two neighbours that agree, is the day after the row above it. The print's
-// thin slashes make them the first thing small print loses.
+// Full dates down the first column count up a day a row: one that is unreadable, or off the
+// count without the row below going on from it, is the day after the row above it. Their thin
+// slashes make dates the first thing small print loses.
 QStringList datesCounted(QStringList lines) {
     const QString gap = QStringLiteral("   ");
     const QString format = QStringLiteral("dd/MM/yyyy");

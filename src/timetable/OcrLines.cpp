@@ -1,5 +1,6 @@
 #include "timetable/OcrLines.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
@@ -234,6 +235,50 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     return doubts;
 }
 
+namespace {
+// A 6 where a time cannot hold one (12:62, 65:15) is a 0 whose gap blurred shut; empty when
+// that makes no time either.
+QString zeroForSix(const QString& reading) {
+    static const QRegularExpression shape(QStringLiteral("^(\\d{1,2})([:.])(\\d)(\\d.*)$"));
+    const QRegularExpressionMatch m = shape.match(reading);
+    if (!m.hasMatch()) return {};
+    QString hours = m.captured(1), tens = m.captured(3);
+    if (tens == u"6") tens = QStringLiteral("0");
+    if (hours.size() == 2 && hours[0] == u'6') hours[0] = u'0';
+    const QString fixed = hours + m.captured(2) + tens + m.captured(4);
+    return fixed != reading && isTime(fixed) ? fixed : QString();
+}
+// "133015441600" as 13:30, 15:44 and 16:00; empty unless it is two or more such times.
+QStringList runOfFours(const QString& reading) {
+    QString digits;
+    for (QChar c : reading)
+        if (c.isDigit())
+            digits += c;
+        else if (c.isLetterOrNumber())
+            return {};
+    if (digits.size() < 8 || digits.size() % 4 != 0) return {};
+    QStringList times;
+    for (qsizetype at = 0; at < digits.size(); at += 4) {
+        const QString time = digits.mid(at, 2) + u':' + digits.mid(at + 2, 2);
+        if (!isTime(time)) return {};
+        times << time;
+    }
+    return times;
+}
+
+// S for 5, O for 0, l for 1 and the like: what a blurred digit is read as without a list of
+// the characters allowed.
+QString asDigits(QString reading) {
+    static const QHash<QChar, QChar> digitFor{
+        {u'S', u'5'}, {u's', u'5'}, {u'$', u'5'}, {u'O', u'0'}, {u'o', u'0'}, {u'D', u'0'},
+        {u'l', u'1'}, {u'I', u'1'}, {u'|', u'1'}, {u'B', u'8'}, {u'Z', u'2'}, {u'z', u'2'},
+        {u'G', u'6'}, {u'b', u'6'}, {u'q', u'9'}, {u'g', u'9'}, {u'?', u'7'}};
+    for (QChar& c : reading)
+        c = digitFor.value(c, c);
+    return reading;
+}
+} // namespace
+
 QString settle(const Doubt& doubt, const QString& first, const QString& second) {
     if (doubt.kind == Doubt::Day) {
         if (doubt.expected > 0 && isDay(QString::number(doubt.expected)))
@@ -252,8 +297,20 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
         // Cells a rule's remains had joined.
         const QStringList parts = timesRunTogether(second);
         if (parts.size() > 1 && !isTime(first)) return parts.join(QStringLiteral("   "));
+        if (isTime(first)) return first;
+        // 24-hour cells run together with their colons lost: "133015441600".
+        for (const QString& reading : {second, first}) {
+            const QStringList fours = runOfFours(reading);
+            if (!fours.isEmpty()) return fours.join(QStringLiteral("   "));
+        }
+        // The readings as they stand, then with letters that look like digits read as those.
+        const QStringList readings{second, first, asDigits(second), asDigits(first)};
+        for (const QString& reading : readings)
+            if (isTime(reading)) return reading;
+        for (const QString& reading : readings)
+            if (const QString fixed = zeroForSix(reading); !fixed.isEmpty()) return fixed;
         // A blurred colon is the first thing a photo loses: 448 in a column of times is 4:48.
-        for (const QString& reading : {second, first})
+        for (const QString& reading : readings)
             if (colonless().match(reading).hasMatch())
                 return reading.left(reading.size() - 2) + u':' + reading.right(2);
         return first;

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QString>
 #include <QStringList>
+#include <random>
 
 namespace tarvanel::test {
 
@@ -51,6 +52,9 @@ QList<int> jamaatPositions(const Layout& layout);
 
 // `seed` decides the month, the times and the masjid's name.
 Sheet drawSheet(const Layout& layout, const Look& look, unsigned seed);
+
+// The page as a phone would photograph it: on a table, askew, out of focus, with grain.
+QImage photographed(const QImage& page, const Photo& photo, std::mt19937& random);
 
 // Saves the sheet as PNG or JPEG under `dir`; the file's path.
 QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, const QString& name);

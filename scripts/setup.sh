@@ -8,6 +8,7 @@ packages=(
     cmake g++ make pkg-config ccache git
     qt6-base-dev qt6-multimedia-dev libicu-dev libqrencode-dev libical-dev khal
     gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core fonts-noto-color-emoji tzdata
+    fonts-dejavu-core fonts-dejavu-extra fonts-urw-base35
     libxcb1-dev libwayland-dev wayland-protocols libxkbcommon-dev
     libtesseract-dev libleptonica-dev tesseract-ocr-eng libpoppler-qt6-dev
     libgtest-dev libgmock-dev libbenchmark-dev

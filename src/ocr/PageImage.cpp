@@ -66,9 +66,32 @@ PixPtr greyPix(const QImage& image) {
     return pix;
 }
 
+// Print that a blurred photo left grey made black again: the darkest part of the page, the
+// cores of its strokes, is stretched down to black, the paper stays white.
+void inked(Pix* page) {
+    constexpr double inkShare = 0.01; // of the page's pixels, less than its print covers
+    constexpr int greyPrint = 110;
+    Numa* histogram = pixGetGrayHistogram(page, 2);
+    if (!histogram) return;
+    l_float32 total = 0;
+    numaGetSum(histogram, &total);
+    l_float32 seen = 0;
+    int darkest = 0;
+    for (; darkest < 256; ++darkest) {
+        l_float32 count = 0;
+        numaGetFValue(histogram, darkest, &count);
+        seen += count;
+        if (seen >= total * inkShare) break;
+    }
+    numaDestroy(&histogram);
+    // Print whose darkest is already dark enough reads better as it is.
+    if (darkest > greyPrint && darkest < 200) pixGammaTRC(page, page, 1.0f, darkest, 255);
+}
+
 // The paper made evenly light: a photo's shadow would pass for ink in the steps that follow.
 PixPtr evenlyLit(PixPtr page) {
     PixPtr even(pixBackgroundNorm(page.get(), nullptr, nullptr, 10, 15, 100, 40, 255, 2, 1));
+    if (even) inked(even.get());
     return even ? std::move(even) : std::move(page);
 }
 
@@ -187,19 +210,23 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop) {
     if (stopped()) return {};
     page = levelled(std::move(page));
     if (stopped()) return {};
-    const int character = typicalCharacterHeight(page.get());
+    int character = typicalCharacterHeight(page.get());
+    if (character > 0 && character < smallCharacterPixels &&
+        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
+        PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));
+        if (twice) {
+            page = std::move(twice);
+            character *= 2;
+        }
+    }
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled
-    // again, which runs in steps, still counts.
+    // again, which runs in steps, still counts. Small print is enlarged first: its rules are
+    // told from its strokes better then.
     const int rule = std::max(51, 3 * character) | 1;
     withoutRules(page.get(), rule, 1);
     if (stopped()) return {};
     withoutRules(page.get(), 1, rule);
     if (stopped()) return {};
-    if (character > 0 && character < smallCharacterPixels &&
-        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
-        PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));
-        if (twice) return twice;
-    }
     return page;
 }
 

@@ -6,8 +6,10 @@
 #include "timetable/OcrLines.h"
 #include "timetable/TimetableParser.h"
 
+#include <QDate>
 #include <QFileInfo>
 #include <QFutureWatcher>
+#include <QRegularExpression>
 #include <QtConcurrent>
 #include <leptonica/allheaders.h>
 #include <unistd.h>
@@ -43,6 +45,43 @@ QList<RecognizedItem> relative(const QList<Recognizer::Word>& words, Pix* page) 
     return items;
 }
 
+// "01/03/2026" from "01032026" or "0103/2026": the slashes are thin and the first to go.
+QString wholeDate(const QString& word) {
+    static const QRegularExpression date(
+        QStringLiteral("^([0-3]\\d)[^\\d]?([01]\\d)[^\\d]?(20\\d\\d)$"));
+    const QRegularExpressionMatch m = date.match(word);
+    if (!m.hasMatch()) return {};
+    return m.captured(1) + u'/' + m.captured(2) + u'/' + m.captured(3);
+}
+
+// Dates as the parser reads them: whole (see wholeDate), and "1Mar" as the day and the month it
+// is printed with: a narrow space between them is easily lost, and the day is then no day to
+// the parser nor to the count down the column.
+QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
+    static const QRegularExpression glued(
+        QStringLiteral(
+            "^(\\S{1,3}?)((jan|feb|mar|apr|may|jun|jul|aug|sep|[o0]ct|nov|dec)\\w*\\.?)$"),
+        QRegularExpression::CaseInsensitiveOption);
+    QList<Recognizer::Word> apart;
+    for (const Recognizer::Word& word : words) {
+        if (const QString date = wholeDate(word.text); !date.isEmpty()) {
+            apart.append({date, word.box});
+            continue;
+        }
+        const QRegularExpressionMatch m = glued.match(word.text);
+        if (!m.hasMatch()) {
+            apart.append(word);
+            continue;
+        }
+        const QRect box = word.box;
+        const int split = box.left() + int(box.width() * m.capturedLength(1) / word.text.size());
+        apart.append(
+            {m.captured(1), QRect(QPoint(box.left(), box.top()), QPoint(split - 1, box.bottom()))});
+        apart.append({m.captured(2), QRect(QPoint(split, box.top()), box.bottomRight())});
+    }
+    return apart;
+}
+
 // Reads again, with only a time's or a day's characters allowed, the words that stand in the
 // table's time and day columns but read as something else, or stand apart from the days
 // around them.
@@ -61,7 +100,7 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
         const int margin = box.height() / 3;
         const QRect area = box.adjusted(-margin, -margin, margin, margin).intersected(whole);
         // Some print reads right only larger (a serif 4 passes for an A).
-        for (int scale : {1, 2}) {
+        for (int scale : {1, 2, 3}) {
             const QString second = recognizer.reread(
                 page, area, time ? timeCharacters.constData() : "0123456789", scale);
             const QString kept = OcrLines::settle(doubt, text, second);
@@ -72,9 +111,62 @@ void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
     }
 }
 
+// Full dates down the first column count up a day a row: one that is unreadable, or off the
+// count without the row below going on from it, is the day after the row above it. Their thin
+// slashes make dates the first thing small print loses.
+QStringList datesCounted(QStringList lines, QList<TextMark>& marks) {
+    const QString gap = QStringLiteral("   ");
+    const QString format = QStringLiteral("dd/MM/yyyy");
+    struct Row {
+        qsizetype line;
+        qsizetype firstTime; // words before it hold the date
+        QDate date;
+    };
+    QList<Row> rows;
+    for (qsizetype l = 0; l < lines.size(); ++l) {
+        const QStringList words = lines[l].split(gap);
+        const auto times = std::count_if(words.begin(), words.end(), OcrLines::isTime);
+        const auto first = std::find_if(words.begin(), words.end(), OcrLines::isTime);
+        if (times < 3) continue;
+        const qsizetype at = first - words.begin();
+        rows.append({l, at, at == 1 ? QDate::fromString(words[0], format) : QDate()});
+    }
+    const auto dated =
+        std::count_if(rows.begin(), rows.end(), [](const Row& r) { return r.date.isValid(); });
+    if (dated < 2 || dated * 4 < rows.size()) return lines;
+    // A counted date is a settled cell too: marked, and the marks after it on its line moved.
+    auto write = [&](Row& row, QDate date) {
+        row.date = date;
+        QStringList words = lines[row.line].split(gap);
+        const qsizetype oldDate = words.mid(0, row.firstTime).join(gap).size();
+        words.erase(words.begin(), words.begin() + row.firstTime);
+        const QString written = date.toString(format);
+        words.prepend(written);
+        lines[row.line] = words.join(gap);
+        const int line = int(row.line), shift = int(written.size() - oldDate);
+        marks.removeIf([&](const TextMark& m) { return m.line == line && m.start < oldDate; });
+        for (TextMark& m : marks)
+            if (m.line == line) m.start += shift;
+        marks.append({line, 0, int(written.size())});
+    };
+    // Down the rows, each from the one above it (set right already) ...
+    for (qsizetype r = 1; r < rows.size(); ++r) {
+        const QDate counted = rows[r - 1].date.isValid() ? rows[r - 1].date.addDays(1) : QDate();
+        const QDate next = r + 1 < rows.size() ? rows[r + 1].date : QDate();
+        if (!counted.isValid() || rows[r].date == counted) continue;
+        // A readable date off the count stands only when the row below goes on from it.
+        if (!rows[r].date.isValid() || next != rows[r].date.addDays(1)) write(rows[r], counted);
+    }
+    // ... and the rows above the first readable one from below.
+    for (qsizetype r = rows.size() - 2; r >= 0; --r)
+        if (!rows[r].date.isValid() && rows[r + 1].date.isValid())
+            write(rows[r], rows[r + 1].date.addDays(-1));
+    return lines;
+}
+
 QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
                  QList<TextMark>& marks) {
-    const QList<Recognizer::Word> words = recognizer.words(page, mode);
+    const QList<Recognizer::Word> words = datesTidied(recognizer.words(page, mode));
     QList<RecognizedItem> items = relative(words, page);
     const QList<RecognizedItem> first = items;
     repair(items, words, recognizer, page);
@@ -83,7 +175,7 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i].doubtful = items[i].text != first[i].text &&
                             (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));
-    return OcrLines::group(items, marks);
+    return datesCounted(OcrLines::group(items, marks), marks);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "timetable/OcrLines.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
@@ -160,14 +161,22 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     // A word stands in a column of times when times of several other rows stand above or
     // below it. Only lines between the table's first and last row count: the heading above
     // the time columns is no time.
+    // A word with digits right of a row's first time is taken for a time too: a column the
+    // print made hard to read may hold no clean time in any row.
     const int evidence = std::max<int>(2, int(table.size() / 3));
+    static const QRegularExpression digit(QStringLiteral("\\d"));
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
+        qreal firstTime = 2;
+        for (qsizetype i : lines[l])
+            if (isTimeLike(items[i].text)) firstTime = std::min(firstTime, items[i].box.left());
         for (qsizetype i : lines[l]) {
             if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
+            const bool amongTimes = table.contains(l) && items[i].box.left() > firstTime &&
+                                    items[i].text.contains(digit);
             const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
                 return t != l && timeBelowOrAbove(t, i, true) >= 0;
             });
-            if (rows >= evidence) doubts.append({i, Doubt::Time});
+            if (amongTimes || rows >= evidence) doubts.append({i, Doubt::Time});
         }
     }
 
@@ -188,9 +197,16 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
 
     // Day numbers down the first column: one that is no number, or breaks the count between
     // its neighbours, is read again; the count tells what it should be.
+    // The first word of a row, or the second after a weekday's name.
+    static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
     QList<qsizetype> firsts;
-    for (qsizetype l : table)
-        firsts << lines[l].first();
+    for (qsizetype l : table) {
+        const QList<qsizetype>& line = lines[l];
+        static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
+        const bool weekday = line.size() > 1 && name.match(items[line[0]].text).hasMatch() &&
+                             !clock.match(items[line[1]].text).hasMatch();
+        firsts << line[weekday ? 1 : 0];
+    }
     const auto days = std::count_if(firsts.begin(), firsts.end(),
                                     [&](qsizetype i) { return isDay(items[i].text); });
     if (days * 2 < firsts.size()) return doubts;
@@ -203,17 +219,75 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         const int before = day(k - 1), after = day(k + 1);
         const bool between = before > 0 && after == before + 2;
         if (day(k) > 0) {
-            // A number is only overruled by two neighbours that agree.
-            if (between && day(k) != before + 1) doubts.append({firsts[k], Doubt::Day, before + 1});
+            // A number is only overruled by two neighbours that agree; at either end of the
+            // table, by the two rows next to it.
+            const bool last = k + 1 == firsts.size() && before > 1 && day(k - 2) == before - 1;
+            const bool first = k == 0 && after > 0 && day(k + 2) == after + 1;
+            if ((between || last) && day(k) != before + 1)
+                doubts.append({firsts[k], Doubt::Day, before + 1});
+            else if (first && day(k) != after - 1)
+                doubts.append({firsts[k], Doubt::Day, after - 1});
             continue;
         }
-        const int counted = between || (before > 0 && after < 0) ? before + 1
-                            : before < 0 && after > 1            ? after - 1
-                                                                 : -1;
+        // Unreadable: counted from the nearest readable day above, else below (three rows off at
+        // most: unreadable days come in runs).
+        auto nearest = [&](int step) {
+            for (int d = 1; d <= 3; ++d)
+                if (const int v = day(k + step * d); v > 0) return v - step * (d - 1);
+            return -1;
+        };
+        const int above = nearest(-1), below = nearest(1);
+        const int counted = above > 0 && (below < 0 || below == above + 2) ? above + 1
+                            : above < 0 && below > 1                       ? below - 1
+                                                                           : -1;
         doubts.append({firsts[k], Doubt::Day, counted});
     }
     return doubts;
 }
+
+namespace {
+// A 6 where a time cannot hold one (12:62, 65:15) is a 0 whose gap blurred shut; empty when
+// that makes no time either.
+QString zeroForSix(const QString& reading) {
+    static const QRegularExpression shape(QStringLiteral("^(\\d{1,2})([:.])(\\d)(\\d.*)$"));
+    const QRegularExpressionMatch m = shape.match(reading);
+    if (!m.hasMatch()) return {};
+    QString hours = m.captured(1), tens = m.captured(3);
+    if (tens == u"6") tens = QStringLiteral("0");
+    if (hours.size() == 2 && hours[0] == u'6') hours[0] = u'0';
+    const QString fixed = hours + m.captured(2) + tens + m.captured(4);
+    return fixed != reading && isTime(fixed) ? fixed : QString();
+}
+// "133015441600" as 13:30, 15:44 and 16:00; empty unless it is two or more such times.
+QStringList runOfFours(const QString& reading) {
+    QString digits;
+    for (QChar c : reading)
+        if (c.isDigit())
+            digits += c;
+        else if (c.isLetterOrNumber())
+            return {};
+    if (digits.size() < 8 || digits.size() % 4 != 0) return {};
+    QStringList times;
+    for (qsizetype at = 0; at < digits.size(); at += 4) {
+        const QString time = digits.mid(at, 2) + u':' + digits.mid(at + 2, 2);
+        if (!isTime(time)) return {};
+        times << time;
+    }
+    return times;
+}
+
+// S for 5, O for 0, l for 1 and the like: what a blurred digit is read as without a list of
+// the characters allowed.
+QString asDigits(QString reading) {
+    static const QHash<QChar, QChar> digitFor{
+        {u'S', u'5'}, {u's', u'5'}, {u'$', u'5'}, {u'O', u'0'}, {u'o', u'0'}, {u'D', u'0'},
+        {u'l', u'1'}, {u'I', u'1'}, {u'|', u'1'}, {u'B', u'8'}, {u'Z', u'2'}, {u'z', u'2'},
+        {u'G', u'6'}, {u'b', u'6'}, {u'q', u'9'}, {u'g', u'9'}, {u'?', u'7'}};
+    for (QChar& c : reading)
+        c = digitFor.value(c, c);
+    return reading;
+}
+} // namespace
 
 QString settle(const Doubt& doubt, const QString& first, const QString& second) {
     if (doubt.kind == Doubt::Day) {
@@ -221,12 +295,32 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
             return QString::number(doubt.expected);
         return isDay(second) ? second : first;
     }
+    auto withColon = [](const QString& digits) {
+        return digits.left(digits.size() - 2) + u':' + digits.right(2);
+    };
+    // A first reading that lacks only its colon keeps its digits: a second reading held to fewer
+    // characters more often changes a digit than finds a lost one.
+    if (colonless().match(first).hasMatch() && withColon(first) != second &&
+        withColon(first) != QString(second).replace(u'.', u':'))
+        return withColon(first);
     if (!isTime(second)) {
         // Cells a rule's remains had joined.
         const QStringList parts = timesRunTogether(second);
         if (parts.size() > 1 && !isTime(first)) return parts.join(QStringLiteral("   "));
+        if (isTime(first)) return first;
+        // 24-hour cells run together with their colons lost: "133015441600".
+        for (const QString& reading : {second, first}) {
+            const QStringList fours = runOfFours(reading);
+            if (!fours.isEmpty()) return fours.join(QStringLiteral("   "));
+        }
+        // The readings as they stand, then with letters that look like digits read as those.
+        const QStringList readings{second, first, asDigits(second), asDigits(first)};
+        for (const QString& reading : readings)
+            if (isTime(reading)) return reading;
+        for (const QString& reading : readings)
+            if (const QString fixed = zeroForSix(reading); !fixed.isEmpty()) return fixed;
         // A blurred colon is the first thing a photo loses: 448 in a column of times is 4:48.
-        for (const QString& reading : {second, first})
+        for (const QString& reading : readings)
             if (colonless().match(reading).hasMatch())
                 return reading.left(reading.size() - 2) + u':' + reading.right(2);
         return first;

@@ -2,6 +2,7 @@
 // side by side, so per-screen behaviour is exercised without X.
 #include "DesktopTest.h"
 #include "desktop/DisplayCheck.h"
+#include "ocr/TimetableOCR.h"
 #include "support/TestEnv.h"
 
 #include <QApplication>
@@ -22,6 +23,9 @@ bool tarvanel::test::waitFor(const std::function<bool()>& done, int timeoutMs) {
 
 int main(int argc, char** argv) {
     using namespace tarvanel;
+    // ctest's environment for these tests loses the thread limit (the list's semicolon splits
+    // it off), and the text recognition tests run several times slower without it.
+    TimetableOCR::restartWithThreadLimit(argv);
     ::testing::InitGoogleTest(&argc, argv);
     test::useScratchHome();
     useOffscreenScreens(test::scratchHome() + QStringLiteral("/../screens.json"),

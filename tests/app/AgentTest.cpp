@@ -6,14 +6,11 @@
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QPointer>
 #include <QProcess>
-#include <QThread>
 
 using namespace tarvanel;
 using namespace tarvanel::test;
@@ -22,16 +19,6 @@ namespace {
 
 const QString unitFile = "com.velmora.tarvanel.service";
 const QString label = "com.velmora.tarvanel";
-
-bool waitUntil(const std::function<bool()>& done) {
-    QElapsedTimer t;
-    t.start();
-    while (!done() && t.elapsed() < 10000) {
-        QCoreApplication::processEvents();
-        QThread::msleep(5);
-    }
-    return done();
-}
 
 QString text(const QString& path) {
     return QString::fromUtf8(readWholeFile(path).value_or(QByteArray()));
@@ -80,14 +67,14 @@ protected:
         setExecutablePathForTesting(path);
     }
     bool ran(const QString& exe, const QString& agent) {
-        return waitUntil([&] { return text(exe + ".ran") == "started " + agent + "\n"; });
+        return waitFor([&] { return text(exe + ".ran") == "started " + agent + "\n"; });
     }
     InstallOutcome install() {
         QObject context;
         std::optional<InstallOutcome> out;
         installAgent(toolsBesideEventLoop(&context), [&](const InstallOutcome& o) { out = o; });
         EXPECT_FALSE(out.has_value()) << "answered before the tools did";
-        EXPECT_TRUE(waitUntil([&] { return out.has_value(); }));
+        EXPECT_TRUE(waitFor([&] { return out.has_value(); }));
         return out.value_or(InstallOutcome{});
     }
 };
@@ -178,7 +165,7 @@ TEST_F(AgentTest, HandOffRoads) {
         if (road.name == "agent running") {
             ensureSupportDir();
             holder.start("flock", {supportPath(".instance.lock"), "sleep", "30"});
-            ASSERT_TRUE(waitUntil([] {
+            ASSERT_TRUE(waitFor([] {
                 return run("flock", {"-n", supportPath(".instance.lock"), "true"}).first;
             }));
             ASSERT_TRUE(QDBusConnection::sessionBus().connect(
@@ -188,13 +175,13 @@ TEST_F(AgentTest, HandOffRoads) {
         if (road.name == "no room") writeFile(scratchHome() + "/.local/bin", "not a folder");
         std::optional<int> status;
         handOffToAgent(&platform, [&](int s) { status = s; });
-        ASSERT_TRUE(waitUntil([&] { return status.has_value(); }));
+        ASSERT_TRUE(waitFor([&] { return status.has_value(); }));
         EXPECT_EQ(status, road.status);
         QStringList messages;
         for (const AlertRequest& a : platform.alerts)
             messages << a.message;
         EXPECT_EQ(messages, road.alerts);
-        EXPECT_TRUE(road.name != "agent running" || waitUntil([&] { return shown.isNull(); }));
+        EXPECT_TRUE(road.name != "agent running" || waitFor([&] { return shown.isNull(); }));
         EXPECT_EQ(QFile::exists(showSettingsMarker()), road.name == "installed");
         EXPECT_EQ(QFile::exists(local), road.exe == local || road.name == "move");
         EXPECT_TRUE(road.name != "installed" ||
@@ -239,7 +226,7 @@ TEST_F(AgentTest, UninstallStopsTheServiceBeforeItsFileGoesAndKeepsDataUnlessAsk
         qputenv("TARVANEL_AGENT", c.agent ? label.toUtf8() : "");
         FakePlatform platform;
         uninstallApp(platform, c.deleteData);
-        ASSERT_TRUE(waitUntil([&] { return platform.exitStatus.has_value(); }));
+        ASSERT_TRUE(waitFor([&] { return platform.exitStatus.has_value(); }));
         EXPECT_EQ(platform.exitStatus, 0);
         EXPECT_EQ(calls(), c.calls);
         for (const QString& f : files)

@@ -1,5 +1,5 @@
 // The banner panel: placement, styles, replacement and closing on time.
-#include "DesktopTest.h"
+#include "support/TestEnv.h"
 #include "desktop/BannerPanel.h"
 #include "desktop/Look.h"
 

@@ -1,25 +1,11 @@
 // Widget tests need a QApplication. Under the offscreen platform the process gets two screens
 // side by side, so per-screen behaviour is exercised without X.
-#include "DesktopTest.h"
 #include "desktop/DisplayCheck.h"
 #include "ocr/TimetableOCR.h"
 #include "support/TestEnv.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QThread>
 #include <gtest/gtest.h>
-
-bool tarvanel::test::waitFor(const std::function<bool()>& done, int timeoutMs) {
-    QElapsedTimer t;
-    t.start();
-    while (!done()) {
-        if (t.elapsed() > timeoutMs) return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        QThread::msleep(2);
-    }
-    return true;
-}
 
 int main(int argc, char** argv) {
     using namespace tarvanel;

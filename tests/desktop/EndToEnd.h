@@ -1,7 +1,6 @@
 #pragma once
 // The real program on its own Xvfb display: one 2560×800 screen split into two monitors,
 // screenshots read as "locked" or not, and the program's standard error as it comes.
-#include "DesktopTest.h"
 #include "support/TestEnv.h"
 
 #include <QElapsedTimer>

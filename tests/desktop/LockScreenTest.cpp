@@ -1,5 +1,5 @@
 // The lock's keys, the quote card's layout, and the lock windows on every screen.
-#include "DesktopTest.h"
+#include "support/TestEnv.h"
 #include "desktop/LockKeys.h"
 #include "desktop/LockView.h"
 #include "desktop/QtPlatform.h"

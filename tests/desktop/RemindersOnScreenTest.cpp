@@ -1,6 +1,5 @@
 // A faked Dhuhr with the default reminders, through the real controller and the real banner
 // panel: each of the four is on screen, in turn, before the screens go dark.
-#include "DesktopTest.h"
 #include "app/Agent.h"
 #include "desktop/BannerPanel.h"
 #include "lock/AppDelegate.h"

@@ -1,5 +1,4 @@
 // Display check, termination signals, sounds, alerts and the platform's event-loop services.
-#include "DesktopTest.h"
 #include "desktop/Dialogs.h"
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"

@@ -1,6 +1,5 @@
 // config.json edited by hand while the settings window is open, through the desktop platform:
 // the form follows a good edit, or keeps the user's edits and says the file changed.
-#include "DesktopTest.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/settings/PrayerSettingsView.h"
 #include "support/TestEnv.h"

@@ -1,7 +1,6 @@
 // The settings form under the offscreen platform: first-run texts, the Lock footer's guardian
 // clause, custom angles, Save without a location, Cancel and the menu's Ctrl+W.
 #include "desktop/settings/SettingsWindow.h"
-#include "DesktopTest.h"
 #include "desktop/settings/PrayerSettingsView.h"
 #include "support/TestEnv.h"
 

@@ -1,5 +1,4 @@
 #include "desktop/TimetableImportView.h"
-#include "DesktopTest.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

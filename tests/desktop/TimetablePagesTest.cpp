@@ -1,6 +1,5 @@
 // Files of several pages: PDFs read from their text layer, scanned PDFs and TIFFs through the
 // recogniser, page after page, with progress, a bound on the pages and a stop.
-#include "DesktopTest.h"
 #include "desktop/TimetableImportView.h"
 #include "ocr/SheetReader.h"
 #include "support/TestEnv.h"

@@ -1,5 +1,5 @@
 // The tray icon's picture and the menu built from the core's model.
-#include "DesktopTest.h"
+#include "support/TestEnv.h"
 #include "desktop/Look.h"
 #include "desktop/TrayIcon.h"
 

@@ -9,14 +9,7 @@ using namespace tarvanel;
 using tarvanel::test::writeSupportFile;
 
 namespace {
-class ConfigTest : public test::ScratchTest {
-protected:
-    void SetUp() override {
-        ScratchTest::SetUp();
-        setLogSink([this](const QString& line) { logs << line; });
-    }
-    QStringList logs;
-};
+using ConfigTest = test::ScratchTest;
 } // namespace
 
 TEST_F(ConfigTest, MissingEmptyAndNullsKeepDefaultsSilently) {

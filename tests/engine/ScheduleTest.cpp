@@ -14,7 +14,6 @@ class ScheduleTest : public test::ScratchTest {
 protected:
     void SetUp() override {
         ScratchTest::SetUp();
-        setLogSink([this](const QString& line) { logs << line; });
         cfg.locationName = "London";
         cfg.latitude = 51.5072;
         cfg.longitude = -0.1276;
@@ -23,7 +22,6 @@ protected:
         return t ? formatLocal(*t, "HH:mm") : QString("absent");
     }
     Config cfg;
-    QStringList logs;
     // Tuesday 11 March 2025 and Friday 14 March 2025, both at local midnight.
     const QDateTime tuesday = startOfLocalDay(QDate(2025, 3, 11));
     const QDateTime friday = startOfLocalDay(QDate(2025, 3, 14));

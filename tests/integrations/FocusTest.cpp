@@ -4,8 +4,6 @@
 #include "records/StateFiles.h"
 #include "support/TestEnv.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -15,21 +13,9 @@ namespace Focus = tarvanel::FocusShortcuts;
 
 class FocusTest : public test::ScratchTest {
 protected:
-    void SetUp() override {
-        ScratchTest::SetUp();
-        setLogSink([this](const QString& line) { logs << line; });
-    }
     static void script(const QString& name, const QByteArray& body) {
         test::writeFile(Focus::folder() + '/' + name, "#!/bin/sh\n" + body + "\n", true);
     }
-    // Lets the event loop run until `done` holds (10 s at most).
-    static bool waitFor(const std::function<bool()>& done) {
-        const QDeadlineTimer deadline(10000);
-        while (!done() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-        return done();
-    }
-    QStringList logs;
     QObject owner;
 };
 
@@ -43,13 +29,13 @@ TEST_F(FocusTest, ScriptsRunBesideTheLoopAndFailuresAndHangsAreLogged) {
     Focus::run(true, &owner);
     Focus::run(false, &owner);
     EXPECT_FALSE(readWholeFile(runs).value_or("").contains("on")); // returned before it ran
-    ASSERT_TRUE(waitFor([&] { return readWholeFile(runs).value_or("").contains("on"); }));
+    ASSERT_TRUE(test::waitFor([&] { return readWholeFile(runs).value_or("").contains("on"); }));
     EXPECT_EQ(readWholeFile(runs).value(), "off\non\n");
     EXPECT_EQ(logs, QStringList{"Tarvanel: shortcut \"Tarvanel Focus Off\" failed (1)"});
 
     script(Focus::onName(), "exec sleep 30");
     Focus::run(true, &owner, 300);
-    ASSERT_TRUE(waitFor([&] { return logs.size() == 2; }));
+    ASSERT_TRUE(test::waitFor([&] { return logs.size() == 2; }));
     EXPECT_EQ(logs.last(), "Tarvanel: shortcut \"Tarvanel Focus On\" failed (-1)");
 }
 

@@ -8,9 +8,7 @@
 #include "records/StateFiles.h"
 #include "timetable/Timetable.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -124,11 +122,12 @@ TEST_F(LockSessionTest, PreviewRecordsNothingAndIntegrationsFollowScheduledLocks
     cfg.calendarID = "local/prayer";
     DaySimulator sim(cfg, at("12:00"));
     const auto written = [&](int lines) { // the scripts answer through the event loop
-        QElapsedTimer t;
-        t.start();
-        while (readWholeFile(out).value_or("").count('\n') < lines &&
-               sim.logsContaining("shortcut").isEmpty() && t.elapsed() < 3000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        waitFor(
+            [&] {
+                return readWholeFile(out).value_or("").count('\n') >= lines ||
+                       !sim.logsContaining("shortcut").isEmpty();
+            },
+            3000);
         return readWholeFile(out).value_or("");
     };
     const auto events = [&] { return QDir(calendar).entryList({"*.ics"}).size(); };

@@ -4,7 +4,6 @@
 #include "records/StateFiles.h"
 #include "support/TestEnv.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -59,10 +58,7 @@ TEST_F(PresenceTest, DevicesInUseMeanACall) {
 // server never holds the tick, and a hung one is killed at the limit.
 TEST_F(PresenceTest, SoundServerAnswersLaterAndWinsOverDevices) {
     const auto settle = [](PresenceMonitor& m) {
-        QElapsedTimer t;
-        t.start();
-        while (m.askingSoundServer() && t.elapsed() < 10000)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        test::waitFor([&] { return !m.askingSoundServer(); });
     };
     file("/asound/card0/pcm0c/sub0/status", "state: RUNNING\n");
     file("/pactl", "#!/bin/sh\nsleep 0.3\nexit 0\n"); // running, nobody records

@@ -10,9 +10,7 @@
 #include "records/StateFiles.h"
 #include "records/UserDefaults.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -204,10 +202,7 @@ TEST_F(StatusMenuTest, ExportAndUninstallAskAndDoWhatWasChosen) {
     sim.platform.answerAlert(1000, true);
     sim.app->uninstall();
     // The service steps run beside the event loop; the process ends after them.
-    QElapsedTimer waited;
-    waited.start();
-    while (!sim.platform.exitStatus && waited.elapsed() < 10000)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    waitFor([&] { return sim.platform.exitStatus.has_value(); });
     EXPECT_EQ(sim.platform.exitStatus, 0);
     EXPECT_FALSE(QDir(supportDir()).exists());
     EXPECT_TRUE(sim.logs.contains("Tarvanel: uninstalled"));
@@ -357,6 +352,7 @@ TEST_F(StatusMenuTest, WriteScriptsAsksBeforeReplacingTheUsersOwn) {
     ASSERT_EQ(sim.platform.alerts.size(), 1);
     const AlertRequest& ask = sim.platform.alerts[0];
     EXPECT_EQ(ask.message, "Replace your own “Tarvanel Focus On”?");
+    EXPECT_EQ(ask.info, "Tarvanel's pair for XFCE takes the place of what you wrote.");
     EXPECT_EQ(ask.buttons, QStringList({"Replace", "Cancel"}));
     EXPECT_TRUE(ask.firstIsDestructive); // so the question defaults to Cancel
     EXPECT_EQ(readWholeFile(on), mine);

@@ -14,15 +14,8 @@
 using namespace tarvanel;
 
 namespace {
-class ModesTest : public test::ScratchTest {
-protected:
-    void SetUp() override {
-        ScratchTest::SetUp();
-        setLogSink([this](const QString& line) { logs << line; });
-    }
-    QStringList logs;
-};
-class ExcusedTest : public ModesTest {};
+using ModesTest = test::ScratchTest;
+using ExcusedTest = test::ScratchTest;
 
 QDateTime utc(int y, int m, int d, int h = 0, int min = 0, int s = 0) {
     return QDateTime(QDate(y, m, d), QTime(h, min, s), QTimeZone::utc());

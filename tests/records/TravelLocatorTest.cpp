@@ -2,8 +2,6 @@
 #include "records/Log.h"
 #include "support/TestEnv.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -20,7 +18,6 @@ protected:
     // A one-route HTTP server on loopback answers every request with `status` and `body`.
     void SetUp() override {
         ScratchTest::SetUp();
-        setLogSink([this](const QString& line) { logs << line; });
         server.listen(QHostAddress::LocalHost, 0);
         QObject::connect(&server, &QTcpServer::newConnection, [this] {
             while (QTcpSocket* s = server.nextPendingConnection()) {
@@ -51,9 +48,7 @@ protected:
         auto c = QObject::connect(locator.get(), &TravelLocator::lookupFinished,
                                   [&] { finished = true; });
         locator->check(cfg, now);
-        QDeadlineTimer deadline(10000);
-        while (!finished && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        test::waitFor([&] { return finished; });
         QObject::disconnect(c);
         return finished;
     }
@@ -67,7 +62,6 @@ protected:
     QStringList requestLines;
     std::unique_ptr<TravelLocator> locator;
     Config cfg;
-    QStringList logs;
     int invalidations = 0;
     const QDateTime start = QDateTime(QDate(2025, 3, 1), QTime(9, 0), QTimeZone::utc());
 };

@@ -29,9 +29,7 @@ protected:
     void SetUp() override {
         ScratchTest::SetUp();
         ensureSupportDir();
-        setLogSink([this](const QString& line) { log << line; });
     }
-    QStringList log;
     QSet<QString> locks;
 };
 
@@ -100,9 +98,9 @@ TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
         EXPECT_EQ(bytesOf(names[i]), before[i]);
         // One line per file and cause, however many saves failed.
         for (const char* cause : {"File too large", "Permission denied"})
-            EXPECT_EQ(log.filter(supportPath(names[i]) + " (").filter(cause).size(), 1) << cause;
+            EXPECT_EQ(logs.filter(supportPath(names[i]) + " (").filter(cause).size(), 1) << cause;
     }
-    EXPECT_EQ(log.size(), 2 * names.size()) << log.join('\n').toStdString();
+    EXPECT_EQ(logs.size(), 2 * names.size()) << logs.join('\n').toStdString();
     EXPECT_EQ(filesIn("*").size(), files); // no temporary files left behind
 
     // Nothing is lost: the next write that succeeds carries what could not be saved.
@@ -133,13 +131,13 @@ TEST_F(WriteFailureTest, UnreadableFilesAreSetAsideNotReplaced) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         test::writeSupportFile(c.name, c.bytes);
-        log.clear();
+        logs.clear();
         EXPECT_TRUE(c.readsEmpty());
         const QStringList aside = filesIn(QString::fromLatin1(c.name) + ".unreadable-*");
         ASSERT_EQ(aside.size(), 1);
         EXPECT_EQ(bytesOf(aside[0]), c.bytes);
-        ASSERT_EQ(log.filter("moved aside").size(), 1) << log.join('\n').toStdString();
-        EXPECT_TRUE(log.filter("moved aside")[0].contains(supportPath(aside[0])));
+        ASSERT_EQ(logs.filter("moved aside").size(), 1) << logs.join('\n').toStdString();
+        EXPECT_TRUE(logs.filter("moved aside")[0].contains(supportPath(aside[0])));
         QFile::remove(supportPath(aside[0]));
     }
     // A folder that cannot take the renamed file keeps the bad one and refuses to replace it.
@@ -184,7 +182,7 @@ TEST_F(WriteFailureTest, KilledAtAnyMomentNoConfirmedRecordIsLost) {
     }
     EXPECT_GE(confirmed, 299); // one record at least per child
     EXPECT_EQ(filesIn("*.unreadable-*"), QStringList());
-    EXPECT_EQ(log, QStringList());
+    EXPECT_EQ(logs, QStringList());
 }
 
 TEST_F(WriteFailureTest, TheFolderAndItsFilesAreOwnerOnly) {
@@ -203,5 +201,5 @@ TEST_F(WriteFailureTest, TheFolderAndItsFilesAreOwnerOnly) {
         ASSERT_EQ(stat(QFile::encodeName(path).constData(), &st), 0);
         EXPECT_EQ(st.st_mode & 0777, path == supportDir() ? 0700u : 0600u) << path.toStdString();
     }
-    EXPECT_EQ(log.size(), 3) << log.join('\n').toStdString(); // the folder and two files
+    EXPECT_EQ(logs.size(), 3) << logs.join('\n').toStdString(); // the folder and two files
 }

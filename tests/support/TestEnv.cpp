@@ -4,10 +4,13 @@
 #include "records/Log.h"
 #include "records/StateFiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QThread>
 #include <cstdlib>
 
 namespace tarvanel::test {
@@ -19,6 +22,17 @@ QTemporaryDir& scratch() {
 
 QString scratchHome() {
     return scratch().path() + QStringLiteral("/home");
+}
+
+bool waitFor(const std::function<bool()>& done, int timeoutMs) {
+    QElapsedTimer t;
+    t.start();
+    while (!done()) {
+        if (t.elapsed() > timeoutMs) return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        QThread::msleep(1);
+    }
+    return true;
 }
 
 void wipeScratchHome() {
@@ -59,6 +73,7 @@ void ScratchTest::SetUp() {
     wipeScratchHome();
     setTimeZone("Europe/London");
     resetLastGoodConfigForTesting();
+    setLogSink([this](const QString& line) { logs << line; });
 }
 
 void ScratchTest::TearDown() {

@@ -3,6 +3,8 @@
 // process's time zone.
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
+#include <functional>
 #include <gtest/gtest.h>
 #include <ostream>
 
@@ -32,11 +34,19 @@ void writeFile(const QString& path, const QByteArray& bytes, bool executable = f
 // Writes bytes to ~/.tarvanel/name.
 void writeSupportFile(const QString& name, const QByteArray& bytes);
 
-// Fixture: a clean home and a known zone (Europe/London unless the test changes it).
+// Runs the event loop until `done` holds; false when `timeoutMs` passes first.
+bool waitFor(const std::function<bool()>& done, int timeoutMs = 10000);
+inline void pump(int ms) {
+    waitFor([] { return false; }, ms);
+}
+
+// Fixture: a clean home, a known zone (Europe/London unless the test changes it) and the log
+// lines of the test.
 class ScratchTest : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
+    QStringList logs;
 };
 
 } // namespace tarvanel::test

@@ -30,17 +30,13 @@ QList<Day> monthOfTimes(QDate first, int count, std::mt19937& random) {
     auto quarter = [](int m) { return (m + 14) / 15 * 15; };
     QList<Day> days;
     for (int i = 0; i < count; ++i) {
-        const int n = first.day() + i, week = n - (n - 1) % 7;
+        const int n = first.day() + i, week = n - (n - 1) % 7, maghribAt = maghrib + ms * n;
         Day d{first.addDays(i),
-              {fajr + fs * n, 722 + n / 4, asr + as * n / 2, maghrib + ms * n},
-              {},
-              0};
-        d.sunrise = d.begins[0] + 95 - n / 3;
-        d.begins[4] = std::min(d.begins[3] + 85 + n / 2, 1420);
-        d.jamaat[0] = quarter(fajr + fs * week + 20);
-        d.jamaat[1] = dhuhrJamaat;
-        d.jamaat[2] = quarter(asr + as * week / 2 + 10);
-        d.jamaat[3] = d.begins[3] + 5;
+              {fajr + fs * n, 722 + n / 4, asr + as * n / 2, maghribAt, 0},
+              {quarter(fajr + fs * week + 20), dhuhrJamaat, quarter(asr + as * week / 2 + 10),
+               maghribAt + 5, 0},
+              fajr + fs * n + 95 - n / 3};
+        d.begins[4] = std::min(maghribAt + 85 + n / 2, 1420);
         d.jamaat[4] = std::min(quarter(d.begins[4] + 10), 1430);
         days << d;
     }
@@ -200,7 +196,6 @@ void drawLogo(QPainter& p, QRect box) {
     const QRectF inner = QRectF(box).adjusted(box.width() * 0.25, box.height() * 0.3,
                                               -box.width() * 0.25, -box.height() * 0.2);
     dome.moveTo(inner.bottomLeft());
-    dome.lineTo(inner.left(), inner.center().y());
     dome.arcTo(inner, 180, -180);
     dome.lineTo(inner.bottomRight());
     dome.closeSubpath();

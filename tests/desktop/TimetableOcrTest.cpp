@@ -47,37 +47,23 @@ const Look clean[] = {
 };
 // Phone photos: tilted, keystoned, out of focus, unevenly lit, compressed; and small print.
 const Look photos[] = {
-    {"Nimbus Sans", 26, false, {2.0, 0.02, 1.0, 60, true}},
-    {"DejaVu Serif", 28, true, {-3.0, 0.0, 0.8, 60, false}},
-    {"Nimbus Sans Narrow", 24, false, {1.0, 0.04, 1.5, 70, true}},
-    {"Noto Sans", 9, false, {0, 0, 0, 60, false}},
-    {"Nimbus Roman", 30, true, {-1.5, 0.03, 1.2, 60, true}},
-    {"DejaVu Sans Mono", 24, false, {3.0, 0.0, 0.7, 60, false}},
-    {"C059", 10, true, {0, 0, 0.5, 60, false}},
-    {"DejaVu Sans Condensed", 26, false, {-2.5, 0.02, 1.0, 60, true}},
-    {"Noto Serif", 28, false, {0.5, 0.05, 1.5, 60, false}},
-    {"Nimbus Mono PS", 8, true, {0, 0, 0, 60, false}},
-    {"URW Gothic", 26, false, {-1.0, 0.0, 1.3, 60, true}},
-    {"P052", 27, true, {2.5, 0.03, 0.9, 60, true}},
-    {"DejaVu Sans", 10, false, {0.8, 0, 0.6, 60, false}},
-    {"Nimbus Sans", 25, true, {-3.0, 0.04, 1.1, 60, true}},
+    {"Nimbus Sans", 26, false, {2.0, 0.02, 1.0, 60, true}}, {"DejaVu Serif", 28, true, {-3.0, 0.0, 0.8, 60, false}},
+    {"Nimbus Sans Narrow", 24, false, {1.0, 0.04, 1.5, 70, true}}, {"Noto Sans", 9, false, {0, 0, 0, 60, false}},
+    {"Nimbus Roman", 30, true, {-1.5, 0.03, 1.2, 60, true}}, {"DejaVu Sans Mono", 24, false, {3.0, 0.0, 0.7, 60, false}},
+    {"C059", 10, true, {0, 0, 0.5, 60, false}}, {"DejaVu Sans Condensed", 26, false, {-2.5, 0.02, 1.0, 60, true}},
+    {"Noto Serif", 28, false, {0.5, 0.05, 1.5, 60, false}}, {"Nimbus Mono PS", 8, true, {0, 0, 0, 60, false}},
+    {"URW Gothic", 26, false, {-1.0, 0.0, 1.3, 60, true}}, {"P052", 27, true, {2.5, 0.03, 0.9, 60, true}},
+    {"DejaVu Sans", 10, false, {0.8, 0, 0.6, 60, false}}, {"Nimbus Sans", 25, true, {-3.0, 0.04, 1.1, 60, true}},
 };
 // Other months of the same layouts, photographed nearer and further, in other type.
 const Look snapshots[] = {
-    {"C059", 22, true, {-2.0, 0.03, 1.4, 60, true}},
-    {"Noto Sans", 16, false, {1.5, 0.0, 0.7, 60, true}},
-    {"DejaVu Serif", 14, false, {-0.7, 0.02, 0.6, 60, false}},
-    {"URW Gothic", 24, true, {2.8, 0.01, 1.2, 60, true}},
-    {"DejaVu Sans Mono", 20, false, {-1.2, 0.04, 1.0, 60, false}},
-    {"Nimbus Roman", 24, false, {0.3, 0.0, 1.5, 60, true}},
-    {"Nimbus Sans Narrow", 19, true, {-2.2, 0.05, 0.6, 60, false}},
-    {"Noto Serif", 24, false, {1.8, 0.02, 1.3, 60, true}},
-    {"P052", 18, true, {-0.4, 0.03, 0.8, 60, false}},
-    {"DejaVu Sans Condensed", 16, false, {2.2, 0.0, 0.7, 60, true}},
-    {"Nimbus Mono PS", 22, true, {-2.8, 0.02, 1.1, 60, true}},
-    {"Noto Sans", 26, false, {0.9, 0.04, 1.5, 60, false}},
-    {"DejaVu Serif", 18, true, {-1.6, 0.01, 0.7, 60, true}},
-    {"URW Gothic", 16, false, {1.1, 0.03, 0.8, 60, false}},
+    {"C059", 22, true, {-2.0, 0.03, 1.4, 60, true}}, {"Noto Sans", 16, false, {1.5, 0.0, 0.7, 60, true}},
+    {"DejaVu Serif", 14, false, {-0.7, 0.02, 0.6, 60, false}}, {"URW Gothic", 24, true, {2.8, 0.01, 1.2, 60, true}},
+    {"DejaVu Sans Mono", 20, false, {-1.2, 0.04, 1.0, 60, false}}, {"Nimbus Roman", 24, false, {0.3, 0.0, 1.5, 60, true}},
+    {"Nimbus Sans Narrow", 19, true, {-2.2, 0.05, 0.6, 60, false}}, {"Noto Serif", 24, false, {1.8, 0.02, 1.3, 60, true}},
+    {"P052", 18, true, {-0.4, 0.03, 0.8, 60, false}}, {"DejaVu Sans Condensed", 16, false, {2.2, 0.0, 0.7, 60, true}},
+    {"Nimbus Mono PS", 22, true, {-2.8, 0.02, 1.1, 60, true}}, {"Noto Sans", 26, false, {0.9, 0.04, 1.5, 60, false}},
+    {"DejaVu Serif", 18, true, {-1.6, 0.01, 0.7, 60, true}}, {"URW Gothic", 16, false, {1.1, 0.03, 0.8, 60, false}},
 };
 // clang-format on
 

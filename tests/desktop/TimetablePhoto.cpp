@@ -5,6 +5,7 @@
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace tarvanel::test {
 
@@ -14,31 +15,24 @@ namespace {
 QImage blurred(const QImage& source, double sigma) {
     const int radius = int(std::ceil(sigma * 3));
     QList<double> kernel;
-    double sum = 0;
-    for (int i = -radius; i <= radius; ++i) {
+    for (int i = -radius; i <= radius; ++i)
         kernel << std::exp(-i * i / (2 * sigma * sigma));
-        sum += kernel.last();
-    }
-    for (double& k : kernel)
-        k /= sum;
+    const double sum = std::accumulate(kernel.begin(), kernel.end(), 0.0);
     QImage image = source.convertToFormat(QImage::Format_RGB32);
+    const int w = image.width(), h = image.height();
     for (int pass = 0; pass < 2; ++pass) {
         QImage out(image.size(), QImage::Format_RGB32);
-        const int w = image.width(), h = image.height();
-        for (int y = 0; y < h; ++y) {
-            QRgb* to = reinterpret_cast<QRgb*>(out.scanLine(y));
+        for (int y = 0; y < h; ++y)
             for (int x = 0; x < w; ++x) {
-                double r = 0, g = 0, b = 0;
+                double rgb[3] = {};
                 for (int i = -radius; i <= radius; ++i) {
-                    const int sx = pass ? x : std::clamp(x + i, 0, w - 1);
-                    const int sy = pass ? std::clamp(y + i, 0, h - 1) : y;
-                    const QRgb c = reinterpret_cast<const QRgb*>(image.constScanLine(sy))[sx];
-                    const double k = kernel[i + radius];
-                    r += qRed(c) * k, g += qGreen(c) * k, b += qBlue(c) * k;
+                    const QRgb c = pass ? image.pixel(x, std::clamp(y + i, 0, h - 1))
+                                        : image.pixel(std::clamp(x + i, 0, w - 1), y);
+                    const double k = kernel[i + radius] / sum;
+                    rgb[0] += qRed(c) * k, rgb[1] += qGreen(c) * k, rgb[2] += qBlue(c) * k;
                 }
-                to[x] = qRgb(int(r + 0.5), int(g + 0.5), int(b + 0.5));
+                out.setPixel(x, y, qRgb(int(rgb[0] + 0.5), int(rgb[1] + 0.5), int(rgb[2] + 0.5)));
             }
-        }
         image = out;
     }
     return image;

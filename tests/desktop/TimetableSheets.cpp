@@ -2,13 +2,10 @@
 
 #include <QDate>
 #include <QFontMetrics>
-#include <QLinearGradient>
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
-#include <QTransform>
 #include <algorithm>
-#include <cmath>
 #include <random>
 
 namespace tarvanel::test {
@@ -33,20 +30,13 @@ QList<Day> monthOfTimes(QDate first, int count, std::mt19937& random) {
     auto quarter = [](int m) { return (m + 14) / 15 * 15; };
     QList<Day> days;
     for (int i = 0; i < count; ++i) {
-        Day d;
-        d.date = first.addDays(i);
-        const int n = first.day() + i;
-        d.begins[0] = fajr + fs * n;
-        d.sunrise = d.begins[0] + 95 - n / 3;
-        d.begins[1] = 720 + 2 + n / 4;
-        d.begins[2] = asr + as * n / 2;
-        d.begins[3] = maghrib + ms * n;
-        d.begins[4] = std::min(d.begins[3] + 85 + n / 2, 1420);
-        const int week = n - (n - 1) % 7;
-        d.jamaat[0] = quarter(fajr + fs * week + 20);
-        d.jamaat[1] = dhuhrJamaat;
-        d.jamaat[2] = quarter(asr + as * week / 2 + 10);
-        d.jamaat[3] = d.begins[3] + 5;
+        const int n = first.day() + i, week = n - (n - 1) % 7, maghribAt = maghrib + ms * n;
+        Day d{first.addDays(i),
+              {fajr + fs * n, 722 + n / 4, asr + as * n / 2, maghribAt, 0},
+              {quarter(fajr + fs * week + 20), dhuhrJamaat, quarter(asr + as * week / 2 + 10),
+               maghribAt + 5, 0},
+              fajr + fs * n + 95 - n / 3};
+        d.begins[4] = std::min(maghribAt + 85 + n / 2, 1420);
         d.jamaat[4] = std::min(quarter(d.begins[4] + 10), 1430);
         days << d;
     }
@@ -54,36 +44,30 @@ QList<Day> monthOfTimes(QDate first, int count, std::mt19937& random) {
 }
 
 QString clockText(int minutes, Clock clock) {
-    const int h = minutes / 60, m = minutes % 60;
-    switch (clock) {
-    case Clock::TwentyFour:
-        return QString::asprintf("%02d:%02d", h, m);
-    case Clock::AmPm:
-        return QString::asprintf("%d:%02d %s", h % 12 ? h % 12 : 12, m, h < 12 ? "am" : "pm");
-    case Clock::Dotted:
-        return QString::asprintf("%d.%02d", h % 12 ? h % 12 : 12, m);
-    case Clock::Unmarked:
-        break;
-    }
-    return QString::asprintf("%d:%02d", h % 12 ? h % 12 : 12, m);
+    const int h = minutes / 60, m = minutes % 60, twelve = h % 12 ? h % 12 : 12;
+    if (clock == Clock::TwentyFour) return QString::asprintf("%02d:%02d", h, m);
+    return QString::asprintf(clock == Clock::Dotted ? "%d.%02d" : "%d:%02d", twelve, m) +
+           (clock != Clock::AmPm ? ""
+            : h < 12             ? " am"
+                                 : " pm");
 }
 
 QStringList dateCells(const QDate& date, Dates dates) {
-    const QString weekday = QLocale::c().dayName(date.dayOfWeek(), QLocale::ShortFormat);
+    const QString day = QString::number(date.day()),
+                  weekday = QLocale::c().dayName(date.dayOfWeek(), QLocale::ShortFormat);
     switch (dates) {
     case Dates::DayMonth:
-        return {QString::number(date.day()) + ' ' +
-                QLocale::c().monthName(date.month(), QLocale::ShortFormat)};
+        return {day + ' ' + QLocale::c().monthName(date.month(), QLocale::ShortFormat)};
     case Dates::Slash:
         return {date.toString(QStringLiteral("dd/MM/yyyy"))};
     case Dates::WeekdayFirst:
-        return {weekday, QString::number(date.day())};
+        return {weekday, day};
     case Dates::NumberWeekday:
-        return {QString::number(date.day()), weekday};
+        return {day, weekday};
     case Dates::Number:
         break;
     }
-    return {QString::number(date.day())};
+    return {day};
 }
 
 struct Column {
@@ -96,18 +80,18 @@ QList<Column> timeColumns(const Layout& l) {
     const QStringList arabic{"فجر", "ظهر", "عصر", "مغرب", "عشاء"};
     QList<Column> columns;
     for (int p = 0; p < 5; ++p) {
-        if (l.begins) {
+        if (l.begins)
             columns << Column{names[p], arabic[p], "Begins"} << Column{"", "", "Jamaat"};
-        } else {
+        else
             columns << Column{names[p], arabic[p], ""};
-        }
         if (p == 0 && l.sunrise) columns << Column{"Sunrise", "شروق", ""};
     }
     return columns;
 }
 
-QStringList timeCells(const Day& d, const Layout& l) {
-    QStringList cells;
+// A row's cells: its date, then its times in column order.
+QStringList rowCells(const Day& d, const Layout& l) {
+    QStringList cells = dateCells(d.date, l.dates);
     for (int p = 0; p < 5; ++p) {
         if (l.begins) cells << clockText(d.begins[p], l.clock);
         cells << clockText(d.jamaat[p], l.clock);
@@ -116,79 +100,72 @@ QStringList timeCells(const Day& d, const Layout& l) {
     return cells;
 }
 
-// Draws the table of one month from `top`; returns the y below it.
 struct Painter {
     QPainter& p;
     const Layout& layout;
-    const Look& look;
     QFont body, header, arabic;
-    int row, margin, width;
+    int row, margin;
     QList<int> widths; // every column's, date columns first
-    QColor zebra{232, 236, 240};
 
+    int x(qsizetype column) const {
+        int at = margin;
+        for (qsizetype i = 0; i < column; ++i)
+            at += widths[i];
+        return at;
+    }
+
+    // A heading's English name with the Arabic one beside it, centred in `cell`.
+    void bilingual(const QRect& cell, const Column& col) const {
+        const int english = QFontMetrics(header).horizontalAdvance(col.english + ' ');
+        const int total = english + QFontMetrics(arabic).horizontalAdvance(col.arabic);
+        const int left = cell.center().x() - total / 2;
+        p.drawText(QRect(left, cell.y(), english, cell.height()), Qt::AlignVCenter, col.english);
+        p.setFont(arabic);
+        p.drawText(QRect(left + english, cell.y(), total - english, cell.height()),
+                   Qt::AlignVCenter, col.arabic);
+        p.setFont(header);
+    }
+
+    // Draws the table of one month from `top`; returns the y below it.
     int table(int top, const QList<Day>& days, QStringList& lines) const {
         const QList<Column> columns = timeColumns(layout);
-        const int dateColumns = int(widths.size() - columns.size());
-        auto x = [&](int c) {
-            int at = margin;
-            for (int i = 0; i < c; ++i)
-                at += widths[i];
-            return at;
-        };
+        const qsizetype dates = widths.size() - columns.size();
+        const int right = x(widths.size()), headerRows = layout.begins ? 2 : 1;
+        const int headerHeight = row * headerRows;
         // Header: names (with Arabic beside them), then Begins/Jamaat under each pair.
-        const bool dark = layout.ruling == Ruling::Zebra;
-        const int headerRows = layout.begins ? 2 : 1;
-        if (dark)
-            p.fillRect(margin, top, x(widths.size()) - margin, row * headerRows,
-                       QColor(20, 70, 50));
-        p.setPen(dark ? Qt::white : Qt::black);
+        const bool zebra = layout.ruling == Ruling::Zebra;
+        if (zebra) p.fillRect(margin, top, right - margin, headerHeight, QColor(20, 70, 50));
+        p.setPen(zebra ? Qt::white : Qt::black);
         p.setFont(header);
-        QStringList names{"Date"};
-        p.drawText(QRect(x(0), top, x(dateColumns) - x(0), row * headerRows), Qt::AlignCenter,
-                   "Date");
-        for (int c = 0; c < columns.size(); ++c) {
+        p.drawText(QRect(x(0), top, x(dates) - x(0), headerHeight), Qt::AlignCenter, "Date");
+        QStringList names{"Date"}, under;
+        for (qsizetype c = 0; c < columns.size(); ++c) {
             const Column& col = columns[c];
             if (col.english.isEmpty()) continue;
             const int span = layout.begins && col.english != "Sunrise" ? 2 : 1;
-            const QRect cell(x(dateColumns + c), top,
-                             x(dateColumns + c + span) - x(dateColumns + c),
-                             span == 1 ? row * headerRows : row);
+            const QRect cell(x(dates + c), top, x(dates + c + span) - x(dates + c),
+                             span == 1 ? headerHeight : row);
             names << col.english;
-            if (!layout.arabic) {
+            if (layout.arabic)
+                bilingual(cell, col);
+            else
                 p.drawText(cell, Qt::AlignCenter, col.english);
-                continue;
-            }
-            const int english = QFontMetrics(header).horizontalAdvance(col.english + ' ');
-            const int total = english + QFontMetrics(arabic).horizontalAdvance(col.arabic);
-            const int left = cell.center().x() - total / 2;
-            p.drawText(QRect(left, cell.y(), english, cell.height()), Qt::AlignVCenter,
-                       col.english);
-            p.setFont(arabic);
-            p.drawText(QRect(left + english, cell.y(), total - english, cell.height()),
-                       Qt::AlignVCenter, col.arabic);
-            p.setFont(header);
         }
         lines << names.join("  ");
-        if (layout.begins) {
-            QStringList under;
-            for (int c = 0; c < columns.size(); ++c) {
-                if (columns[c].under.isEmpty()) continue;
-                p.drawText(QRect(x(dateColumns + c), top + row, widths[dateColumns + c], row),
-                           Qt::AlignCenter, columns[c].under);
-                under << columns[c].under;
-            }
-            lines << under.join("  ");
+        for (qsizetype c = 0; layout.begins && c < columns.size(); ++c) {
+            if (columns[c].under.isEmpty()) continue;
+            p.drawText(QRect(x(dates + c), top + row, widths[dates + c], row), Qt::AlignCenter,
+                       columns[c].under);
+            under << columns[c].under;
         }
-        top += row * headerRows;
+        if (layout.begins) lines << under.join("  ");
+        top += headerHeight;
         p.setPen(Qt::black);
         p.setFont(body);
-        const int right = x(widths.size());
         for (int r = 0; r < days.size(); ++r) {
-            const QStringList cells =
-                dateCells(days[r].date, layout.dates) + timeCells(days[r], layout);
+            const QStringList cells = rowCells(days[r], layout);
             const int y = top + r * row;
-            if (layout.ruling == Ruling::Zebra && r % 2)
-                p.fillRect(margin, y, right - margin, row, zebra);
+            if (zebra && r % 2) p.fillRect(margin, y, right - margin, row, QColor(232, 236, 240));
             if (layout.ruling == Ruling::Rows || layout.ruling == Ruling::Grid)
                 p.drawLine(margin, y + row, right, y + row);
             for (int c = 0; c < cells.size(); ++c)
@@ -197,15 +174,13 @@ struct Painter {
         }
         const int bottom = top + int(days.size()) * row;
         if (layout.ruling == Ruling::Grid) {
-            p.drawRect(margin, top - row * headerRows, right - margin,
-                       bottom - top + row * headerRows);
+            p.drawRect(margin, top - headerHeight, right - margin, bottom - top + headerHeight);
             p.drawLine(margin, top, right, top);
-            for (int c = 1; c < widths.size(); ++c)
-                p.drawLine(x(c),
-                           top - (c <= dateColumns || !layout.begins || (c - dateColumns) % 2 == 0
-                                      ? row * headerRows
-                                      : row),
-                           x(c), bottom);
+            // Rules between a Begins and its Jamaat start below the name they share.
+            for (qsizetype c = 1; c < widths.size(); ++c) {
+                const bool shared = c > dates && layout.begins && (c - dates) % 2;
+                p.drawLine(x(c), top - (shared ? row : headerHeight), x(c), bottom);
+            }
         }
         return bottom;
     }
@@ -221,13 +196,16 @@ void drawLogo(QPainter& p, QRect box) {
     const QRectF inner = QRectF(box).adjusted(box.width() * 0.25, box.height() * 0.3,
                                               -box.width() * 0.25, -box.height() * 0.2);
     dome.moveTo(inner.bottomLeft());
-    dome.lineTo(inner.left(), inner.center().y());
     dome.arcTo(inner, 180, -180);
     dome.lineTo(inner.bottomRight());
     dome.closeSubpath();
     p.setBrush(Qt::white);
     p.drawPath(dome);
     p.restore();
+}
+
+QString monthTitle(QDate d) {
+    return QLocale::c().monthName(d.month()) + ' ' + QString::number(d.year());
 }
 
 } // namespace
@@ -243,11 +221,11 @@ QList<int> jamaatPositions(const Layout& layout) {
     return positions;
 }
 
-Sheet drawSheet(const Layout& layout, const Look& look, unsigned seed) {
+Sheet drawSheet(const Layout& l, const Look& look, unsigned seed) {
     std::mt19937 random(seed);
     const int month = 1 + int(random() % 12);
     QList<QList<Day>> months;
-    if (layout.twoMonths) {
+    if (l.twoMonths) {
         const QDate end = QDate(2026, month, 1).addMonths(1).addDays(-8);
         months << monthOfTimes(end, 8, random) << monthOfTimes(end.addDays(8), 8, random);
     } else {
@@ -255,41 +233,30 @@ Sheet drawSheet(const Layout& layout, const Look& look, unsigned seed) {
     }
 
     QFont body(look.font), header(look.font), arabic("Noto Naskh Arabic"), title(look.font);
-    body.setPixelSize(look.pixels);
-    header.setPixelSize(look.pixels);
+    for (QFont* f : {&body, &header, &arabic})
+        f->setPixelSize(look.pixels);
     header.setBold(look.boldHeaders);
-    arabic.setPixelSize(look.pixels);
     title.setPixelSize(look.pixels * 3 / 2);
     title.setBold(true);
 
-    // Column widths from the widest text each holds.
-    const Layout& l = layout;
+    // Column widths from the widest text each holds, its heading included.
     const QFontMetrics metrics(body), heads(header);
-    const int pad = look.pixels;
-    QList<int> widths;
-    const QStringList firstDate = dateCells(months[0][0].date, l.dates);
-    for (qsizetype c = 0; c < firstDate.size(); ++c) {
-        int w = heads.horizontalAdvance("Date");
-        for (const QList<Day>& days : months)
-            for (const Day& d : days)
-                w = std::max(w, metrics.horizontalAdvance(dateCells(d.date, l.dates)[c]));
-        widths << w + pad;
-    }
     const QList<Column> columns = timeColumns(l);
-    for (qsizetype c = 0; c < columns.size(); ++c) {
-        int w = heads.horizontalAdvance(columns[c].under);
-        if (!l.begins || columns[c].english == "Sunrise")
-            w = std::max(w,
-                         heads.horizontalAdvance(columns[c].english + (l.arabic ? " شروق" : "")));
+    const qsizetype dates = dateCells(months[0][0].date, l.dates).size();
+    QList<int> widths;
+    int tableWidth = 0;
+    for (qsizetype c = 0; c < dates + columns.size(); ++c) {
+        const Column* col = c < dates ? nullptr : &columns[c - dates];
+        int w = heads.horizontalAdvance(col ? col->under : "Date");
+        if (col && (!l.begins || col->english == "Sunrise"))
+            w = std::max(w, heads.horizontalAdvance(col->english + (l.arabic ? " شروق" : "")));
         for (const QList<Day>& days : months)
             for (const Day& d : days)
-                w = std::max(w, metrics.horizontalAdvance(timeCells(d, l)[c]));
-        widths << w + pad;
+                w = std::max(w, metrics.horizontalAdvance(rowCells(d, l)[c]));
+        widths << w + look.pixels;
+        tableWidth += widths.last();
     }
     const int margin = look.pixels * 2, row = look.pixels * 9 / 5;
-    int tableWidth = 0;
-    for (int w : widths)
-        tableWidth += w;
     const int rows = int(months[0].size() * months.size()) + 2 * int(months.size());
     const int height = margin * 2 + row * (rows + (l.title ? 4 : 1) + (l.footer ? 3 : 0) +
                                            (l.twoMonths ? 2 : 0) + 2);
@@ -298,13 +265,11 @@ Sheet drawSheet(const Layout& layout, const Look& look, unsigned seed) {
     sheet.image.fill(Qt::white);
     QPainter p(&sheet.image);
     p.setRenderHint(QPainter::TextAntialiasing);
-    Painter table{p, l, look, body, header, arabic, row, margin, tableWidth, widths};
+    const Painter table{p, l, body, header, arabic, row, margin, widths};
 
     static const char* places[] = {"Al-Noor", "Al-Huda", "Bilal", "Al-Falah", "Quba", "Al-Rahma"};
     const QString name = QString("Masjid ") + places[random() % 6];
-    auto monthTitle = [](QDate d) {
-        return QLocale::c().monthName(d.month()) + ' ' + QString::number(d.year());
-    };
+    const QString heading = monthTitle(months[0][0].date);
     int y = margin;
     p.setFont(title);
     if (l.title) {
@@ -314,31 +279,30 @@ Sheet drawSheet(const Layout& layout, const Look& look, unsigned seed) {
         p.drawText(margin + row * 4, y + row * 2,
                    QString("%1 High Street, Leicester").arg(seed % 90 + 3));
         p.setFont(title);
-        p.drawText(margin + row * 4, y + row * 3,
-                   "Prayer Timetable " + monthTitle(months[0][0].date));
-        sheet.lines << name << "Prayer Timetable " + monthTitle(months[0][0].date);
+        p.drawText(margin + row * 4, y + row * 3, "Prayer Timetable " + heading);
+        sheet.lines << name << "Prayer Timetable " + heading;
         y += row * 4;
     } else {
-        p.drawText(margin, y + row, monthTitle(months[0][0].date));
-        sheet.lines << monthTitle(months[0][0].date);
+        p.drawText(margin, y + row, heading);
+        sheet.lines << heading;
         y += row * 3 / 2;
     }
     for (const QList<Day>& days : months) {
-        if (l.twoMonths && &days != &months.first()) {
-            const QString next = monthTitle(days[0].date);
+        if (&days != &months.first()) { // the second month of a two-month sheet
             p.setFont(title);
-            p.drawText(margin, y + row * 3 / 2, next);
-            sheet.lines << next;
+            p.drawText(margin, y + row * 3 / 2, monthTitle(days[0].date));
+            sheet.lines << monthTitle(days[0].date);
             y += row * 2;
         }
         y = table.table(y, days, sheet.lines) + row / 2;
         sheet.days += int(days.size());
     }
     if (l.footer) {
+        const QString jumuah = "Jumu'ah: Khutbah 1:00 pm, Jamaat 1:30 pm";
         p.setFont(body);
-        p.drawText(margin, y + row, "Jumu'ah: Khutbah 1:00 pm, Jamaat 1:30 pm");
+        p.drawText(margin, y + row, jumuah);
         p.drawText(margin, y + row * 2, "Please switch off your mobile phone before entering.");
-        sheet.lines << "Jumu'ah: Khutbah 1:00 pm, Jamaat 1:30 pm";
+        sheet.lines << jumuah;
     }
     p.end();
     const Photo& photo = look.photo;

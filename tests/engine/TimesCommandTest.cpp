@@ -90,14 +90,9 @@ TEST_F(TimesCommandTest, StandardErrorSaysWhenTheTimesAreNotForTheUsersSettings)
         test::writeSupportFile("config.json", row.json);
         const Result r = run(args);
         EXPECT_EQ(r.status, 0);
-        if (!row.out.isEmpty()) {
-            EXPECT_EQ(r.out, row.out);
-        }
-        if (row.err.isEmpty()) {
-            EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();
-        } else {
-            EXPECT_TRUE(r.err.contains(row.err)) << r.err.toStdString();
-        }
+        EXPECT_EQ(r.out, row.out.isEmpty() ? r.out : row.out);
+        EXPECT_TRUE(row.err.isEmpty() ? r.err.isEmpty() : r.err.contains(row.err))
+            << r.err.toStdString();
         EXPECT_FALSE(r.err.contains("no place is set"));
     }
     EXPECT_TRUE(none.out.startsWith(QString::fromUtf8("Tarvanel \u2014   (Friday 14 March 2025")))

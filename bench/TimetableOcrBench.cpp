@@ -1,7 +1,8 @@
-// Speed of reading a photographed 31-day sheet, a text PDF and twelve scanned pages (off the
-// main thread in the program), and how soon a read stops when asked.
+// Speed of reading a photographed 31-day sheet, photos of the varied sheets, a text PDF and
+// twelve scanned pages (off the main thread in the program), and how soon a read stops when asked.
 #include "ocr/SheetReader.h"
 #include "ocr/TimetableOCR.h"
+#include "sheets/TimetableSheets.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -52,6 +53,28 @@ void BM_ReadThirtyOneDayPhoto(benchmark::State& state) {
     state.counters["lines"] = double(lines);
 }
 BENCHMARK(BM_ReadThirtyOneDayPhoto)->Unit(benchmark::kMillisecond)->Iterations(3)->UseRealTime();
+
+// Each photo of the varied set, read once: the time per sheet (its mean) and the slowest.
+void BM_ReadVariedPhotos(benchmark::State& state) {
+    QTemporaryDir dir;
+    QStringList paths;
+    for (int i = 0; i < 14; ++i) {
+        const sheets::Sheet sheet = sheets::drawSheet(sheets::layouts[i], sheets::photos[i], 7 + i);
+        paths << sheets::saveSheet(sheet, sheets::photos[i], dir.path(), QString::number(i));
+    }
+    double slowest = 0;
+    for (auto _ : state) {
+        for (const QString& path : paths) {
+            QElapsedTimer timer;
+            timer.start();
+            benchmark::DoNotOptimize(TimetableOCR::readFile(path));
+            slowest = std::max(slowest, timer.nsecsElapsed() / 1e6);
+        }
+    }
+    state.counters["sheets"] = double(paths.size());
+    state.counters["slowest_ms"] = slowest;
+}
+BENCHMARK(BM_ReadVariedPhotos)->Unit(benchmark::kMillisecond)->Iterations(1)->UseRealTime();
 
 // A month as a printed page: title, heading, 31 rows of a day and eleven times.
 void paintMonth(QPainter& p, int month) {

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <random>
 
-namespace tarvanel::test {
+namespace tarvanel::sheets {
 
 enum class Dates { Number, DayMonth, Slash, WeekdayFirst, NumberWeekday };
 enum class Clock { Unmarked, AmPm, TwentyFour, Dotted };
@@ -59,4 +59,10 @@ QImage photographed(const QImage& page, const Photo& photo, std::mt19937& random
 // Saves the sheet as PNG or JPEG under `dir`; the file's path.
 QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, const QString& name);
 
-} // namespace tarvanel::test
+// The varied set (VariedSet.cpp): a look per layout for each kind of sheet.
+extern const Layout layouts[14];
+extern const Look clean[14];
+extern const Look photos[14];
+extern const Look snapshots[14];
+
+} // namespace tarvanel::sheets

@@ -1,4 +1,4 @@
-#include "TimetableSheets.h"
+#include "sheets/TimetableSheets.h"
 
 #include <QDate>
 #include <QFontMetrics>
@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <random>
 
-namespace tarvanel::test {
+namespace tarvanel::sheets {
 
 namespace {
 
@@ -318,4 +318,4 @@ QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, cons
     return path;
 }
 
-} // namespace tarvanel::test
+} // namespace tarvanel::sheets

@@ -1,4 +1,4 @@
-#include "TimetableSheets.h"
+#include "sheets/TimetableSheets.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <numeric>
 
-namespace tarvanel::test {
+namespace tarvanel::sheets {
 
 namespace {
 
@@ -81,4 +81,4 @@ QImage photographed(const QImage& page, const Photo& photo, std::mt19937& random
     return shot;
 }
 
-} // namespace tarvanel::test
+} // namespace tarvanel::sheets

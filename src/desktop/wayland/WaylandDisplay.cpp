@@ -70,9 +70,18 @@ struct WaylandListeners {
     static void axisSource(void*, wl_pointer*, uint32_t) {}
     static void axisStop(void*, wl_pointer*, uint32_t, uint32_t) {}
     static void axisSteps(void*, wl_pointer*, uint32_t, int32_t) {}
-    static constexpr wl_pointer_listener pointer{
-        &pointerEnter, &pointerLeave, &motion,   &button,    &axis,
-        &frame,        &axisSource,   &axisStop, &axisSteps, &axisSteps};
+    // Named members: newer libwayland adds events at the end, which the seat version bound
+    // here never sends.
+    static constexpr wl_pointer_listener pointer{.enter = &pointerEnter,
+                                                 .leave = &pointerLeave,
+                                                 .motion = &motion,
+                                                 .button = &button,
+                                                 .axis = &axis,
+                                                 .frame = &frame,
+                                                 .axis_source = &axisSource,
+                                                 .axis_stop = &axisStop,
+                                                 .axis_discrete = &axisSteps,
+                                                 .axis_value120 = &axisSteps};
 
     static void geometry(void*, wl_output*, int32_t, int32_t, int32_t, int32_t, int32_t,
                          const char*, const char*, int32_t) {}

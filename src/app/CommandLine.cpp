@@ -1,7 +1,7 @@
 #include "app/CommandLine.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "engine/Schedule.h"
 #include "records/StateFiles.h"
 
@@ -81,7 +81,7 @@ QString timesText(const Config& cfg, const QDateTime& day) {
         const auto waqt = t.waqt.value(name);
         if (!waqt) continue;
         const QDateTime lock =
-            lockWindow(t.final.value(name).value_or(*waqt), name, t.jumuah, cfg).start;
+            lockPeriod(t.final.value(name).value_or(*waqt), name, t.jumuah, cfg).start;
         const QString lockText = name == QLatin1String("Sunrise") ? QStringLiteral("\u2014")
                                                                   : formatLocal(lock, kTimePattern);
         const QString shown =

@@ -1,6 +1,6 @@
 #include "integrations/PrayerCalendar.h"
 #include "engine/LocalTime.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "engine/Schedule.h"
 #include "platform/Platform.h"
 #include "records/Log.h"
@@ -92,7 +92,7 @@ QList<BusyEvent> plannedEvents(const Config& cfg, const QDateTime& now) {
             if (!lockTime) continue;
             const bool jumuah = day.jumuah && name == QLatin1String("Dhuhr");
             // The event is the lock itself: same start, same bounded length.
-            const LockWindow window = lockWindow(*lockTime, name, day.jumuah, cfg);
+            const LockPeriod window = lockPeriod(*lockTime, name, day.jumuah, cfg);
             if (!window.start.isValid()) continue;
             BusyEvent e;
             e.title = (jumuah ? QStringLiteral("Jumu'ah") : name) + QStringLiteral(" (prayer)");

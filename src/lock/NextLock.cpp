@@ -1,7 +1,7 @@
 // What comes next, for the user who has just set the program up or asks to resume locks: the
 // next lock's name and time, and whether a prayer's lock window is open right now.
 #include "engine/LocalTime.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "lock/AppDelegate.h"
 #include "lock/DayRules.h"
 #include "lock/Scheduler.h"
@@ -23,7 +23,7 @@ QString AppDelegate::nextLockText() {
         if (combining && isCombinedAway(slot.name, jumuah)) continue;
         // The screens go dark at the window's start, the lead before the lock time.
         const QDateTime start =
-            lockWindow(QDateTime::fromMSecsSinceEpoch(slot.at, QTimeZone::utc()), slot.name, jumuah,
+            lockPeriod(QDateTime::fromMSecsSinceEpoch(slot.at, QTimeZone::utc()), slot.name, jumuah,
                        config_)
                 .start;
         if (start <= now) continue;
@@ -32,7 +32,7 @@ QString AppDelegate::nextLockText() {
     }
     if (const auto fajr = today_.tomorrowsFajr(now, activeConfig()))
         return QStringLiteral("Next lock: Fajr tomorrow at ") +
-               formatLocal(lockWindow(*fajr, QStringLiteral("Fajr"), false, config_).start,
+               formatLocal(lockPeriod(*fajr, QStringLiteral("Fajr"), false, config_).start,
                            pattern);
     return QString();
 }

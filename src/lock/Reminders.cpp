@@ -1,7 +1,7 @@
 #include "lock/Reminders.h"
 
 #include "engine/LocalTime.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "engine/Quotes.h"
 #include "records/History.h"
 
@@ -68,7 +68,7 @@ void Reminders::checkTarawih(const Config& cfg, const QDateTime& now, const QStr
     const std::optional<QDateTime> isha = times.value(u"Isha");
     if (!isha || !isha->isValid()) return;
     // Two minutes after Isha's lock window closes.
-    const QDateTime at = lockWindow(*isha, QStringLiteral("Isha"), false, cfg).end.addSecs(120);
+    const QDateTime at = lockPeriod(*isha, QStringLiteral("Isha"), false, cfg).end.addSecs(120);
     if (now < at) return;
     const QString key = dayKey + QStringLiteral("-Tarawih");
     if (firedNudges.contains(key)) return;

@@ -1,6 +1,6 @@
 #include "lock/Scheduler.h"
 
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "lock/DayRules.h"
 
 #include <QTimeZone>
@@ -19,7 +19,7 @@ PrayerDecision decidePrayers(const TodaySchedule& today, const Config& cfg, cons
         const QString& name = slot.name;
         if (combining && isCombinedAway(name, jumuah)) continue;
         if (completedLocks.contains(slot.lockKey)) continue;
-        const LockWindowMs window = lockWindowMs(slot.at, name, jumuah, cfg);
+        const LockPeriodMs window = lockPeriodMs(slot.at, name, jumuah, cfg);
 
         // Reminders count down to the moment the screens go dark, so every one of them shows
         // before the lock and none falls inside it.

@@ -1,7 +1,7 @@
 // The one-second tick, the single decision point of the running program, and the road of a
 // lock from its start to what its end records.
 #include "app/Agent.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"

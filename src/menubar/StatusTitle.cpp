@@ -1,6 +1,6 @@
 // The status item's title: what comes next, how soon, and in which colour.
 #include "engine/LocalTime.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "lock/DayRules.h"
 #include "menubar/StatusView.h"
 
@@ -28,7 +28,7 @@ std::optional<Title> statusTitle(const TitleView& view) {
         if (t <= nowMs) continue;
 
         // Orange, then red, as the screens going dark comes near: minutes to the lock's start.
-        const qint64 start = lockWindowMs(t, name, view.jumuah, view.config).start;
+        const qint64 start = lockPeriodMs(t, name, view.jumuah, view.config).start;
         const double m = double(start - nowMs) / 60000.0;
         const TitleColor color = m <= 5    ? TitleColor::Red
                                  : m <= 20 ? TitleColor::Orange

@@ -4,7 +4,7 @@
 #include "engine/CalcMethods.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "guardian/Guardian.h"
 #include "lock/Presence.h"
 #include "timetable/Timetable.h"
@@ -233,7 +233,7 @@ QList<PreviewEntry> PrayerSettingsModel::preview() const {
         e.start = *start;
         if (name != QLatin1String("Sunrise")) {
             if (const auto fin = eff.final.value(name))
-                e.lock = lockWindow(*fin, name, eff.jumuah, cfg).start;
+                e.lock = lockPeriod(*fin, name, eff.jumuah, cfg).start;
         }
         out << e;
     }

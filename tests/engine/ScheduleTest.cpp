@@ -1,6 +1,6 @@
 #include "engine/Schedule.h"
 #include "engine/LocalTime.h"
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 #include "engine/PrayerTimes.h"
 #include "records/Log.h"
 #include "records/StateFiles.h"
@@ -129,7 +129,7 @@ TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverrideButATimetabl
 TEST_F(ScheduleTest, LockWindowIsTheLeadBeforeTheLockTimeForTheBoundedLength) {
     const QDateTime one = tuesday.addSecs(13 * 3600);
     auto window = [&](const QString& prayer, bool jumuah) {
-        const LockWindow w = lockWindow(one, prayer, jumuah, cfg);
+        const LockPeriod w = lockPeriod(one, prayer, jumuah, cfg);
         return QStringList{clock(w.start), clock(w.end)};
     };
     EXPECT_EQ(window("Dhuhr", false), QStringList({"12:55", "13:10"}));
@@ -138,12 +138,12 @@ TEST_F(ScheduleTest, LockWindowIsTheLeadBeforeTheLockTimeForTheBoundedLength) {
     cfg.lockMinutes = 500;
     cfg.jumuahLockMinutes = 0;
     cfg.lockLeadMinutes = 0.5;
-    EXPECT_EQ(lockWindow(one, "Isha", false, cfg).start, one.addSecs(-30));
+    EXPECT_EQ(lockPeriod(one, "Isha", false, cfg).start, one.addSecs(-30));
     EXPECT_EQ(window("Isha", false), QStringList({"12:59", "15:59"}));
     EXPECT_EQ(window("Dhuhr", true), QStringList({"12:59", "13:00"}));
     cfg.lockLeadMinutes = 0.6 / 60000; // 0.6 ms rounds to one
-    const LockWindowMs ms = lockWindowMs(1000, "Fajr", false, cfg);
+    const LockPeriodMs ms = lockPeriodMs(1000, "Fajr", false, cfg);
     EXPECT_EQ(ms.start, 999);
     EXPECT_EQ(ms.end, 999 + 180 * 60000);
-    EXPECT_FALSE(lockWindow(QDateTime(), "Fajr", false, cfg).start.isValid());
+    EXPECT_FALSE(lockPeriod(QDateTime(), "Fajr", false, cfg).start.isValid());
 }

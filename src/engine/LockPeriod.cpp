@@ -1,4 +1,4 @@
-#include "engine/LockWindow.h"
+#include "engine/LockPeriod.h"
 
 #include <QTimeZone>
 #include <cmath>
@@ -14,16 +14,16 @@ double lockLengthMinutes(const QString& prayer, bool jumuah, const Config& cfg) 
     return cfg.lockLength();
 }
 
-LockWindowMs lockWindowMs(qint64 lockTimeMs, const QString& prayer, bool jumuah,
+LockPeriodMs lockPeriodMs(qint64 lockTimeMs, const QString& prayer, bool jumuah,
                           const Config& cfg) {
     const qint64 start = lockTimeMs - minutesMs(cfg.leadMinutes());
     return {start, start + minutesMs(lockLengthMinutes(prayer, jumuah, cfg))};
 }
 
-LockWindow lockWindow(const QDateTime& lockTime, const QString& prayer, bool jumuah,
+LockPeriod lockPeriod(const QDateTime& lockTime, const QString& prayer, bool jumuah,
                       const Config& cfg) {
     if (!lockTime.isValid()) return {};
-    const LockWindowMs w = lockWindowMs(lockTime.toMSecsSinceEpoch(), prayer, jumuah, cfg);
+    const LockPeriodMs w = lockPeriodMs(lockTime.toMSecsSinceEpoch(), prayer, jumuah, cfg);
     return {QDateTime::fromMSecsSinceEpoch(w.start, QTimeZone::utc()),
             QDateTime::fromMSecsSinceEpoch(w.end, QTimeZone::utc())};
 }

@@ -18,18 +18,18 @@ qint64 minutesMs(double minutes);
 double lockLengthMinutes(const QString& prayer, bool jumuah, const Config& cfg);
 
 // The half-open interval [start, end), in milliseconds since the epoch.
-struct LockWindowMs {
+struct LockPeriodMs {
     qint64 start = 0;
     qint64 end = 0;
 };
-LockWindowMs lockWindowMs(qint64 lockTimeMs, const QString& prayer, bool jumuah, const Config& cfg);
+LockPeriodMs lockPeriodMs(qint64 lockTimeMs, const QString& prayer, bool jumuah, const Config& cfg);
 
-struct LockWindow {
+struct LockPeriod {
     QDateTime start;
     QDateTime end;
 };
 // Invalid instants in, invalid instants out.
-LockWindow lockWindow(const QDateTime& lockTime, const QString& prayer, bool jumuah,
+LockPeriod lockPeriod(const QDateTime& lockTime, const QString& prayer, bool jumuah,
                       const Config& cfg);
 
 } // namespace tarvanel

@@ -5,7 +5,7 @@ here="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="${TARVANEL_BUILD_DIR:-$here/build}"
 
 packages=(
-    cmake g++ make pkg-config ccache git
+    cmake g++ make pkg-config ccache git build-essential
     qt6-base-dev qt6-multimedia-dev libicu-dev libqrencode-dev libical-dev khal
     gstreamer1.0-plugins-good sound-theme-freedesktop fonts-noto-core fonts-noto-color-emoji tzdata
     fonts-dejavu-core fonts-dejavu-extra fonts-urw-base35

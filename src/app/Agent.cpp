@@ -1,8 +1,8 @@
 #include "app/Agent.h"
 
 #include "app/CommandLine.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

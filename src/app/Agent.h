@@ -1,7 +1,7 @@
 #pragma once
 // Running as the per-user login service: the hand-off of a copy opened by hand, single instance,
 // self-restart after an update, installation of the systemd user unit, and uninstalling.
-#include "app/ToolRunner.h"
+#include "base/ToolRunner.h"
 #include "platform/Platform.h"
 
 #include <QList>

@@ -3,8 +3,8 @@
 #include "app/Agent.h"
 
 #include "app/CommandLine.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -3,7 +3,7 @@
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "engine/Schedule.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QFileInfo>
 #include <cmath>

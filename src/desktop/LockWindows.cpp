@@ -1,6 +1,6 @@
 #include "desktop/LockWindows.h"
 
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <QGuiApplication>
 #include <QScreen>

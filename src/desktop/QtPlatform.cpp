@@ -6,8 +6,8 @@
 #include "desktop/settings/PrayerSettingsView.h"
 #include "desktop/wayland/WaylandLock.h"
 #include "lock/LockScreenState.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "settings/CitySearch.h"
 
 #include <QApplication>

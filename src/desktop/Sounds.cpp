@@ -1,6 +1,6 @@
 #include "desktop/Sounds.h"
 
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <QAudioDevice>
 #include <QAudioOutput>

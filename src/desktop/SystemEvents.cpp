@@ -1,6 +1,6 @@
 #include "desktop/SystemEvents.h"
 
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

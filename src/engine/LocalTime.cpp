@@ -100,4 +100,9 @@ void resetLocalTimeZone() {
     tzset();
 }
 
+QString dayKey(const QDateTime& instant) {
+    const LocalFields f = localFields(instant);
+    return QString::asprintf("%04d-%02d-%02d", f.year, f.month, f.day);
+}
+
 } // namespace tarvanel

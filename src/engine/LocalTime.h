@@ -28,6 +28,10 @@ QDateTime startOfLocalDay(const QDateTime& instant);
 // ("h:mm AP", "dddd d MMMM yyyy").
 QString formatLocal(const QDateTime& instant, const QString& pattern);
 
+// Day key "yyyy-MM-dd" of an instant in the process's time zone.
+QString dayKey(const QDateTime& instant);
+QString dayKey(const QDate& date);
+
 // Re-reads TZ after a change of the environment (tests switch zones).
 void resetLocalTimeZone();
 

@@ -1,7 +1,7 @@
 #include "engine/Schedule.h"
 #include "engine/LocalTime.h"
 #include "engine/PrayerTimes.h"
-#include "records/Log.h"
+#include "base/Log.h"
 #include "timetable/Timetable.h"
 
 #include <QSet>

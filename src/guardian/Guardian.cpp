@@ -1,7 +1,7 @@
 #include "guardian/Guardian.h"
 #include "engine/Digits.h"
-#include "records/StateFiles.h"
-#include "records/Store.h"
+#include "base/StateFiles.h"
+#include "base/Store.h"
 
 #include <QFile>
 #include <QFileInfo>

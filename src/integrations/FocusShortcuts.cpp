@@ -1,7 +1,7 @@
 #include "integrations/FocusShortcuts.h"
-#include "app/ToolRunner.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/ToolRunner.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QFileInfo>

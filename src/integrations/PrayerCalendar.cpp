@@ -3,8 +3,8 @@
 #include "engine/LockPeriod.h"
 #include "engine/Schedule.h"
 #include "platform/Platform.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QFileInfo>

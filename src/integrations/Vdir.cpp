@@ -1,5 +1,5 @@
 #include "integrations/Vdir.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QFile>

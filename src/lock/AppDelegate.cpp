@@ -9,8 +9,8 @@
 #include "lock/Presence.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "records/TravelLocator.h"
 #include "timetable/Timetable.h"
 

@@ -14,7 +14,7 @@
 #include "menubar/MenuModel.h"
 #include "menubar/StatusView.h"
 #include "platform/Platform.h"
-#include "records/FileStamp.h"
+#include "base/FileStamp.h"
 #include "records/Modes.h"
 
 #include <QDateTime>

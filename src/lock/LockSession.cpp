@@ -4,7 +4,7 @@
 #include "engine/Quotes.h"
 #include "guardian/Guardian.h"
 #include "lock/Presence.h"
-#include "records/Log.h"
+#include "base/Log.h"
 #include "records/Modes.h"
 
 namespace tarvanel {

@@ -6,7 +6,7 @@
 #include "lock/DayRules.h"
 #include "lock/Scheduler.h"
 #include "records/Excused.h"
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <QTimeZone>
 

@@ -1,8 +1,8 @@
 #include "lock/Presence.h"
 
-#include "app/ToolRunner.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/ToolRunner.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QFile>

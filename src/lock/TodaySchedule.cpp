@@ -3,7 +3,7 @@
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <cmath>
 

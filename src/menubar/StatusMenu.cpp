@@ -6,7 +6,7 @@
 #include "menubar/StatusView.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #include "ocr/Recognizer.h"
 
 #include "ocr/PageImage.h"
-#include "records/Log.h"
+#include "base/Log.h"
 #include "timetable/OcrLines.h"
 
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #include "records/Excused.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
-#include "records/Store.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
+#include "base/Store.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

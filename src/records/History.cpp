@@ -3,8 +3,8 @@
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "records/LockState.h"
-#include "records/StateFiles.h"
-#include "records/Store.h"
+#include "base/StateFiles.h"
+#include "base/Store.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,5 +1,5 @@
 #include "records/LockState.h"
-#include "records/Store.h"
+#include "base/Store.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

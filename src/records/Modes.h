@@ -1,6 +1,6 @@
 #pragma once
 // Pause and declared travel: the store of their two instants and the rules that make them.
-#include "records/FileStamp.h"
+#include "base/FileStamp.h"
 #include "records/UserDefaults.h"
 
 #include <QDate>

@@ -2,7 +2,7 @@
 // and the guardian code set-up.
 #include "engine/CalcMethods.h"
 #include "guardian/Guardian.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "settings/CitySearch.h"
 #include "settings/PrayerSettingsModel.h"
 

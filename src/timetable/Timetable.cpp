@@ -1,7 +1,7 @@
 #include "timetable/Timetable.h"
 #include "engine/LocalTime.h"
-#include "records/StateFiles.h"
-#include "records/Store.h"
+#include "base/StateFiles.h"
+#include "base/Store.h"
 
 #include <QJsonObject>
 #include <QLocale>

@@ -3,7 +3,7 @@
 #include "desktop/LockKeys.h"
 #include "desktop/LockView.h"
 #include "lock/LockScreenState.h"
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>

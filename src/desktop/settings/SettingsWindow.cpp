@@ -1,7 +1,7 @@
 #include "desktop/settings/SettingsWindow.h"
 
 #include "app/Agent.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QAction>
 #include <QApplication>

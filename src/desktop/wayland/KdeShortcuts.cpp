@@ -1,6 +1,6 @@
 #include "desktop/wayland/KdeShortcuts.h"
 
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

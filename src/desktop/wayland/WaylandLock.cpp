@@ -4,7 +4,7 @@
 #include "desktop/wayland/KdeShortcuts.h"
 #include "desktop/wayland/WaylandSurface.h"
 #include "lock/LockScreenState.h"
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include "desktop/wayland/Protocols.h"
 

@@ -1,6 +1,6 @@
-#include "records/Store.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Store.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <cstdio>
 

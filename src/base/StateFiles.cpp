@@ -1,7 +1,6 @@
-#include "records/StateFiles.h"
-#include "engine/LocalTime.h"
-#include "records/Log.h"
-#include "records/Store.h"
+#include "base/StateFiles.h"
+#include "base/Log.h"
+#include "base/Store.h"
 
 #include <QDir>
 #include <QFile>
@@ -219,11 +218,6 @@ QJsonDocument encodeNestedTextMap(const NestedTextMap& map) {
         root.insert(it.key(), inner);
     }
     return QJsonDocument(root);
-}
-
-QString dayKey(const QDateTime& instant) {
-    const LocalFields f = localFields(instant);
-    return QString::asprintf("%04d-%02d-%02d", f.year, f.month, f.day);
 }
 
 QString dayKey(const QDate& date) {

@@ -1,4 +1,4 @@
-#include "app/ToolRunner.h"
+#include "base/ToolRunner.h"
 
 #include <QProcess>
 #include <QTimer>

@@ -2,7 +2,7 @@
 // One JSON file in supportDir held in memory. The file is read again only when its stamp (size,
 // modification time, inode) changes; save() and remove() are the cache's one invalidation point.
 // A file that exists but does not parse or decode is moved aside, never overwritten.
-#include "records/FileStamp.h"
+#include "base/FileStamp.h"
 
 #include <QJsonDocument>
 #include <QString>

@@ -52,8 +52,7 @@ using NestedTextMap = QMap<QString, QMap<QString, QString>>;
 std::optional<NestedTextMap> decodeNestedTextMap(const QJsonDocument& doc);
 QJsonDocument encodeNestedTextMap(const NestedTextMap& map);
 
-// Day key "yyyy-MM-dd" of an instant in the process's time zone.
-QString dayKey(const QDateTime& instant);
+// Day key "yyyy-MM-dd" of a date (LocalTime.h gives the key of an instant).
 QString dayKey(const QDate& date);
 std::optional<QDate> parseDayKey(const QString& key);
 

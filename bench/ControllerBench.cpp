@@ -1,11 +1,13 @@
 // The controller's per-second cost: an idle tick, the evening title, the menu, a whole day.
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/Config.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "lock/AppDelegate.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "records/ConfigFile.h"
+#include "timetable/Timetable.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -75,7 +77,7 @@ struct Fixture {
     explicit Fixture(const QDateTime& start) : now(start) {
         QDir(supportDir()).removeRecursively();
         saveConfig(benchConfig());
-        app = std::make_unique<AppDelegate>(platform, CommandLine{});
+        app = std::make_unique<AppDelegate>(platform, ControllerOptions{});
         app->clock = [this] { return now; };
         app->callCheck = [] { return false; };
         app->askDidPray = [](const QString&) { return std::optional<bool>(true); };
@@ -110,7 +112,7 @@ void BM_TomorrowScheduleUncached(benchmark::State& state) {
     const Config cfg = benchConfig();
     const QDateTime now = localTime(21, 0);
     for (auto _ : state)
-        benchmark::DoNotOptimize(effectiveTimes(now.addSecs(86400), cfg));
+        benchmark::DoNotOptimize(Timetable::scheduledTimes(now.addSecs(86400), cfg));
 }
 BENCHMARK(BM_TomorrowScheduleUncached);
 

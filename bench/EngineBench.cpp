@@ -1,9 +1,11 @@
 // Engine speed: one day's solar times, a day's schedule, a whole year for one city, and the
 // --times command as a process.
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "engine/PrayerTimes.h"
 #include "engine/Schedule.h"
-#include "records/StateFiles.h"
+#include "records/ConfigFile.h"
+#include "timetable/Timetable.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -58,7 +60,7 @@ static void BM_EffectiveTimes(benchmark::State& state) {
     env();
     const Config cfg = london();
     for (auto _ : state)
-        benchmark::DoNotOptimize(effectiveTimes(kDay, cfg));
+        benchmark::DoNotOptimize(Timetable::scheduledTimes(kDay, cfg));
 }
 BENCHMARK(BM_EffectiveTimes);
 
@@ -68,7 +70,8 @@ static void BM_WholeYearOneCity(benchmark::State& state) {
     const QDateTime start = startOfLocalDay(QDate(2025, 1, 1));
     for (auto _ : state) {
         for (int d = 0; d < 365; ++d)
-            benchmark::DoNotOptimize(effectiveTimes(start.addSecs(qint64(d) * 86400 + 43200), cfg));
+            benchmark::DoNotOptimize(
+                Timetable::scheduledTimes(start.addSecs(qint64(d) * 86400 + 43200), cfg));
     }
 }
 BENCHMARK(BM_WholeYearOneCity)->Unit(benchmark::kMillisecond);

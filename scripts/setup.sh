@@ -14,7 +14,7 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     libgeonames-dev
     qt6-svg-dev
-    python3-pyatspi at-spi2-core dbus-daemon
+    python3 python3-pyatspi at-spi2-core dbus-daemon
     xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
     sway grim wtype wayland-utils qt6-wayland swaylock foot
     kwin-wayland kde-spectacle qtwayland5 qdbus-qt5 libkf5globalaccel-bin plasma-wayland-protocols

@@ -23,7 +23,6 @@ namespace tarvanel {
 
 namespace {
 
-int instanceLockFD = -1;
 std::optional<std::optional<QString>> launchStamp; // outer: taken yet; inner: the stamp
 QString executableOverride;
 QString systemctlOverride;
@@ -109,31 +108,6 @@ void fallBackToAutostart(const QString& exe,
 
 bool launchedByAgent() {
     return qEnvironmentVariable("TARVANEL_AGENT") == QLatin1String(appLabel);
-}
-
-bool acquireInstanceLock() {
-    if (instanceLockFD >= 0) return true;
-    ensureSupportDir();
-    const QByteArray path = QFile::encodeName(supportPath(QStringLiteral(".instance.lock")));
-    const int fd = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-    if (fd < 0) return true; // better to run than to refuse to start
-    if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
-        instanceLockFD = fd;
-        return true;
-    }
-    ::close(fd);
-    return false;
-}
-
-void releaseInstanceLock() {
-    if (instanceLockFD < 0) return;
-    ::flock(instanceLockFD, LOCK_UN);
-    ::close(instanceLockFD);
-    instanceLockFD = -1;
-}
-
-QString showSettingsMarker() {
-    return supportPath(QStringLiteral(".show-settings"));
 }
 
 QString executablePath() {

@@ -1,7 +1,10 @@
 #pragma once
 // Running as the per-user login service: the hand-off of a copy opened by hand, single instance,
 // self-restart after an update, installation of the systemd user unit, and uninstalling.
+#include "app/CommandLine.h"
+#include "base/InstanceLock.h"
 #include "base/ToolRunner.h"
+#include "lock/ControllerOptions.h"
 #include "platform/Platform.h"
 
 #include <QList>
@@ -16,17 +19,6 @@ namespace tarvanel {
 
 // True when the environment variable TARVANEL_AGENT equals appLabel exactly.
 bool launchedByAgent();
-
-// True when this process now holds ~/.tarvanel/.instance.lock (or the file cannot be opened at
-// all); false when another process holds it.
-bool acquireInstanceLock();
-void releaseInstanceLock();
-inline void releaseInstanceLockForTesting() {
-    releaseInstanceLock();
-}
-
-// ~/.tarvanel/.show-settings
-QString showSettingsMarker();
 
 // The running executable (or the one a test named), with symbolic links resolved.
 QString executablePath();
@@ -84,10 +76,11 @@ InstallOutcome installAgent(); // waits: the --install-agent command
 void handOffToAgent(Platform* platform, std::function<void(int status)> finish,
                     const QString& importFile = {});
 
-// Absent when cancelled; otherwise whether to delete the user's data too.
-std::optional<bool> confirmUninstall(Platform& platform, const QString& extra);
 // Stops and removes the service, the menu entry and (when asked) the data, moves a copy the
 // user installed to the trash, then ends the process with status 0.
 void uninstallApp(Platform& platform, bool deleteData);
+
+// The controller's options from the command line, with this process's part in the login service.
+ControllerOptions controllerOptions(const CommandLine& cl, Platform& platform);
 
 } // namespace tarvanel

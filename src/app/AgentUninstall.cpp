@@ -45,19 +45,6 @@ void removeFilesAndProgram(Platform& platform, bool deleteData) {
 
 } // namespace
 
-std::optional<bool> confirmUninstall(Platform& platform, const QString& extra) {
-    platform.activateApp();
-    const AlertAnswer answer = platform.showAlert(AlertRequest{
-        QStringLiteral("Uninstall ") + name + QLatin1Char('?'),
-        name + QStringLiteral(" stops running, stops starting at login, and moves to the Trash. ") +
-            extra,
-        {QStringLiteral("Uninstall"), QStringLiteral("Cancel")},
-        QStringLiteral("Also delete my settings and history"),
-        true});
-    if (answer.response != 1000) return std::nullopt;
-    return answer.checkBoxOn;
-}
-
 void uninstallApp(Platform& platform, bool deleteData) {
     auto* context = new QObject; // owns the running tools until the process ends
     const ToolCall tools = toolsBesideEventLoop(context);
@@ -73,6 +60,16 @@ void uninstallApp(Platform& platform, bool deleteData) {
                   platform.exitProcess(0);
               });
     });
+}
+
+ControllerOptions controllerOptions(const CommandLine& cl, Platform& platform) {
+    ControllerOptions options;
+    options.testLockSeconds = cl.testLockSeconds;
+    options.testNudge = cl.testNudge;
+    options.underService = launchedByAgent();
+    options.programReplaced = appWasReplaced;
+    options.removeProgram = [&platform](bool deleteData) { uninstallApp(platform, deleteData); };
+    return options;
 }
 
 } // namespace tarvanel

@@ -1,9 +1,11 @@
 #include "app/CommandLine.h"
+#include "base/StateFiles.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "engine/Schedule.h"
-#include "base/StateFiles.h"
+#include "records/ConfigFile.h"
+#include "timetable/Timetable.h"
 
 #include <QFileInfo>
 #include <cmath>
@@ -69,7 +71,7 @@ QDateTime timesDay(const CommandLine& cl, const QDateTime& now) {
 }
 
 QString timesText(const Config& cfg, const QDateTime& day) {
-    const EffectiveTimes t = effectiveTimes(day, cfg);
+    const EffectiveTimes t = Timetable::scheduledTimes(day, cfg);
     QString out = QStringLiteral("Tarvanel \u2014 ") + cfg.locationName + QStringLiteral("  (") +
                   formatLocal(day, QStringLiteral("dddd d MMMM yyyy")) +
                   QStringLiteral(" \u2022 ") + hijriString(day);

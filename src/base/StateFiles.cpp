@@ -48,6 +48,18 @@ QMutex& loggedMutex() {
 }
 } // namespace
 
+QString showSettingsMarker() {
+    return supportPath(QStringLiteral(".show-settings"));
+}
+
+std::optional<QString> adhanFileURL() {
+    for (const char* ext : {"mp3", "m4a", "aiff", "wav"}) {
+        const QString path = supportPath(QStringLiteral("adhan.") + QLatin1String(ext));
+        if (QFileInfo(path).isFile()) return path;
+    }
+    return std::nullopt;
+}
+
 QString homeDir() {
     return paths().home;
 }

@@ -15,6 +15,10 @@ QString homeDir();
 QString supportDir(); // homeDir()/.tarvanel
 QString configURL();  // supportDir()/config.json
 QString supportPath(const QString& name);
+// ~/.tarvanel/.show-settings: a copy started by hand asks the agent to open its settings.
+QString showSettingsMarker();
+// The adhan file the user installed: ~/.tarvanel/adhan.{mp3,m4a,aiff,wav}, first that exists.
+std::optional<QString> adhanFileURL();
 
 // Tests point every path at a scratch home; the cached paths follow.
 void setHomeDirForTesting(const QString& home);

@@ -1,5 +1,6 @@
 #include "desktop/DesktopApp.h"
 
+#include "app/Agent.h"
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SystemEvents.h"
@@ -49,7 +50,7 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     QtPlatform platform;
-    AppDelegate delegate(platform, cl);
+    AppDelegate delegate(platform, controllerOptions(cl, platform));
     platform.setEvents(&delegate);
     platform.tray().setMenuProvider([&delegate] { return delegate.buildMenu(); });
 

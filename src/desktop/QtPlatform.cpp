@@ -1,13 +1,13 @@
 #include "desktop/QtPlatform.h"
 
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "desktop/Dialogs.h"
 #include "desktop/LockBackendChoice.h"
 #include "desktop/TimetableImportView.h"
 #include "desktop/settings/PrayerSettingsView.h"
 #include "desktop/wayland/WaylandLock.h"
 #include "lock/LockScreenState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "settings/CitySearch.h"
 
 #include <QApplication>

@@ -1,6 +1,4 @@
 #include "engine/Config.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,15 +9,6 @@
 
 namespace tarvanel {
 namespace {
-
-std::optional<Config>& lastGood() {
-    static std::optional<Config> value;
-    return value;
-}
-std::optional<QString>& lastError() {
-    static std::optional<QString> value;
-    return value;
-}
 
 // What a hand-edited number may be. Most are held inside [min, max] by their readers (not
 // finite reads as the default); a coordinate outside them names no place on Earth, so the file
@@ -301,40 +290,6 @@ std::optional<QJsonObject> encodeConfig(const Config& c) {
         finite = encodeField(o, c, f) && finite;
     if (!finite) return std::nullopt;
     return o;
-}
-
-Config loadConfig() {
-    const auto bytes = readWholeFile(configURL());
-    lastError().reset();
-    if (!bytes) return Config();
-    QString error;
-    if (auto config = decodeConfig(*bytes, &error)) {
-        lastGood() = *config;
-        return *config;
-    }
-    lastError() = error;
-    logLine(QStringLiteral("Tarvanel: config.json is invalid (%1); keeping the last good settings")
-                .arg(error));
-    return lastGood().value_or(Config());
-}
-
-void saveConfig(const Config& config) {
-    ensureSupportDir();
-    const auto object = encodeConfig(config);
-    if (!object) return;
-    writeFileAtomically(configURL(), QJsonDocument(*object).toJson(QJsonDocument::Indented));
-}
-
-const std::optional<QString>& lastConfigError() {
-    return lastError();
-}
-
-const std::optional<Config>& lastGoodConfig() {
-    return lastGood();
-}
-void resetLastGoodConfigForTesting() {
-    lastGood().reset();
-    lastError().reset();
 }
 
 } // namespace tarvanel

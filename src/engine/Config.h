@@ -1,5 +1,6 @@
 #pragma once
-// The user's settings: one record, one JSON file (~/.tarvanel/config.json).
+// The user's settings: one record and its JSON form (records/ConfigFile.h reads and writes the
+// file).
 #include <QJsonObject>
 #include <QList>
 #include <QMap>
@@ -62,18 +63,5 @@ std::optional<Config> decodeConfig(const QJsonObject& object, QString* error = n
 std::optional<Config> decodeConfig(const QByteArray& json, QString* error = nullptr);
 // Every field but the absent optionals. Absent when a number cannot be written (not finite).
 std::optional<QJsonObject> encodeConfig(const Config& config);
-
-// Reads configURL(); never fails (see the fall-back rules in Config.cpp).
-Config loadConfig();
-// Pretty, key-sorted, atomic; failures are swallowed.
-void saveConfig(const Config& config);
-
-// Why the last read of config.json failed ("line 3: latitude: expected a number, found text");
-// absent after a read that decoded or found no file.
-const std::optional<QString>& lastConfigError();
-
-// The last config that decoded in this process (absent until one did).
-const std::optional<Config>& lastGoodConfig();
-void resetLastGoodConfigForTesting();
 
 } // namespace tarvanel

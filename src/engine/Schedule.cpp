@@ -1,8 +1,7 @@
 #include "engine/Schedule.h"
+#include "base/Log.h"
 #include "engine/LocalTime.h"
 #include "engine/PrayerTimes.h"
-#include "base/Log.h"
-#include "timetable/Timetable.h"
 
 #include <QSet>
 #include <cmath>
@@ -103,12 +102,12 @@ bool isFriday(const QDateTime& date) {
     return localWeekday(date) == 6;
 }
 
-EffectiveTimes effectiveTimes(const QDateTime& date, const Config& cfg) {
+EffectiveTimes effectiveTimes(const QDateTime& date, const Config& cfg,
+                              const QMap<QString, QString>& day) {
     EffectiveTimes out;
     out.waqt = PrayerTimes(cfg).times(date);
     out.final = applyOverrides(out.waqt, cfg, date);
 
-    const QMap<QString, QString> day = Timetable::day(date);
     const QString jumuahKey = QStringLiteral("Jumu'ah");
     for (auto it = day.begin(); it != day.end(); ++it) {
         if (it.key() == jumuahKey || !out.final.contains(it.key())) continue;

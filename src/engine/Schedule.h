@@ -14,7 +14,10 @@ struct EffectiveTimes {
     bool jumuah = false;
 };
 
-EffectiveTimes effectiveTimes(const QDateTime& date, const Config& cfg);
+// `masjidDay` is the imported timetable's entry for the date (prayer name → "HH:mm"), empty when
+// none: its times replace the computed lock times, and its Jumu'ah the configured one.
+EffectiveTimes effectiveTimes(const QDateTime& date, const Config& cfg,
+                              const QMap<QString, QString>& masjidDay);
 DayTimes applyOverrides(const DayTimes& times, const Config& cfg, const QDateTime& on);
 std::optional<QDateTime> parseFixedTime(const QString& text, const QDateTime& on);
 bool isFriday(const QDateTime& date);

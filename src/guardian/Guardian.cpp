@@ -1,7 +1,7 @@
 #include "guardian/Guardian.h"
-#include "engine/Digits.h"
 #include "base/StateFiles.h"
 #include "base/Store.h"
+#include "engine/Digits.h"
 
 #include <QFile>
 #include <QFileInfo>

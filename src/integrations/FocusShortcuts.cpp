@@ -1,7 +1,7 @@
 #include "integrations/FocusShortcuts.h"
-#include "base/ToolRunner.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
+#include "base/ToolRunner.h"
 
 #include <QDir>
 #include <QFileInfo>

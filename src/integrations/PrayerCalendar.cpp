@@ -1,10 +1,10 @@
 #include "integrations/PrayerCalendar.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "engine/Schedule.h"
-#include "platform/Platform.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
+#include "timetable/Timetable.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,6 +14,8 @@ namespace tarvanel::PrayerCalendar {
 namespace {
 
 constexpr qint64 kDay = 86400;
+
+} // namespace
 
 bool grantAccess() {
     const QString root = rootPath();
@@ -33,8 +35,6 @@ bool grantAccess() {
         logLine(QStringLiteral("Tarvanel: cannot create the calendar ") + folder);
     return true;
 }
-
-} // namespace
 
 QString rootPath() {
     QString data = qEnvironmentVariable("XDG_DATA_HOME");
@@ -61,32 +61,13 @@ QList<Calendar> writableCalendars() {
     return result;
 }
 
-void requestAccess(Platform& platform, std::function<void(bool)> completion) {
-    platform.post([&platform, completion = std::move(completion)] {
-        if (authorized()) {
-            completion(grantAccess());
-            return;
-        }
-        AlertRequest ask;
-        ask.message = QStringLiteral("Allow Tarvanel to add busy events to your calendars?");
-        ask.info = QStringLiteral(
-                       "Tarvanel keeps its events in the calendar folders under %1, one file per "
-                       "event. khal shows them, and vdirsyncer syncs them with your online "
-                       "calendar so colleagues see you're busy.")
-                       .arg(rootPath());
-        ask.buttons = {QStringLiteral("Allow"), QStringLiteral("Don't Allow")};
-        const bool consent = platform.showAlert(ask).response == 1000;
-        completion(consent && grantAccess());
-    });
-}
-
 QList<BusyEvent> plannedEvents(const Config& cfg, const QDateTime& now) {
     QList<BusyEvent> events;
     const QDateTime start = startOfLocalDay(now);
     if (!start.isValid()) return events;
     for (int i = 0; i < 7; ++i) {
         // One hour into the day keeps a day that starts at 01:00 after a clock change whole.
-        const EffectiveTimes day = effectiveTimes(start.addSecs(i * kDay + 3600), cfg);
+        const EffectiveTimes day = Timetable::scheduledTimes(start.addSecs(i * kDay + 3600), cfg);
         for (const QString& name : prayerNames()) {
             const auto lockTime = day.final.value(name);
             if (!lockTime) continue;

@@ -14,10 +14,6 @@
 #include <QString>
 #include <functional>
 
-namespace tarvanel {
-class Platform;
-}
-
 namespace tarvanel::PrayerCalendar {
 
 using Calendar = vdir::CalendarFolder;
@@ -33,10 +29,9 @@ bool authorized();
 // identifier as calendarID.
 QList<Calendar> writableCalendars();
 
-// Asks the user through an alert (after the current event) and, on consent, creates the root
-// and, when there is no calendar yet, "local/prayer" titled "Prayer times". `completion` runs
-// later on the event loop with true when access is granted; never before this returns.
-void requestAccess(Platform& platform, std::function<void(bool granted)> completion);
+// Creates the root and, when there is no calendar yet, "local/prayer" titled "Prayer times".
+// The user is asked first (lock/CalendarAccess.h). False when the folder cannot be made.
+bool grantAccess();
 
 // One busy event to write: "Fajr (prayer)" or "Jumu'ah (prayer)", from the lock's start.
 using BusyEvent = vdir::NewEvent;

@@ -1,16 +1,17 @@
 // The controller's life: creation, launch, settings reload and apply, termination, and the
 // schedule helpers the tick, the title and the menu share.
 #include "lock/AppDelegate.h"
+#include "base/InstanceLock.h"
+#include "records/ConfigFile.h"
 
-#include "app/Agent.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
+#include "engine/DayRules.h"
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
-#include "lock/DayRules.h"
 #include "lock/Presence.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "records/TravelLocator.h"
 #include "timetable/Timetable.h"
 
@@ -18,19 +19,17 @@
 
 namespace tarvanel {
 
-AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* parent)
+AppDelegate::AppDelegate(Platform& platform, ControllerOptions options, QObject* parent)
     : QObject(parent), clock(systemNow), callCheck(Presence::inCall), platform_(platform),
-      config_(loadConfig()), configPath_(QFile::encodeName(configURL())),
-      travel_(new TravelLocator(this)), session_(platform, this), reminders_(platform),
-      completedLocks_(loadCompletedLocks()) {
+      options_(std::move(options)), config_(loadConfig()),
+      configPath_(QFile::encodeName(configURL())), travel_(new TravelLocator(this)),
+      session_(platform, this), reminders_(platform), completedLocks_(loadCompletedLocks()) {
     travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
         if (self) self->invalidateSchedule();
     };
     // An import or a cleared timetable changes today's lock times and the calendar's events.
     connect(&timetableChangedNote(), &TimetableChangedNote::posted, this,
             [this] { invalidateSchedule(); });
-    if (cl.testLockSeconds) testLockSeconds_ = cl.testLockSeconds;
-    testNudge_ = cl.testNudge;
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -38,7 +37,7 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::launchFinished() {
     if (launched_) return;
     launched_ = true;
-    const bool testRun = testLockSeconds_.has_value() || testNudge_;
+    const bool testRun = options_.testLockSeconds.has_value() || options_.testNudge;
     if (!testRun) {
         if (!acquireInstanceLock()) {
             logLine(QStringLiteral("Tarvanel already running; exiting."));
@@ -51,14 +50,14 @@ void AppDelegate::launchFinished() {
     configStamp_ = FileStamp::of(configPath_);
     setStatusTitle(QStringLiteral("🕌"), TitleColor::Label);
 
-    if (testLockSeconds_) {
+    if (options_.testLockSeconds) {
         exitAfterTest_ = true;
         const QDateTime now = currentTime();
         startLock(QStringLiteral("Test"), QStringLiteral("Test"),
-                  now.addMSecs(qint64(*testLockSeconds_ * 1000.0)));
+                  now.addMSecs(qint64(*options_.testLockSeconds * 1000.0)));
         return;
     }
-    if (testNudge_) {
+    if (options_.testNudge) {
         reminders_.showNudge(QStringLiteral("Asr"), 10, 10);
         platform_.singleShot(17000, [self = QPointer<AppDelegate>(this)] {
             if (self) self->platform_.exitProcess(0);
@@ -87,7 +86,7 @@ void AppDelegate::poweringOff() {
 
 void AppDelegate::terminateRequested() {
     // Under the agent a plain quit must not stop the program for good: status 1 restarts it.
-    platform_.exitProcess(launchedByAgent() && !poweringOff_ ? 1 : 0);
+    platform_.exitProcess(options_.underService && !poweringOff_ ? 1 : 0);
 }
 
 void AppDelegate::reloadConfigIfChanged() {
@@ -126,7 +125,8 @@ void AppDelegate::applyConfig(const Config& cfg) {
     const Config before = config_;
     config_ = cfg;
     // Turning blocking off empties the calendars of our events, so "was on" counts too.
-    if (!testLockSeconds_ && !testNudge_) PrayerCalendar::syncAfterSave(before, cfg, currentTime());
+    if (!options_.testLockSeconds && !options_.testNudge)
+        PrayerCalendar::syncAfterSave(before, cfg, currentTime());
     configStamp_ = FileStamp::of(configPath_); // our own write is not an outside change
     today_.invalidate();
     travel_->clear();

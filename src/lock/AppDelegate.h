@@ -3,10 +3,11 @@
 // made by small units it holds: TodaySchedule (the day's times), decidePrayers (reminders and
 // the lock due now), LockSession (the running lock), Reminders (banners), and the title and
 // menu of menubar/, which see only a StatusView. The desktop forwards events here.
-#include "app/CommandLine.h"
+#include "base/FileStamp.h"
 #include "engine/Clock.h"
 #include "engine/Config.h"
 #include "engine/DayTimes.h"
+#include "lock/ControllerOptions.h"
 #include "lock/LockScreenState.h"
 #include "lock/LockSession.h"
 #include "lock/Reminders.h"
@@ -14,7 +15,7 @@
 #include "menubar/MenuModel.h"
 #include "menubar/StatusView.h"
 #include "platform/Platform.h"
-#include "base/FileStamp.h"
+#include "records/ConfigFile.h"
 #include "records/Modes.h"
 
 #include <QDateTime>
@@ -32,7 +33,7 @@ class AppDelegate : public QObject, public PlatformEvents {
     Q_OBJECT
 public:
     // Reads config.json and state.json; applies --test-lock / --test-nudge from the command line.
-    AppDelegate(Platform& platform, const CommandLine& cl, QObject* parent = nullptr);
+    AppDelegate(Platform& platform, ControllerOptions options, QObject* parent = nullptr);
     ~AppDelegate() override;
 
     // Replaceable for tests: the current instant, whether a call is running, the "Did you
@@ -144,6 +145,7 @@ private:
     std::function<void()> weak(void (AppDelegate::*command)());
 
     Platform& platform_;
+    const ControllerOptions options_;
     Config config_;
     QByteArray configPath_;
     FileStamp configStamp_; // as last seen; a missing file compares equal to a missing file
@@ -161,8 +163,6 @@ private:
     QString configErrorShown_;   // the never-valid settings error the window was opened for
     QString configErrorNoticed_; // the last bad hand edit the banner named
 
-    std::optional<double> testLockSeconds_;
-    bool testNudge_ = false;
     bool exitAfterTest_ = false;
     bool poweringOff_ = false;
     bool launched_ = false;

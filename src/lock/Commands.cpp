@@ -1,14 +1,15 @@
 // The menu's commands and the view the title and menu are built from. A command that changes
 // a mode asks through the platform, writes the store, and ticks so that the title follows.
-#include "app/Agent.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
+#include "lock/CalendarAccess.h"
+#include "records/ConfigFile.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "records/TravelLocator.h"
 #include "settings/CitySearch.h"
 #include "settings/PrayerSettingsModel.h"
@@ -101,7 +102,7 @@ void AppDelegate::openSettings() {
     services.calendarAuthorized = &PrayerCalendar::authorized;
     QPointer<AppDelegate> self(this);
     services.requestCalendarAccess = [self](std::function<void(bool)> done) {
-        if (self) PrayerCalendar::requestAccess(self->platform_, std::move(done));
+        if (self) requestCalendarAccess(self->platform_, std::move(done));
     };
     services.focusInstalled = &FocusShortcuts::installed;
     services.runFocus = [self](bool on) {
@@ -189,11 +190,17 @@ void AppDelegate::exportHistory() {
 
 void AppDelegate::uninstall() {
     if (session_.isLocked()) return;
-    const std::optional<bool> deleteData =
-        confirmUninstall(platform_, QStringLiteral("Your prayer times stop locking the screen."));
-    if (!deleteData) return;
-    if (*deleteData) modes_.removeAll();
-    uninstallApp(platform_, *deleteData);
+    platform_.activateApp();
+    const AlertAnswer answer = platform_.showAlert(AlertRequest{
+        QStringLiteral("Uninstall Tarvanel?"),
+        QStringLiteral("Tarvanel stops running, stops starting at login, and moves to the Trash. "
+                       "Your prayer times stop locking the screen."),
+        {QStringLiteral("Uninstall"), QStringLiteral("Cancel")},
+        QStringLiteral("Also delete my settings and history"),
+        true});
+    if (answer.response != 1000) return;
+    if (answer.checkBoxOn) modes_.removeAll();
+    if (options_.removeProgram) options_.removeProgram(answer.checkBoxOn);
 }
 
 void AppDelegate::startExcused() {

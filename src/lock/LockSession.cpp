@@ -1,10 +1,11 @@
 #include "lock/LockSession.h"
 
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/Digits.h"
 #include "engine/Quotes.h"
 #include "guardian/Guardian.h"
 #include "lock/Presence.h"
-#include "base/Log.h"
 #include "records/Modes.h"
 
 namespace tarvanel {

@@ -1,12 +1,12 @@
 // What comes next, for the user who has just set the program up or asks to resume locks: the
 // next lock's name and time, and whether a prayer's lock window is open right now.
+#include "base/Log.h"
+#include "engine/DayRules.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "lock/AppDelegate.h"
-#include "lock/DayRules.h"
 #include "lock/Scheduler.h"
 #include "records/Excused.h"
-#include "base/Log.h"
 
 #include <QTimeZone>
 

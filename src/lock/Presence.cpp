@@ -1,8 +1,8 @@
 #include "lock/Presence.h"
 
-#include "base/ToolRunner.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
+#include "base/ToolRunner.h"
 
 #include <QDir>
 #include <QFile>
@@ -116,14 +116,6 @@ void PresenceMonitor::askSoundServer() {
                   : r.output.trimmed().isEmpty() ? Server::idle
                                                  : Server::recording;
     });
-}
-
-std::optional<QString> adhanFileURL() {
-    for (const char* ext : {"mp3", "m4a", "aiff", "wav"}) {
-        const QString path = supportPath(QStringLiteral("adhan.") + QLatin1String(ext));
-        if (QFileInfo(path).isFile()) return path;
-    }
-    return std::nullopt;
 }
 
 } // namespace tarvanel

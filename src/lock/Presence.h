@@ -45,7 +45,4 @@ private:
     QElapsedTimer answered_;
 };
 
-// The adhan file the user installed: ~/.tarvanel/adhan.{mp3,m4a,aiff,wav}, first that exists.
-std::optional<QString> adhanFileURL();
-
 } // namespace tarvanel

@@ -1,7 +1,7 @@
 #include "lock/Scheduler.h"
 
+#include "engine/DayRules.h"
 #include "engine/LockPeriod.h"
-#include "lock/DayRules.h"
 
 #include <QTimeZone>
 

@@ -1,16 +1,16 @@
 // The one-second tick, the single decision point of the running program, and the road of a
 // lock from its start to what its end records.
-#include "app/Agent.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
+#include "engine/DayRules.h"
 #include "engine/LockPeriod.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
-#include "lock/DayRules.h"
 #include "lock/Scheduler.h"
+#include "records/ConfigFile.h"
 #include "records/Excused.h"
 #include "records/LockState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "records/TravelLocator.h"
 
 namespace tarvanel {
@@ -25,7 +25,7 @@ void AppDelegate::tick() {
     if (configStamp.exists) reloadIfChanged(configStamp);
     const std::optional<QString> neverValid =
         configStamp.exists && !lastGoodConfig() ? lastConfigError() : std::nullopt;
-    if (!session_.isLocked() && !testLockSeconds_ && (!configStamp.exists || neverValid)) {
+    if (!session_.isLocked() && !options_.testLockSeconds && (!configStamp.exists || neverValid)) {
         setStatusTitle(QStringLiteral("🕌 Set up"), TitleColor::Orange);
         // Once per error: a user who closes the window is not pestered every second.
         if (neverValid && *neverValid != configErrorShown_) {
@@ -41,7 +41,7 @@ void AppDelegate::tick() {
     modes_.refresh();
     scheduleFor(now);
     const QString dayKey = today_.dayKey();
-    if (!testLockSeconds_ && !testNudge_)
+    if (!options_.testLockSeconds && !options_.testNudge)
         PrayerCalendar::syncIfNeeded(activeConfig(), now, dayKey, calendarSyncedDay_);
 
     // 5. A running lock wins over everything.
@@ -54,7 +54,7 @@ void AppDelegate::tick() {
     if (strict_) return;
 
     // 7. A newer program file: let the agent start it.
-    if (appWasReplaced() && !platform_.settingsWindowOpen()) {
+    if (options_.programReplaced && options_.programReplaced() && !platform_.settingsWindowOpen()) {
         logLine(QStringLiteral("Tarvanel: new version installed, restarting"));
         platform_.exitProcess(1);
         return;

@@ -1,9 +1,10 @@
 #include "lock/TodaySchedule.h"
+#include "timetable/Timetable.h"
 
+#include "base/StateFiles.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
-#include "base/StateFiles.h"
 
 #include <cmath>
 
@@ -27,7 +28,7 @@ bool TodaySchedule::update(const QDateTime& now, const Config& cfg) {
     std::tie(from_, until_) = bounds(date, now);
     if (key == key_) return false;
 
-    const EffectiveTimes eff = effectiveTimes(now, cfg);
+    const EffectiveTimes eff = Timetable::scheduledTimes(now, cfg);
     waqt_ = eff.waqt;
     times_ = eff.final;
     jumuah_ = eff.jumuah;
@@ -58,7 +59,8 @@ std::optional<QDateTime> TodaySchedule::tomorrowsFajr(const QDateTime& now, cons
     const QDateTime ahead = now.addSecs(86400);
     if (!tomorrow_ || ahead < tomorrow_->from || ahead >= tomorrow_->until) {
         const auto [from, until] = bounds(localDate(ahead), ahead);
-        tomorrow_ = Tomorrow{from, until, effectiveTimes(ahead, cfg).final.value(u"Fajr")};
+        tomorrow_ =
+            Tomorrow{from, until, Timetable::scheduledTimes(ahead, cfg).final.value(u"Fajr")};
     }
     return tomorrow_->fajr;
 }

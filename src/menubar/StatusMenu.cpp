@@ -1,4 +1,5 @@
 // The status menu, built afresh each time it opens from the view the controller hands over.
+#include "base/StateFiles.h"
 #include "engine/CalcMethods.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
@@ -6,7 +7,7 @@
 #include "menubar/StatusView.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
+#include "timetable/Timetable.h"
 
 #include <cmath>
 
@@ -126,7 +127,7 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
     for (int k = 6; k >= 0; --k) {
         const QDateTime day = now.addSecs(-qint64(k) * 86400);
         const QString key = dayKey(day);
-        const DayTimes dayTimes = k == 0 ? times : effectiveTimes(day, display).final;
+        const DayTimes dayTimes = k == 0 ? times : Timetable::scheduledTimes(day, display).final;
         QStringList cells;
         for (const QString& prayer : prayerNames()) {
             const auto t = dayTimes.value(prayer);

@@ -1,7 +1,7 @@
 // The status item's title: what comes next, how soon, and in which colour.
+#include "engine/DayRules.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
-#include "lock/DayRules.h"
 #include "menubar/StatusView.h"
 
 namespace tarvanel {

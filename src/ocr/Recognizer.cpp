@@ -1,7 +1,7 @@
 #include "ocr/Recognizer.h"
 
-#include "ocr/PageImage.h"
 #include "base/Log.h"
+#include "ocr/PageImage.h"
 #include "timetable/OcrLines.h"
 
 #include <QRegularExpression>

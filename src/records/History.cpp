@@ -1,10 +1,11 @@
 #include "records/History.h"
+#include "base/StateFiles.h"
+#include "base/Store.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "records/LockState.h"
-#include "base/StateFiles.h"
-#include "base/Store.h"
+#include "timetable/Timetable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -245,7 +246,7 @@ QString historyCSV(const Config& cfg, const QDateTime& now) {
             }
             const QString key = dayKey(date);
             const QStringList kept = history.value(key);
-            const DayTimes times = effectiveTimes(dayStart, cfg).final;
+            const DayTimes times = Timetable::scheduledTimes(dayStart, cfg).final;
             for (int i = 0; i < names.size(); ++i) {
                 const auto at = times.value(names[i]);
                 if (!at || *at > now || kept.contains(names[i])) continue;

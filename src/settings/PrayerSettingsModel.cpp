@@ -1,12 +1,12 @@
 // The settings model's fields: made from a Config, turned back into one, and previewed.
 #include "settings/PrayerSettingsModel.h"
 
+#include "base/StateFiles.h"
 #include "engine/CalcMethods.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "guardian/Guardian.h"
-#include "lock/Presence.h"
 #include "timetable/Timetable.h"
 
 #include <QFileInfo>
@@ -111,7 +111,7 @@ void PrayerSettingsModel::load(const Config& c) {
 
     jumuahTime_ = parseFixedTime(c.jumuahTime.value_or(QStringLiteral("13:30")), at).value_or(at);
 
-    const DayTimes waqt = firstRun_ ? DayTimes{} : effectiveTimes(at, c).waqt;
+    const DayTimes waqt = firstRun_ ? DayTimes{} : Timetable::scheduledTimes(at, c).waqt;
     const QMap<QString, QString> overrides = c.prayerOverrides.value_or(QMap<QString, QString>{});
     rows_.clear();
     for (const QString& name : prayerNames()) {
@@ -223,7 +223,7 @@ QList<PreviewEntry> PrayerSettingsModel::preview() const {
     QList<PreviewEntry> out;
     if (!hasLocation()) return out;
     const Config cfg = makeConfig();
-    const EffectiveTimes eff = effectiveTimes(now(), cfg);
+    const EffectiveTimes eff = Timetable::scheduledTimes(now(), cfg);
     for (const QString& name : dayRowNames()) {
         const auto start = eff.waqt.value(name);
         if (!start) continue;

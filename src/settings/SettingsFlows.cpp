@@ -1,8 +1,8 @@
 // The settings model's small flows: city search, adhan sound, calendar access, Focus shortcuts
 // and the guardian code set-up.
+#include "base/StateFiles.h"
 #include "engine/CalcMethods.h"
 #include "guardian/Guardian.h"
-#include "base/StateFiles.h"
 #include "settings/CitySearch.h"
 #include "settings/PrayerSettingsModel.h"
 

@@ -1,7 +1,7 @@
 #include "timetable/Timetable.h"
-#include "engine/LocalTime.h"
 #include "base/StateFiles.h"
 #include "base/Store.h"
+#include "engine/LocalTime.h"
 
 #include <QJsonObject>
 #include <QLocale>
@@ -68,5 +68,10 @@ void resetCacheForTesting() {
     store().forget();
 }
 
+EffectiveTimes scheduledTimes(const QDateTime& date, const Config& cfg) {
+    return effectiveTimes(date, cfg, day(date));
+}
+
 } // namespace Timetable
+
 } // namespace tarvanel

@@ -1,5 +1,7 @@
 #pragma once
 // The imported masjid timetable: ~/.tarvanel/timetable.json, day key → prayer → "HH:mm".
+#include "engine/Schedule.h"
+
 #include <QDateTime>
 #include <QMap>
 #include <QObject>
@@ -15,7 +17,9 @@ namespace Timetable {
 QString url();
 DayTable all();                                    // read again only when the file changed
 QMap<QString, QString> day(const QDateTime& date); // empty when nothing covers the date
-void merge(const DayTable& days);                  // replaces the given days whole
+// The day's times with the imported timetable applied: what every lock, event and menu uses.
+EffectiveTimes scheduledTimes(const QDateTime& date, const Config& cfg);
+void merge(const DayTable& days); // replaces the given days whole
 void clear();
 std::optional<QString> summary(); // "30 days, 1 Mar 2025 – 30 Mar 2025"
 

@@ -1,7 +1,7 @@
 #include "timetable/TimetableParser.h"
+#include "base/StateFiles.h"
 #include "engine/DayTimes.h"
 #include "engine/Digits.h"
-#include "base/StateFiles.h"
 
 #include <QRegularExpression>
 #include <QtGlobal>

@@ -1,9 +1,10 @@
 // A faked Dhuhr with the default reminders, through the real controller and the real banner
 // panel: each of the four is on screen, in turn, before the screens go dark.
 #include "app/Agent.h"
+#include "base/StateFiles.h"
 #include "desktop/BannerPanel.h"
 #include "lock/AppDelegate.h"
-#include "records/StateFiles.h"
+#include "records/ConfigFile.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 
@@ -66,7 +67,7 @@ TEST_F(RemindersOnScreen, AllFourDefaultRemindersShowBeforeTheScreensGoDark) {
 
     OnScreenBanners platform(now);
     {
-        AppDelegate app(platform, CommandLine{});
+        AppDelegate app(platform, ControllerOptions{});
         app.clock = [&now] { return now; };
         app.callCheck = [] { return false; };
         app.launchFinished();

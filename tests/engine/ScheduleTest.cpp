@@ -1,10 +1,11 @@
 #include "engine/Schedule.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "engine/PrayerTimes.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
 #include "support/TestEnv.h"
+#include "timetable/Timetable.h"
 
 using namespace tarvanel;
 
@@ -30,7 +31,7 @@ protected:
 } // namespace
 
 TEST_F(ScheduleTest, OverridesApplyToWaqtIndependentlyInAnyOrderAndInvalidOnesKeepIt) {
-    const EffectiveTimes plain = effectiveTimes(tuesday, cfg);
+    const EffectiveTimes plain = Timetable::scheduledTimes(tuesday, cfg);
     EXPECT_FALSE(plain.jumuah);
     EXPECT_EQ(plain.final, plain.waqt);
     EXPECT_EQ(plain.waqt, PrayerTimes(cfg).times(tuesday));
@@ -38,7 +39,7 @@ TEST_F(ScheduleTest, OverridesApplyToWaqtIndependentlyInAnyOrderAndInvalidOnesKe
     cfg.prayerOverrides =
         QMap<QString, QString>{{"Dhuhr", " +10\t"}, {"Asr", "-5"},  {"Isha", "04:00"},
                                {"Maghrib", "+0"},   {"Fajr", "-0"}, {"Sunrise", "+2.5"}};
-    const EffectiveTimes t = effectiveTimes(tuesday, cfg);
+    const EffectiveTimes t = Timetable::scheduledTimes(tuesday, cfg);
     const QList<std::pair<const char*, int>> shifts = {
         {"Dhuhr", 600}, {"Asr", -300}, {"Maghrib", 0}, {"Fajr", 0}, {"Sunrise", 150}};
     for (const auto& [name, seconds] : shifts)
@@ -49,14 +50,14 @@ TEST_F(ScheduleTest, OverridesApplyToWaqtIndependentlyInAnyOrderAndInvalidOnesKe
 
     // A large offset may carry a prayer past the next one: nothing reorders or clamps.
     cfg.prayerOverrides = QMap<QString, QString>{{"Fajr", "+600"}};
-    const EffectiveTimes late = effectiveTimes(tuesday, cfg);
+    const EffectiveTimes late = Timetable::scheduledTimes(tuesday, cfg);
     EXPECT_GT(*late.final.value("Fajr"), *late.final.value("Dhuhr"));
 
     // Invalid rules keep the waqt; only the fixed-looking ones are logged.
     cfg.prayerOverrides = QMap<QString, QString>{
         {"Fajr", "+abc"}, {"Dhuhr", "25:00"},    {"Asr", "7"},         {"Maghrib", "7:5:0"},
         {"Isha", "+inf"}, {"Tahajjud", "03:00"}, {"Sunrise", "+1e300"}};
-    const EffectiveTimes invalid = effectiveTimes(tuesday, cfg);
+    const EffectiveTimes invalid = Timetable::scheduledTimes(tuesday, cfg);
     EXPECT_EQ(invalid.final, invalid.waqt);
     EXPECT_EQ(logs, (QStringList{"Tarvanel: ignoring invalid override for Asr: \"7\"",
                                  "Tarvanel: ignoring invalid override for Dhuhr: \"25:00\"",
@@ -90,7 +91,7 @@ TEST_F(ScheduleTest, FixedTimesAreLooseValidClockTimesFollowingTheWallClockOnClo
 TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverrideButATimetablesJumuahWins) {
     using Dhuhr = std::pair<bool, QString>; // Jumu'ah?, lock time
     const auto fridayDhuhr = [&] {
-        const EffectiveTimes t = effectiveTimes(friday, cfg);
+        const EffectiveTimes t = Timetable::scheduledTimes(friday, cfg);
         return Dhuhr(t.jumuah, clock(t.final.value("Dhuhr")));
     };
     cfg.prayerOverrides = QMap<QString, QString>{{"Dhuhr", "12:15"}};
@@ -103,7 +104,7 @@ TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverrideButATimetabl
     EXPECT_EQ(fridayDhuhr(), Dhuhr(false, "12:15"));
     cfg.jumuahTime.reset();
     EXPECT_EQ(fridayDhuhr(), Dhuhr(false, "12:15"));
-    EXPECT_FALSE(effectiveTimes(tuesday, cfg).jumuah);
+    EXPECT_FALSE(Timetable::scheduledTimes(tuesday, cfg).jumuah);
 
     // A timetable wins over overrides, and its Jumu'ah over the setting.
     cfg.jumuahTime = Config().jumuahTime;
@@ -112,13 +113,13 @@ TEST_F(ScheduleTest, FridayLocksDhuhrAtJumuahTimeWhateverTheOverrideButATimetabl
         "2025-03-14": {"Jumu'ah": "13:10", "Maghrib": "18:22"}
     })");
     cfg.prayerOverrides = QMap<QString, QString>{{"Fajr", "+20"}, {"Isha", "+5"}};
-    const EffectiveTimes t = effectiveTimes(tuesday, cfg);
+    const EffectiveTimes t = Timetable::scheduledTimes(tuesday, cfg);
     EXPECT_EQ(clock(t.final.value("Fajr")), "05:45");
     EXPECT_EQ(clock(t.final.value("Asr")), "16:40");
     EXPECT_EQ(*t.final.value("Isha"), t.waqt.value("Isha")->addSecs(300));
     EXPECT_FALSE(t.jumuah);
 
-    const EffectiveTimes f = effectiveTimes(friday, cfg);
+    const EffectiveTimes f = Timetable::scheduledTimes(friday, cfg);
     EXPECT_TRUE(f.jumuah);
     EXPECT_EQ(clock(f.final.value("Dhuhr")), "13:10");
     EXPECT_EQ(clock(f.final.value("Maghrib")), "18:22");

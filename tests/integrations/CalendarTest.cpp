@@ -1,8 +1,9 @@
 // Busy events in vdir calendars: what a week's sync writes (read back by khal, a real client we
 // did not write), what it leaves alone, when it runs, and asking for access.
+#include "base/StateFiles.h"
 #include "engine/DayTimes.h"
 #include "integrations/PrayerCalendar.h"
-#include "records/StateFiles.h"
+#include "lock/CalendarAccess.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 
@@ -136,7 +137,7 @@ TEST_F(CalendarTest, AccessIsAskedLaterAndGivesACalendarToChoose) {
     QList<bool> answers;
     const auto ask = [&] {
         const qsizetype before = answers.size();
-        PrayerCalendar::requestAccess(platform, [&](bool granted) { answers << granted; });
+        requestCalendarAccess(platform, [&](bool granted) { answers << granted; });
         EXPECT_EQ(answers.size(), before); // answered from the event loop, never at once
         platform.runPosted();
     };

@@ -1,8 +1,9 @@
 // Hand edits of config.json while the program runs: a bad one is said on screen once and the
 // last good settings keep locking; a good one reaches an open settings window.
 #include "DaySimulator.h"
+#include "records/ConfigFile.h"
 
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,9 +1,10 @@
 #include "DaySimulator.h"
+#include "records/ConfigFile.h"
 
 #include "app/Agent.h"
+#include "base/Log.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
-#include "records/Log.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -56,7 +57,7 @@ DaySimulator::~DaySimulator() {
 }
 
 void DaySimulator::makeApp(const CommandLine& cl) {
-    app = std::make_unique<AppDelegate>(platform, cl);
+    app = std::make_unique<AppDelegate>(platform, controllerOptions(cl, platform));
     app->clock = [this] { return now; };
     app->callCheck = [this] {
         ++callChecks;

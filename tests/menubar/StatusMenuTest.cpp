@@ -1,13 +1,14 @@
 // The status item: its titles, and the menu as a model with its lines, grid and commands.
 #include "../lock/DaySimulator.h"
+#include "timetable/Timetable.h"
 
 #include "app/Agent.h"
+#include "base/StateFiles.h"
 #include "engine/CalcMethods.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "integrations/FocusShortcuts.h"
 #include "records/History.h"
-#include "records/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QDir>
@@ -311,7 +312,7 @@ TEST_F(StatusTitleTest, CachedFajrTitleMatchesTheRuleEverySecond) {
     cfg.prayerOverrides->remove("Fajr");
     DaySimulator sim(cfg, at("20:00", eve));
     auto expected = [&](const Config& c) {
-        const auto fajr = effectiveTimes(sim.now.addSecs(86400), c).final.value(u"Fajr");
+        const auto fajr = Timetable::scheduledTimes(sim.now.addSecs(86400), c).final.value(u"Fajr");
         return "🕌 Fajr at " + formatLocal(*fajr, "h:mm AP");
     };
     QSet<QString> seen;

@@ -1,8 +1,9 @@
 #include "support/TestEnv.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/Config.h"
 #include "engine/LocalTime.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "records/ConfigFile.h"
 
 #include <QCoreApplication>
 #include <QDir>

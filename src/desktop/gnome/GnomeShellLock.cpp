@@ -1,9 +1,9 @@
 #include "desktop/gnome/GnomeShellLock.h"
 
+#include "base/Log.h"
 #include "desktop/LockKeys.h"
 #include "desktop/LockView.h"
 #include "lock/LockScreenState.h"
-#include "base/Log.h"
 
 #include <QCoreApplication>
 #include <QDBusArgument>

@@ -1,10 +1,10 @@
 #include "desktop/wayland/WaylandLock.h"
 
+#include "base/Log.h"
 #include "desktop/LockView.h"
 #include "desktop/wayland/KdeShortcuts.h"
 #include "desktop/wayland/WaylandSurface.h"
 #include "lock/LockScreenState.h"
-#include "base/Log.h"
 
 #include "desktop/wayland/Protocols.h"
 

@@ -30,8 +30,8 @@ public:
     void start() {
         if (!acquireInstanceLock()) return askAgentToShowSettings();
         if (!importFile_.isEmpty()) {
-            logLine(QStringLiteral("Tarvanel: no running copy to hand ") + importFile_ +
-                    QStringLiteral(" to"));
+            logLine(lcAgent, QStringLiteral("Tarvanel: no running copy to hand ") + importFile_ +
+                                 QStringLiteral(" to"));
             return end(1);
         }
         releaseInstanceLock(); // this copy only tested it
@@ -64,7 +64,7 @@ private:
             platform_->activateApp();
             return platform_->showAlert(request).response;
         }
-        logLine(QStringLiteral("Tarvanel: ") + request.message + u' ' + request.info);
+        logLine(lcAgent, QStringLiteral("Tarvanel: ") + request.message + u' ' + request.info);
         return 999 + int(request.buttons.size()); // no display: the last button
     }
 
@@ -73,7 +73,8 @@ private:
     void askAgentToShowSettings() {
         QDBusConnection bus = QDBusConnection::sessionBus();
         if (!bus.isConnected()) {
-            logLine(QStringLiteral("Tarvanel already running; no session bus to ask it to show "
+            logLine(lcAgent,
+                    QStringLiteral("Tarvanel already running; no session bus to ask it to show "
                                    "its settings"));
             return end(0);
         }
@@ -96,7 +97,8 @@ private:
         installAgent(toolsBesideEventLoop(this), [this, marker](const InstallOutcome& out) {
             if (out.ok) return end(0);
             QFile::remove(marker);
-            logLine(QStringLiteral("Tarvanel: the login service did not start: ") + out.reason);
+            logLine(lcAgent,
+                    QStringLiteral("Tarvanel: the login service did not start: ") + out.reason);
             const QString unit = QLatin1String(appLabel) + QStringLiteral(".service");
             const QString info =
                 name + QStringLiteral(" starts at login through the systemd user unit ") + unit +
@@ -137,7 +139,7 @@ private:
         if (icon.open(QIODevice::ReadOnly)) writeFileAtomically(menuIconPath(), icon.readAll());
         // The copy comes back through this road and installs the agent.
         if (!QProcess::startDetached(destination, {}))
-            logLine(QStringLiteral("Tarvanel: cannot start ") + destination);
+            logLine(lcAgent, QStringLiteral("Tarvanel: cannot start ") + destination);
         end(0);
     }
 };

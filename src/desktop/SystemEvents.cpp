@@ -37,7 +37,7 @@ SystemEvents::~SystemEvents() {
 bool SystemEvents::watchSignals() {
     if (notifier_) return true;
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signalPipe) != 0) {
-        logLine(QStringLiteral("Tarvanel: cannot watch termination signals"));
+        logLine(lcDesktop, QStringLiteral("Tarvanel: cannot watch termination signals"));
         return false;
     }
     for (int fd : signalPipe)
@@ -66,7 +66,7 @@ bool SystemEvents::watchPowerOff() {
                                            QStringLiteral("org.freedesktop.login1.Manager"),
                                            QStringLiteral("PrepareForShutdown"), this,
                                            SLOT(onPrepareForShutdown(bool)))) {
-        logLine(QStringLiteral("Tarvanel: no system bus; power-off is not watched"));
+        logLine(lcDesktop, QStringLiteral("Tarvanel: no system bus; power-off is not watched"));
         return false;
     }
     return true;
@@ -78,7 +78,8 @@ bool SystemEvents::watchShowSettings() {
         !bus.connect(QString(), QString::fromLatin1(showSettingsPath),
                      QString::fromLatin1(showSettingsInterface),
                      QString::fromLatin1(showSettingsMember), this, SLOT(onShowSettings()))) {
-        logLine(QStringLiteral("Tarvanel: no session bus; requests to show the settings are not "
+        logLine(lcDesktop,
+                QStringLiteral("Tarvanel: no session bus; requests to show the settings are not "
                                "received"));
         return false;
     }
@@ -91,7 +92,8 @@ bool SystemEvents::watchImportFile() {
         !bus.connect(QString(), QString::fromLatin1(showSettingsPath),
                      QString::fromLatin1(showSettingsInterface),
                      QString::fromLatin1(importFileMember), this, SLOT(onImportFile(QString)))) {
-        logLine(QStringLiteral("Tarvanel: no session bus; files from other copies are not "
+        logLine(lcDesktop,
+                QStringLiteral("Tarvanel: no session bus; files from other copies are not "
                                "received"));
         return false;
     }

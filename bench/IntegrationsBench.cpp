@@ -2,6 +2,7 @@
 #include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
+#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

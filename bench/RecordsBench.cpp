@@ -5,6 +5,7 @@
 #include "guardian/Guardian.h"
 #include "records/Excused.h"
 #include "records/History.h"
+#include "base/StateFiles.h"
 #include "timetable/TimetableParser.h"
 
 #include <QTemporaryDir>

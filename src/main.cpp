@@ -2,6 +2,8 @@
 // off to it and ends; the service's copy (or a test run) starts the tray application.
 #include "app/Agent.h"
 #include "app/CommandLine.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "desktop/DesktopApp.h"
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
@@ -88,5 +90,10 @@ int main(int argc, char** argv) {
         return runDesktopApplication(argc, argv, cl);
     }
     if (!testRun && !launchedByAgent()) return runHandOff(argc, argv, {});
+    if (launchedByAgent()) {
+        // The agent keeps its own log; standard error goes to the journal.
+        ensureSupportDir();
+        setLogFile(supportPath(QStringLiteral("log.txt")));
+    }
     return runDesktopApplication(argc, argv, cl);
 }

@@ -77,7 +77,8 @@ bool startAgentDetached(const QString& exe) {
     agent.setProcessEnvironment(env);
     agent.setStandardInputFile(QProcess::nullDevice());
     agent.setStandardOutputFile(QProcess::nullDevice());
-    agent.setStandardErrorFile(supportPath(QStringLiteral("log.txt")), QIODevice::Append);
+    // Its lines go to ~/.tarvanel/log.txt, which the agent writes itself.
+    agent.setStandardErrorFile(QProcess::nullDevice());
     // Its own session: closing the terminal that installed it must not hang it up.
     agent.setChildProcessModifier([] { ::setsid(); });
     return agent.startDetached();
@@ -100,7 +101,7 @@ void fallBackToAutostart(const QString& exe,
                                     "login through ") +
                      autostartPath();
     }
-    logLine(QStringLiteral("Tarvanel: ") + out.reason);
+    logLine(lcAgent, QStringLiteral("Tarvanel: ") + out.reason);
     done(out);
 }
 
@@ -206,12 +207,11 @@ QString agentUnitText(const QString& executable) {
                           "Environment=TARVANEL_AGENT=%3\n"
                           "Restart=on-failure\n"
                           "RestartSec=5\n"
-                          "StandardError=append:%4\n"
                           "\n"
                           "[Install]\n"
                           "WantedBy=graphical-session.target\n")
         .arg(QString(executable).replace(QLatin1Char('%'), QStringLiteral("%%")), exec,
-             QLatin1String(appLabel), supportPath(QStringLiteral("log.txt")));
+             QLatin1String(appLabel));
 }
 
 QString menuEntryText(const QString& executable, bool autostart) {

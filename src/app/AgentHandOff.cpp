@@ -5,6 +5,7 @@
 #include "app/CommandLine.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
+#include "platform/AgentBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -28,10 +29,10 @@ public:
         : platform_(platform), finish_(std::move(finish)), importFile_(std::move(importFile)) {}
 
     void start() {
-        if (!acquireInstanceLock()) return askAgentToShowSettings();
+        if (!acquireInstanceLock()) return askAgent();
         if (!importFile_.isEmpty()) {
-            logLine(QStringLiteral("Tarvanel: no running copy to hand ") + importFile_ +
-                    QStringLiteral(" to"));
+            logLine(lcAgent, QStringLiteral("Tarvanel: no running copy to hand ") + importFile_ +
+                                 QStringLiteral(" to"));
             return end(1);
         }
         releaseInstanceLock(); // this copy only tested it
@@ -64,29 +65,32 @@ private:
             platform_->activateApp();
             return platform_->showAlert(request).response;
         }
-        logLine(QStringLiteral("Tarvanel: ") + request.message + u' ' + request.info);
+        logLine(lcAgent, QStringLiteral("Tarvanel: ") + request.message + u' ' + request.info);
         return 999 + int(request.buttons.size()); // no display: the last button
     }
 
-    // A signal on the session bus, then a round trip to the bus so that the signal has left
-    // before this process ends.
-    void askAgentToShowSettings() {
+    // A method of the running agent: only the owner of its name answers, and the answer says
+    // that the request arrived.
+    void askAgent() {
         QDBusConnection bus = QDBusConnection::sessionBus();
         if (!bus.isConnected()) {
-            logLine(QStringLiteral("Tarvanel already running; no session bus to ask it to show "
+            logLine(lcAgent,
+                    QStringLiteral("Tarvanel already running; no session bus to ask it to show "
                                    "its settings"));
             return end(0);
         }
-        QDBusMessage signal = QDBusMessage::createSignal(
-            QStringLiteral("/com/velmora/tarvanel"), QLatin1String(appLabel),
-            importFile_.isEmpty() ? QStringLiteral("showSettings") : QStringLiteral("importFile"));
-        if (!importFile_.isEmpty()) signal << QFileInfo(importFile_).absoluteFilePath();
-        bus.send(signal);
-        const QDBusMessage ping = QDBusMessage::createMethodCall(
-            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-            QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
-        auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(ping, 5000), this);
-        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this] { end(0); });
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            agentBus::service, agentBus::path, agentBus::interface,
+            importFile_.isEmpty() ? agentBus::showSettings : agentBus::importFile);
+        call.setAutoStartService(false);
+        if (!importFile_.isEmpty()) call << QFileInfo(importFile_).absoluteFilePath();
+        auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, 5000), this);
+        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+            if (!watcher->isError()) return end(0);
+            logLine(lcAgent, QStringLiteral("Tarvanel already running, and it did not answer: ") +
+                                 watcher->error().message());
+            end(1);
+        });
     }
 
     void installHere() {
@@ -96,7 +100,8 @@ private:
         installAgent(toolsBesideEventLoop(this), [this, marker](const InstallOutcome& out) {
             if (out.ok) return end(0);
             QFile::remove(marker);
-            logLine(QStringLiteral("Tarvanel: the login service did not start: ") + out.reason);
+            logLine(lcAgent,
+                    QStringLiteral("Tarvanel: the login service did not start: ") + out.reason);
             const QString unit = QLatin1String(appLabel) + QStringLiteral(".service");
             const QString info =
                 name + QStringLiteral(" starts at login through the systemd user unit ") + unit +
@@ -137,7 +142,7 @@ private:
         if (icon.open(QIODevice::ReadOnly)) writeFileAtomically(menuIconPath(), icon.readAll());
         // The copy comes back through this road and installs the agent.
         if (!QProcess::startDetached(destination, {}))
-            logLine(QStringLiteral("Tarvanel: cannot start ") + destination);
+            logLine(lcAgent, QStringLiteral("Tarvanel: cannot start ") + destination);
         end(0);
     }
 };

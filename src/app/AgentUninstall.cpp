@@ -40,7 +40,7 @@ void removeFilesAndProgram(Platform& platform, bool deleteData) {
                             {},
                             false});
     }
-    logLine(name + QStringLiteral(": uninstalled"));
+    logLine(lcAgent, name + QStringLiteral(": uninstalled"));
 }
 
 } // namespace

@@ -87,8 +87,8 @@ bool ensureSupportDir() {
     if (::stat(native.constData(), &st) != 0 || !S_ISDIR(st.st_mode)) return false;
     // Only the bits of others go: a folder its owner made read-only stays read-only.
     if ((st.st_mode & 077) && ::chmod(native.constData(), st.st_mode & 0700) == 0)
-        logLine(QStringLiteral("Tarvanel: %1 was mode %2; made owner-only")
-                    .arg(dir, QString::number(st.st_mode & 07777, 8)));
+        logLine(lcFiles, QStringLiteral("Tarvanel: %1 was mode %2; made owner-only")
+                             .arg(dir, QString::number(st.st_mode & 07777, 8)));
     return true;
 }
 
@@ -97,8 +97,8 @@ void makeOwnerOnly(const QString& path) {
     struct stat st {};
     if (::stat(native.constData(), &st) != 0 || !S_ISREG(st.st_mode) || !(st.st_mode & 077)) return;
     if (::chmod(native.constData(), st.st_mode & 0700) == 0)
-        logLine(QStringLiteral("Tarvanel: %1 was mode %2; made owner-only")
-                    .arg(path, QString::number(st.st_mode & 07777, 8)));
+        logLine(lcFiles, QStringLiteral("Tarvanel: %1 was mode %2; made owner-only")
+                             .arg(path, QString::number(st.st_mode & 07777, 8)));
 }
 
 std::optional<QByteArray> readWholeFile(const QString& path, QString* error) {
@@ -113,7 +113,7 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error) {
 
 void logOncePerCause(const QString& file, const QString& cause, const QString& line) {
     QMutexLocker lock(&loggedMutex());
-    if (!logged()[file].contains(cause)) logLine(line);
+    if (!logged()[file].contains(cause)) logLine(lcFiles, line);
     logged()[file].insert(cause);
 }
 
@@ -125,8 +125,8 @@ bool setAside(const QString& path, const QString& reason) {
         target = base + u'-' + QString::number(n);
     // rename(2) itself: QFile::rename would fall back to a copy.
     if (::rename(QFile::encodeName(path).constData(), QFile::encodeName(target).constData()) == 0) {
-        logLine(QStringLiteral("Tarvanel: %1 could not be read (%2); moved aside to %3")
-                    .arg(path, reason, target));
+        logLine(lcFiles, QStringLiteral("Tarvanel: %1 could not be read (%2); moved aside to %3")
+                             .arg(path, reason, target));
         return true;
     }
     logOncePerCause(path, QStringLiteral("set aside"),

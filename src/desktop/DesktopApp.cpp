@@ -76,8 +76,7 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
         const bool testRun = cl.testLockSeconds.has_value() || cl.testNudge;
         if (!testRun) {
             system.watchPowerOff();
-            system.watchShowSettings();
-            system.watchImportFile();
+            system.answerOtherCopies();
             platform.tray().ensureCreated();
             if (cl.importFile) delegate.openTimetableImport(*cl.importFile);
         }

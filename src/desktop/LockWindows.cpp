@@ -24,8 +24,8 @@ LockWindows::LockWindows(QObject* parent)
     connect(&guardTick_, &QTimer::timeout, this, &LockWindows::guard);
     connect(&guard_, &LockGuard::lost, this, &LockWindows::screensChanged);
     connect(&guard_, &LockGuard::undone, this, [](const QString& what) {
-        logLine(QStringLiteral("Tarvanel: another program ") + what +
-                QStringLiteral(" a lock window; put back"));
+        logLine(lcLock, QStringLiteral("Tarvanel: another program ") + what +
+                            QStringLiteral(" a lock window; put back"));
     });
     settle_.setSingleShot(true);
     settle_.setInterval(settleMs);
@@ -111,8 +111,8 @@ void LockWindows::guard() {
     // One window holds both grabs; keys and clicks on the other screens come to it too.
     const bool granted = guard_.repair();
     if (!granted && !refusalLogged_)
-        logLine(
-            QStringLiteral("Tarvanel: keyboard or pointer grab refused; retrying every second"));
+        logLine(lcLock, QStringLiteral(
+                            "Tarvanel: keyboard or pointer grab refused; retrying every second"));
     refusalLogged_ = !granted;
 }
 

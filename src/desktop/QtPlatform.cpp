@@ -52,9 +52,11 @@ void QtPlatform::adopt(LockBackend* backend) {
 }
 
 void QtPlatform::fallBack(const QString& why) {
-    logLine(QStringLiteral("Tarvanel: ") + lock_->mechanism() + QStringLiteral(" failed (") + why +
-            QStringLiteral("); locking with ") + windows_.mechanism());
-    if (!windows_.weakness().isEmpty()) logLine(QStringLiteral("Tarvanel: ") + windows_.weakness());
+    logLine(lcDesktop, QStringLiteral("Tarvanel: ") + lock_->mechanism() +
+                           QStringLiteral(" failed (") + why + QStringLiteral("); locking with ") +
+                           windows_.mechanism());
+    if (!windows_.weakness().isEmpty())
+        logLine(lcDesktop, QStringLiteral("Tarvanel: ") + windows_.weakness());
     LockBackend* failed = lock_;
     lock_ = &windows_;
     if (!shown_.isEmpty()) windows_.show(shown_, state_);
@@ -71,8 +73,9 @@ void QtPlatform::showLockWindows(const QList<LockWindowContent>& perScreen,
         stronger_ = strongestLock(this);
         if (stronger_) adopt(stronger_.get());
         lock_ = stronger_ ? stronger_.get() : &windows_;
-        logLine(QStringLiteral("Tarvanel: locking with ") + lock_->mechanism());
-        if (!lock_->weakness().isEmpty()) logLine(QStringLiteral("Tarvanel: ") + lock_->weakness());
+        logLine(lcDesktop, QStringLiteral("Tarvanel: locking with ") + lock_->mechanism());
+        if (!lock_->weakness().isEmpty())
+            logLine(lcDesktop, QStringLiteral("Tarvanel: ") + lock_->weakness());
     }
     shown_ = perScreen;
     state_ = state;

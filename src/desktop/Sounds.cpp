@@ -46,7 +46,7 @@ Sounds::~Sounds() = default;
 bool Sounds::haveDevice() {
     if (!needDevice_ || !QMediaDevices::defaultAudioOutput().isNull()) return true;
     if (!noDeviceLogged_) {
-        logLine(QStringLiteral("Tarvanel: no sound device; sounds are skipped"));
+        logLine(lcSound, QStringLiteral("Tarvanel: no sound device; sounds are skipped"));
         noDeviceLogged_ = true;
     }
     return false;
@@ -82,8 +82,8 @@ void Sounds::playNamed(const QString& name) {
     const auto file = soundThemeFile(
         *event, QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation));
     if (!file) {
-        logLine(QStringLiteral("Tarvanel: sound ") + *event +
-                QStringLiteral(" is not installed (sound-theme-freedesktop)"));
+        logLine(lcSound, QStringLiteral("Tarvanel: sound ") + *event +
+                             QStringLiteral(" is not installed (sound-theme-freedesktop)"));
         return;
     }
     start(chime_, chimeOut_, *file);
@@ -102,8 +102,8 @@ bool Sounds::playFile(const QString& path) {
 void Sounds::failed(QMediaPlayer* player, const QString& why) {
     const bool adhan = player == adhan_;
     if (adhan && !adhanPending_) return; // the error and the status both report one file
-    logLine(QStringLiteral("Tarvanel: cannot play ") + player->source().toLocalFile() +
-            QStringLiteral(": ") + why);
+    logLine(lcSound, QStringLiteral("Tarvanel: cannot play ") + player->source().toLocalFile() +
+                         QStringLiteral(": ") + why);
     if (!adhan) return;
     adhanPending_ = false;
     // The same sound the lock plays when there is no adhan file at all.

@@ -1,10 +1,11 @@
 #include "desktop/SystemEvents.h"
 
 #include "base/Log.h"
+#include "platform/AgentBus.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QFileInfo>
+#include <QDBusVirtualObject>
 #include <QSocketNotifier>
 #include <csignal>
 #include <fcntl.h>
@@ -16,6 +17,45 @@ namespace tarvanel {
 namespace {
 
 int signalPipe[2] = {-1, -1};
+
+// The agent's object on the bus. Its methods are matched by the names of agentBus, so the
+// protocol is written in one place; other calls get the usual errors of the bus.
+class AgentObject : public QDBusVirtualObject {
+public:
+    explicit AgentObject(SystemEvents* events) : QDBusVirtualObject(events), events_(events) {}
+
+    QString introspect(const QString&) const override {
+        return QStringLiteral("<interface name=\"%1\"><method name=\"%2\"/><method name=\"%3\">"
+                              "<arg name=\"path\" type=\"s\" direction=\"in\"/></method>"
+                              "</interface>")
+            .arg(agentBus::interface, agentBus::showSettings, agentBus::importFile);
+    }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        if (message.type() != QDBusMessage::MethodCallMessage) return false;
+        if (!message.interface().isEmpty() && message.interface() != agentBus::interface)
+            return false;
+        const QList<QVariant> args = message.arguments();
+        const QString member = message.member();
+        if (member == agentBus::showSettings && args.isEmpty()) {
+            emit events_->showSettingsRequested();
+        } else if (member == agentBus::importFile && args.size() == 1 &&
+                   args[0].metaType() == QMetaType::fromType<QString>()) {
+            emit events_->importFileRequested(args[0].toString());
+        } else if (member == agentBus::showSettings || member == agentBus::importFile) {
+            connection.send(message.createErrorReply(QDBusError::InvalidArgs, member));
+            return true;
+        } else {
+            connection.send(message.createErrorReply(QDBusError::UnknownMethod, member));
+            return true;
+        }
+        connection.send(message.createReply());
+        return true;
+    }
+
+private:
+    SystemEvents* events_;
+};
 
 // Only async-signal-safe work here: the number goes through the pipe to the event loop.
 void onSignal(int number) {
@@ -37,7 +77,7 @@ SystemEvents::~SystemEvents() {
 bool SystemEvents::watchSignals() {
     if (notifier_) return true;
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signalPipe) != 0) {
-        logLine(QStringLiteral("Tarvanel: cannot watch termination signals"));
+        logLine(lcDesktop, QStringLiteral("Tarvanel: cannot watch termination signals"));
         return false;
     }
     for (int fd : signalPipe)
@@ -66,58 +106,35 @@ bool SystemEvents::watchPowerOff() {
                                            QStringLiteral("org.freedesktop.login1.Manager"),
                                            QStringLiteral("PrepareForShutdown"), this,
                                            SLOT(onPrepareForShutdown(bool)))) {
-        logLine(QStringLiteral("Tarvanel: no system bus; power-off is not watched"));
+        logLine(lcDesktop, QStringLiteral("Tarvanel: no system bus; power-off is not watched"));
         return false;
     }
     return true;
 }
 
-bool SystemEvents::watchShowSettings() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected() ||
-        !bus.connect(QString(), QString::fromLatin1(showSettingsPath),
-                     QString::fromLatin1(showSettingsInterface),
-                     QString::fromLatin1(showSettingsMember), this, SLOT(onShowSettings()))) {
-        logLine(QStringLiteral("Tarvanel: no session bus; requests to show the settings are not "
-                               "received"));
+bool SystemEvents::answerOtherCopies(QDBusConnection bus) {
+    if (!bus.isConnected()) {
+        logLine(lcDesktop, QStringLiteral("Tarvanel: no session bus; other copies cannot reach "
+                                          "this one"));
+        return false;
+    }
+    // The object first: whoever sees the name can call it at once.
+    if (!bus.registerVirtualObject(agentBus::path, new AgentObject(this))) {
+        logLine(lcDesktop, QStringLiteral("Tarvanel: ") + agentBus::path +
+                               QStringLiteral(" is taken on the session bus"));
+        return false;
+    }
+    if (!bus.registerService(agentBus::service)) {
+        bus.unregisterObject(agentBus::path);
+        logLine(lcDesktop, QStringLiteral("Tarvanel: another process owns ") + agentBus::service +
+                               QStringLiteral(" on the session bus"));
         return false;
     }
     return true;
-}
-
-bool SystemEvents::watchImportFile() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected() ||
-        !bus.connect(QString(), QString::fromLatin1(showSettingsPath),
-                     QString::fromLatin1(showSettingsInterface),
-                     QString::fromLatin1(importFileMember), this, SLOT(onImportFile(QString)))) {
-        logLine(QStringLiteral("Tarvanel: no session bus; files from other copies are not "
-                               "received"));
-        return false;
-    }
-    return true;
-}
-
-bool sendImportFile(const QString& path) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) return false;
-    QDBusMessage signal = QDBusMessage::createSignal(QString::fromLatin1(showSettingsPath),
-                                                     QString::fromLatin1(showSettingsInterface),
-                                                     QString::fromLatin1(importFileMember));
-    signal << QFileInfo(path).absoluteFilePath();
-    return bus.send(signal);
-}
-
-void SystemEvents::onImportFile(const QString& path) {
-    emit importFileRequested(path);
 }
 
 void SystemEvents::onPrepareForShutdown(bool starting) {
     if (starting) emit poweringOff();
-}
-
-void SystemEvents::onShowSettings() {
-    emit showSettingsRequested();
 }
 
 } // namespace tarvanel

@@ -1,22 +1,13 @@
 #pragma once
 // Events from outside the program, delivered on the event loop: termination signals, the
-// system's power-off announcement and the request of another copy to show the settings.
+// system's power-off announcement and the requests of other copies of the program.
+#include <QDBusConnection>
 #include <QObject>
 #include <QString>
 
 class QSocketNotifier;
 
 namespace tarvanel {
-
-// The session-bus signal another copy sends to ask the running one for its settings window.
-inline constexpr const char* showSettingsPath = "/com/velmora/tarvanel";
-inline constexpr const char* showSettingsInterface = "com.velmora.tarvanel";
-inline constexpr const char* showSettingsMember = "showSettings";
-// Same path and interface: another copy hands over a file to import (one string, its path).
-inline constexpr const char* importFileMember = "importFile";
-
-// Sends the import-file signal with `path` made absolute; false without a session bus.
-bool sendImportFile(const QString& path);
 
 class SystemEvents : public QObject {
     Q_OBJECT
@@ -28,10 +19,10 @@ public:
     bool watchSignals();
     // logind's PrepareForShutdown(true) becomes poweringOff; false without a system bus.
     bool watchPowerOff();
-    // The show-settings signal becomes showSettingsRequested; false without a session bus.
-    bool watchShowSettings();
-    // The import-file signal becomes importFileRequested; false without a session bus.
-    bool watchImportFile();
+    // Takes the agent's name on `bus` and answers its methods: the request to show the settings
+    // becomes showSettingsRequested, a file to import importFileRequested. False without the
+    // bus or while another process holds the name.
+    bool answerOtherCopies(QDBusConnection bus = QDBusConnection::sessionBus());
 
 signals:
     void terminateRequested(int signalNumber);
@@ -41,8 +32,6 @@ signals:
 
 private slots:
     void onPrepareForShutdown(bool starting);
-    void onShowSettings();
-    void onImportFile(const QString& path);
 
 private:
     void readSignal();

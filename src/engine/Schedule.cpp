@@ -91,7 +91,7 @@ DayTimes applyOverrides(const DayTimes& times, const Config& cfg, const QDateTim
                     .arg(name, it.value());
             if (!reported.contains(line)) {
                 reported.insert(line);
-                logLine(line);
+                logLine(lcSchedule, line);
             }
         }
     }

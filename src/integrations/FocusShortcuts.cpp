@@ -78,6 +78,7 @@ void run(bool on, QObject* context, int timeoutMs) {
     runToolAsync(tool, context, [name](const ToolResult& result) {
         if (result.status == 0 && !result.timedOut) return;
         logLine(
+            lcFocus,
             QStringLiteral("Tarvanel: shortcut \"%1\" failed (%2)").arg(name).arg(result.status));
     });
 }
@@ -129,7 +130,7 @@ QString currentDesktop() {
 
 CreateResult createFor(const QString& desktop) {
     if (!ensureSupportDir() || !QDir().mkpath(folder())) {
-        logLine(QStringLiteral("Tarvanel: cannot create ") + folder());
+        logLine(lcFocus, QStringLiteral("Tarvanel: cannot create ") + folder());
         return CreateResult::failed;
     }
     QFile::setPermissions(folder(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -141,7 +142,7 @@ CreateResult createFor(const QString& desktop) {
     for (const auto& [name, command] :
          {std::pair{onName(), t->onCommand}, std::pair{offName(), t->offCommand}}) {
         if (!writeFileAtomically(scriptPath(name), script(*t, command), mode)) {
-            logLine(QStringLiteral("Tarvanel: cannot write ") + scriptPath(name));
+            logLine(lcFocus, QStringLiteral("Tarvanel: cannot write ") + scriptPath(name));
             return CreateResult::failed;
         }
     }

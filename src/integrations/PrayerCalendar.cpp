@@ -20,11 +20,11 @@ constexpr qint64 kDay = 86400;
 bool grantAccess() {
     const QString root = rootPath();
     if (!QDir().mkpath(root)) {
-        logLine(QStringLiteral("Tarvanel: cannot create the calendar folder ") + root);
+        logLine(lcCalendar, QStringLiteral("Tarvanel: cannot create the calendar folder ") + root);
         return false;
     }
     if (!authorized()) {
-        logLine(QStringLiteral("Tarvanel: cannot write the calendar folder ") + root);
+        logLine(lcCalendar, QStringLiteral("Tarvanel: cannot write the calendar folder ") + root);
         return false;
     }
     if (!vdir::listCalendars(root).isEmpty()) return true;
@@ -32,7 +32,7 @@ bool grantAccess() {
     const QString folder = root + QStringLiteral("/local/prayer");
     if (!QDir().mkpath(folder) ||
         !writeFileAtomically(folder + QStringLiteral("/displayname"), "Prayer times"))
-        logLine(QStringLiteral("Tarvanel: cannot create the calendar ") + folder);
+        logLine(lcCalendar, QStringLiteral("Tarvanel: cannot create the calendar ") + folder);
     return true;
 }
 
@@ -104,7 +104,8 @@ void sync(const Config& cfg, const QDateTime& now) {
         vdir::removeOwnEvents(c->path, start, end, c == chosen ? &missing : nullptr);
     if (chosen == calendars.end()) return;
     const QString failure = vdir::writeEvents(chosen->path, missing);
-    if (!failure.isEmpty()) logLine(QStringLiteral("Tarvanel: calendar sync failed: ") + failure);
+    if (!failure.isEmpty())
+        logLine(lcCalendar, QStringLiteral("Tarvanel: calendar sync failed: ") + failure);
 }
 
 bool syncIfNeeded(const Config& cfg, const QDateTime& now, const QString& today,

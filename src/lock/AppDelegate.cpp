@@ -40,7 +40,7 @@ void AppDelegate::launchFinished() {
     const bool testRun = options_.testLockSeconds.has_value() || options_.testNudge;
     if (!testRun) {
         if (!acquireInstanceLock()) {
-            logLine(QStringLiteral("Tarvanel already running; exiting."));
+            logLine(lcAgent, QStringLiteral("Tarvanel already running; exiting."));
             platform_.exitProcess(0);
             return;
         }
@@ -99,7 +99,7 @@ bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
     configStamp_ = stamp;
     config_ = loadConfig();
     today_.invalidate();
-    logLine(QStringLiteral("Tarvanel: config reloaded"));
+    logLine(lcSettings, QStringLiteral("Tarvanel: config reloaded"));
     if (stamp.exists && !lastConfigError() && platform_.settingsWindowOpen())
         platform_.settingsFileChanged(config_);
     return true;

@@ -109,10 +109,6 @@ public:
     const QString& cachedDayKey() const { return today_.dayKey(); }
     const DayTimes& cachedWaqt() const { return today_.waqt(); }
     bool hasDeferredLock() const { return deferred_.has_value(); }
-    bool hasStrictQuestion() const { return strict_.has_value(); }
-    // The title last handed to the platform, for a tray that appears late.
-    const QString& statusTitle() const { return lastTitle_; }
-    TitleColor statusTitleColor() const { return lastTitleColor_; }
 
 private:
     struct DeferredLock {

@@ -78,8 +78,8 @@ void AppDelegate::markPrayed(int tag) {
     markKept({prayer}, dayKey(currentTime()),
              elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"), completedLocks_);
     if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
-    logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
-            (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
+    logLine(lcLock, QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
+                        (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
     tick();
 }
 
@@ -144,7 +144,8 @@ void AppDelegate::openSettings() {
     };
     actions.cancel = [firstRun] {
         if (firstRun)
-            logLine(QStringLiteral("Tarvanel: not set up yet, so nothing locks; open Tarvanel "
+            logLine(lcLock,
+                    QStringLiteral("Tarvanel: not set up yet, so nothing locks; open Tarvanel "
                                    "from the applications menu to set it up"));
     };
     actions.previewLock = weak(&AppDelegate::previewLock);
@@ -212,7 +213,7 @@ void AppDelegate::startExcused() {
     request.buttons = {QStringLiteral("Turn Off"), QStringLiteral("Cancel")};
     if (platform_.showAlert(request).response != 1000) return;
     Excused::begin(currentTime());
-    logLine(QStringLiteral("Tarvanel: excused"));
+    logLine(lcLock, QStringLiteral("Tarvanel: excused"));
     deferred_.reset();
     tick();
 }
@@ -241,7 +242,7 @@ void AppDelegate::startTravelling() {
     const QDateTime until = travelEnd(*picked, currentTime());
     if (!until.isValid()) return;
     modes_.setTravellingUntil(until);
-    logLine(QStringLiteral("Tarvanel: travelling until ") + defaultDescription(until));
+    logLine(lcLock, QStringLiteral("Tarvanel: travelling until ") + defaultDescription(until));
     tick();
 }
 
@@ -262,7 +263,7 @@ void AppDelegate::pauseLocks(int days) {
     request.buttons = {QStringLiteral("Pause"), QStringLiteral("Cancel")};
     if (platform_.showAlert(request).response != 1000) return;
     modes_.setPausedUntil(until);
-    logLine(QStringLiteral("Tarvanel: paused until ") + defaultDescription(until));
+    logLine(lcLock, QStringLiteral("Tarvanel: paused until ") + defaultDescription(until));
     tick();
 }
 
@@ -277,7 +278,7 @@ void AppDelegate::resumeLocks() {
         if (platform_.showAlert(request).response != 1000) return;
     }
     modes_.setPausedUntil(std::nullopt);
-    logLine(QStringLiteral("Tarvanel: resumed"));
+    logLine(lcLock, QStringLiteral("Tarvanel: resumed"));
     tick();
 }
 

@@ -24,8 +24,8 @@ bool LockSession::start(const QString& displayName, const QDateTime& until,
     lastSeen_ = QDateTime();
     guardianBuffer_.clear();
     guardianMessage_.clear();
-    logLine(QStringLiteral("Tarvanel: locked for ") + displayName + QStringLiteral(" until ") +
-            defaultDescription(until));
+    logLine(lcLock, QStringLiteral("Tarvanel: locked for ") + displayName +
+                        QStringLiteral(" until ") + defaultDescription(until));
     platform_.closeBanner();
     platform_.activateApp();
     rebuildWindows();

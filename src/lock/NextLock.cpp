@@ -43,9 +43,10 @@ void AppDelegate::announceRunning() {
                                         "and Settings.") +
                          (next.isEmpty() ? QString() : QStringLiteral("\n") + next);
     if (platform_.announce(QStringLiteral("Tarvanel is running"), text)) return;
-    logLine(QStringLiteral("Tarvanel: running in the background with no tray icon (no tray "
+    logLine(lcLock,
+            QStringLiteral("Tarvanel: running in the background with no tray icon (no tray "
                            "host); open Tarvanel from the applications menu for its settings") +
-            (next.isEmpty() ? QString() : QStringLiteral(". ") + next));
+                (next.isEmpty() ? QString() : QStringLiteral(". ") + next));
 }
 
 std::optional<QString> AppDelegate::lockDueNow() {

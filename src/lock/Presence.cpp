@@ -24,7 +24,7 @@ namespace {
 void logSkippedOnce(bool& said, const QString& line) {
     if (said) return;
     said = true;
-    logLine(line);
+    logLine(lcLock, line);
 }
 
 // card*/pcm*c/sub*/status reads "state: RUNNING" while a capture substream records.

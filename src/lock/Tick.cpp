@@ -55,7 +55,7 @@ void AppDelegate::tick() {
 
     // 7. A newer program file: let the agent start it.
     if (options_.programReplaced && options_.programReplaced() && !platform_.settingsWindowOpen()) {
-        logLine(QStringLiteral("Tarvanel: new version installed, restarting"));
+        logLine(lcLock, QStringLiteral("Tarvanel: new version installed, restarting"));
         platform_.exitProcess(1);
         return;
     }
@@ -106,8 +106,8 @@ void AppDelegate::tick() {
             reminders_.showBanner(QStringLiteral("🕌  ") + due->displayName +
                                       QStringLiteral(" locks when your call ends"),
                                   std::nullopt, BannerStyle::urgent);
-            logLine(QStringLiteral("Tarvanel: ") + due->displayName +
-                    QStringLiteral(" lock waiting for a call to end"));
+            logLine(lcLock, QStringLiteral("Tarvanel: ") + due->displayName +
+                                QStringLiteral(" lock waiting for a call to end"));
         } else {
             startDueLock(lock, due->partner, due->windowEnd);
         }
@@ -139,8 +139,8 @@ void AppDelegate::endLock(bool early) {
         if (early) {
             completedLocks_.insert(*ended.key);
             saveCompletedLocks(completedLocks_);
-            logLine(QStringLiteral("Tarvanel: ") + ended.displayName +
-                    QStringLiteral(" lock ended early with the guardian code"));
+            logLine(lcLock, QStringLiteral("Tarvanel: ") + ended.displayName +
+                                QStringLiteral(" lock ended early with the guardian code"));
         } else if (config_.isOn(config_.strictMode, false)) {
             strict_ = StrictPending{*ended.key, ended.partner, ended.displayName};
             platform_.post([self = QPointer<AppDelegate>(this)] {
@@ -151,7 +151,7 @@ void AppDelegate::endLock(bool early) {
         }
     }
     platform_.playNamedSound(QStringLiteral("Glass"));
-    logLine(QStringLiteral("Tarvanel: unlocked after ") + ended.displayName);
+    logLine(lcLock, QStringLiteral("Tarvanel: unlocked after ") + ended.displayName);
     if (exitAfterTest_) platform_.exitProcess(0);
 }
 

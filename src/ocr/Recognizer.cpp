@@ -80,7 +80,8 @@ bool Recognizer::load() {
     const std::vector<std::string> values{"0", "0"};
     if (api_.Init(nullptr, "eng", tesseract::OEM_LSTM_ONLY, nullptr, 0, &names, &values, false) !=
         0) {
-        logLine(QStringLiteral("Tarvanel: text recognition is not available (no English model)"));
+        logLine(lcOcr,
+                QStringLiteral("Tarvanel: text recognition is not available (no English model)"));
         return false;
     }
     // Tesseract's diagnostics (statistics of an empty cell) are no use in the log.
@@ -104,7 +105,7 @@ bool Recognizer::recognize() {
         };
     }
     if (api_.Recognize(&monitor) == 0) return true;
-    if (!stopped()) logLine(QStringLiteral("Tarvanel: text recognition failed"));
+    if (!stopped()) logLine(lcOcr, QStringLiteral("Tarvanel: text recognition failed"));
     return false;
 }
 

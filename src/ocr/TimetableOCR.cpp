@@ -11,6 +11,7 @@
 #include <QFutureWatcher>
 #include <QRegularExpression>
 #include <QtConcurrent>
+#include <climits>
 #include <leptonica/allheaders.h>
 #include <unistd.h>
 
@@ -218,6 +219,14 @@ QStringList readFile(const QString& path) {
 void restartWithThreadLimit(char** argv) {
     if (qEnvironmentVariableIsSet("OMP_THREAD_LIMIT")) return;
     qputenv("OMP_THREAD_LIMIT", "1");
+    // Through the file's own path: started as /proc/self/exe, the process would be called "exe"
+    // in ps and top. The link itself serves when the file is gone (" (deleted)" in its target).
+    char path[PATH_MAX];
+    const ssize_t length = ::readlink("/proc/self/exe", path, sizeof path - 1);
+    if (length > 0) {
+        path[length] = '\0';
+        ::execv(path, argv);
+    }
     ::execv("/proc/self/exe", argv);
 }
 

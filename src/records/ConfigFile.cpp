@@ -28,7 +28,8 @@ Config loadConfig() {
         return *config;
     }
     lastError() = error;
-    logLine(QStringLiteral("Tarvanel: config.json is invalid (%1); keeping the last good settings")
+    logLine(lcSettings,
+            QStringLiteral("Tarvanel: config.json is invalid (%1); keeping the last good settings")
                 .arg(error));
     return lastGood().value_or(Config());
 }

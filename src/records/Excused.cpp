@@ -143,7 +143,7 @@ long long excusedWholeDays(const Config& cfg) {
 
 void endExcused(const QDateTime& now) {
     Excused::finish(now);
-    logLine(QStringLiteral("Tarvanel: no longer excused"));
+    logLine(lcRecords, QStringLiteral("Tarvanel: no longer excused"));
 }
 
 } // namespace tarvanel

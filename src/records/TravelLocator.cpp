@@ -77,7 +77,7 @@ void TravelLocator::applyLocation(const TravelCoords& found) {
         name = found.name;
     }
     if (onScheduleInvalidated) onScheduleInvalidated();
-    logLine(QStringLiteral("Tarvanel: travel mode \u2192 ") + name);
+    logLine(lcRecords, QStringLiteral("Tarvanel: travel mode \u2192 ") + name);
 }
 
 void TravelLocator::startLookup() {

@@ -2,14 +2,16 @@
 // the single instance and the stamp. systemctl is a script that answers a little later.
 #include "app/Agent.h"
 #include "base/StateFiles.h"
+#include "platform/AgentBus.h"
 #include "records/UserDefaults.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QDir>
 #include <QFile>
-#include <QPointer>
 #include <QProcess>
 
 using namespace tarvanel;
@@ -31,6 +33,22 @@ std::pair<int, QString> run(const QString& program, const QStringList& args) {
     const bool done = p.waitForFinished(20000) && p.exitStatus() == QProcess::NormalExit;
     return {done ? p.exitCode() : -1, p.readAllStandardOutput() + p.readAllStandardError()};
 }
+
+// The running agent as the bus shows it: it owns the name and answers every call at once,
+// keeping the method and arguments.
+class FakeAgent : public QDBusVirtualObject {
+public:
+    QStringList calls;
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        QStringList call{message.member()};
+        for (const QVariant& arg : message.arguments())
+            call << arg.toString();
+        calls << call.join(' ');
+        bus.send(message.createReply());
+        return true;
+    }
+};
 
 class AgentTest : public ScratchTest {
 protected:
@@ -83,11 +101,12 @@ TEST_F(AgentTest, UnitRunsTheExecutableAsTheAgentAndPassesSystemdAnalyze) {
     const QString exe = scratchHome() + "/my bin/tarvanel";
     ASSERT_TRUE(QDir().mkpath(scratchHome() + "/my bin") && QFile::copy("/bin/true", exe));
     const QString unit = agentUnitText(exe);
-    for (const QString& line : QStringList{
-             "ExecStart=\"" + exe + "\"", "Environment=TARVANEL_AGENT=" + label,
-             "Restart=on-failure\nRestartSec=5", "StandardError=append:" + supportPath("log.txt"),
-             "WantedBy=graphical-session.target"})
+    for (const QString& line :
+         QStringList{"ExecStart=\"" + exe + "\"", "Environment=TARVANEL_AGENT=" + label,
+                     "Restart=on-failure\nRestartSec=5", "WantedBy=graphical-session.target"})
         EXPECT_TRUE(unit.contains("\n" + line + "\n")) << line.toStdString();
+    // Standard error goes to the journal: the agent writes and rotates log.txt itself.
+    EXPECT_FALSE(unit.contains("StandardError")) << unit.toStdString();
     writeFile(scratchHome() + "/verify/" + unitFile, unit.toUtf8());
     EXPECT_EQ(run("systemd-analyze", {"verify", scratchHome() + "/verify/" + unitFile}),
               std::pair(0, QString()));
@@ -140,9 +159,13 @@ TEST_F(AgentTest, HandOffRoads) {
         QString name, exe, failing;
         int answer, status;
         QStringList alerts;
+        QString file = {};
     };
+    const QString sheet = QDir::current().absoluteFilePath("sheet.png");
     for (const Road& road : QList<Road>{
              {"agent running", local, "", 1000, 0, {}},
+             {"file to the agent", local, "", 1000, 0, {}, "sheet.png"},
+             {"agent silent", local, "", 1000, 1, {}},
              {"installed", local, "", 1000, 0, {}},
              {"refused", local, "enable", 1000, 1, {"Tarvanel couldn't start in the background"}},
              {"quit", downloaded, "", 1001, 0, {move}},
@@ -155,33 +178,46 @@ TEST_F(AgentTest, HandOffRoads) {
               {move, "Couldn't copy Tarvanel to " + scratchHome() + "/.local/bin"}}}) {
         SCOPED_TRACE(road.name.toStdString());
         SetUp(); // a fresh home for each road
+        logs.clear();
         fail(road.failing);
         program(road.exe);
         QProcess holder;
-        QObject owner;
-        QPointer<QObject> shown = new QObject(&owner);
+        FakeAgent agent;
+        QDBusConnection bus = QDBusConnection::sessionBus();
         FakePlatform platform;
         platform.answerAlert(road.answer);
-        if (road.name == "agent running") {
+        const bool running = road.name.startsWith("agent") || !road.file.isEmpty();
+        if (running) {
             ensureSupportDir();
             holder.start("flock", {supportPath(".instance.lock"), "sleep", "30"});
             ASSERT_TRUE(waitFor([] {
                 return run("flock", {"-n", supportPath(".instance.lock"), "true"}).first;
             }));
-            ASSERT_TRUE(QDBusConnection::sessionBus().connect(
-                {}, "/com/velmora/tarvanel", label, "showSettings", shown, SLOT(deleteLater())));
+        }
+        if (running && road.name != "agent silent") {
+            ASSERT_TRUE(bus.registerVirtualObject(agentBus::path, &agent));
+            ASSERT_TRUE(bus.registerService(agentBus::service));
         }
         if (road.name == "move") writeFile(local, "older copy");
         if (road.name == "no room") writeFile(scratchHome() + "/.local/bin", "not a folder");
         std::optional<int> status;
-        handOffToAgent(&platform, [&](int s) { status = s; });
+        handOffToAgent(
+            &platform, [&](int s) { status = s; }, road.file);
         ASSERT_TRUE(waitFor([&] { return status.has_value(); }));
         EXPECT_EQ(status, road.status);
         QStringList messages;
         for (const AlertRequest& a : platform.alerts)
             messages << a.message;
         EXPECT_EQ(messages, road.alerts);
-        EXPECT_TRUE(road.name != "agent running" || waitFor([&] { return shown.isNull(); }));
+        const QStringList answered = road.name == "agent running" ? QStringList{"ShowSettings"}
+                                     : road.file.isEmpty()        ? QStringList{}
+                                                           : QStringList{"ImportFile " + sheet};
+        EXPECT_EQ(agent.calls, answered);
+        EXPECT_EQ(logs.filter("Tarvanel already running, and it did not answer: ").size(),
+                  road.name == "agent silent" ? 1 : 0)
+            << logs.join('\n').toStdString();
+        bus.unregisterService(agentBus::service);
+        bus.unregisterObject(agentBus::path);
         EXPECT_EQ(QFile::exists(showSettingsMarker()), road.name == "installed");
         EXPECT_EQ(QFile::exists(local), road.exe == local || road.name == "move");
         EXPECT_TRUE(road.name != "installed" ||

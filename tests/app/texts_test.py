@@ -1,14 +1,22 @@
 #!/usr/bin/env python3
-"""No user-visible text of the built program names a macOS facility.
+"""No user-visible text names a macOS facility: neither the built program's nor the files
+installed beside it (the unit, the menu entry, the manual page, the AppStream data).
 
 Texts are UTF-16 literals (QStringLiteral) or UTF-8 ones: both kinds are read from the
 executable's bytes, then searched for the words."""
+import os
 import re
 import sys
 
 WORDS = ["Dock", "⌘", "Force Quit", "iPhone", "Shortcuts app", "Applications folder",
          "Login Items", "menu bar", "launchctl", "System Settings", "Privacy & Security",
-         "Both shortcuts", "Shortcuts missing", "Turn on a Focus"]
+         "Both shortcuts", "Shortcuts missing", "Turn on a Focus", "launchd", "LaunchAgents",
+         "plist", "Move to Applications", "to Applications?", "x-apple", "ditto",
+         "System Preferences", "Allow in the Background", "Finder", "Gatekeeper", "quarantine"]
+
+DATA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "data")
+INSTALLED = ["com.velmora.tarvanel.service", "com.velmora.tarvanel.desktop",
+             "com.velmora.tarvanel.metainfo.xml", "tarvanel.1"]
 
 
 # A UTF-16 text is a run of code units that are printable ASCII, Latin to Cyrillic letters, or
@@ -26,22 +34,32 @@ def texts(data):
                 yield text
 
 
+def named(found, where):
+    failed = False
+    for word in WORDS:
+        # Whole words only: the debug information carries Qt's addDockWidget and the like.
+        pattern = ((r"\b" if word[0].isalnum() else "") + re.escape(word) +
+                   (r"\b" if word[-1].isalnum() else ""))
+        for text in found:
+            if re.search(pattern, text):
+                print(f"FAIL: {word!r} in {where}: {text}")
+                failed = True
+    return failed
+
+
 def main(path):
     found = list(texts(open(path, "rb").read()))
     # The reading works: a sentence of the Lock section must be among the texts.
     if not any("There's no way to end it early" in t for t in found):
         print("FAIL: the Lock section's text was not found in", path)
         return 1
-    failed = False
-    for word in WORDS:
-        # "Dock" as a word only: the debug information carries Qt's addDockWidget and the like.
-        pattern = r"\bDock\b" if word == "Dock" else re.escape(word)
-        for text in found:
-            if re.search(pattern, text):
-                print(f"FAIL: {word!r} in: {text}")
-                failed = True
+    failed = named(found, path)
+    for name in INSTALLED:
+        with open(os.path.join(DATA, name), encoding="utf-8") as f:
+            failed = named(f.read().splitlines(), name) or failed
     if not failed:
-        print(f"no macOS facility named in {len(found)} texts of {path}")
+        print(f"no macOS facility named in {len(found)} texts of {path} nor in {len(INSTALLED)} "
+              "installed files")
     return 1 if failed else 0
 
 

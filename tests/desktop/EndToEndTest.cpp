@@ -4,6 +4,7 @@
 #include "EndToEnd.h"
 #include "base/StateFiles.h"
 #include "guardian/Guardian.h"
+#include "base/StateFiles.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -67,12 +68,18 @@ TEST_F(EndToEnd, AgentLocksEveryMonitorAtThePrayerAndRecordsIt) {
 
     // Twenty fake seconds before the lock, the clock running ten times as fast.
     QProcessEnvironment env = environment(true);
+    env.remove("OMP_THREAD_LIMIT"); // so that it starts itself again with the limit
     env.insert("LD_PRELOAD", libfaketime);
     env.insert("FAKETIME", "@2026-03-03 12:59:40 x10");
     env.insert("FAKETIME_NO_CACHE", "1");
     Program tarvanel(env, {});
     ASSERT_TRUE(tarvanel.waitForLog("Tarvanel: locked for Dhuhr until", 15000)) << tarvanel.dump();
     EXPECT_TRUE(bothLocked(4000)) << "the lock did not cover both monitors";
+    // Started again with the limit, it kept its name for ps and top.
+    const QString proc = "/proc/" + QString::number(tarvanel.process.processId());
+    EXPECT_EQ(readWholeFile(proc + "/comm"), "tarvanel\n");
+    EXPECT_TRUE(
+        readWholeFile(proc + "/environ").value_or("").split('\0').contains("OMP_THREAD_LIMIT=1"));
     ASSERT_TRUE(tarvanel.waitForLog("Tarvanel: unlocked after Dhuhr", 15000)) << tarvanel.dump();
     QThread::msleep(500);
     shot = screenshot();
@@ -87,6 +94,14 @@ TEST_F(EndToEnd, AgentLocksEveryMonitorAtThePrayerAndRecordsIt) {
     // As the agent, a termination request ends it with status 1 so the service restarts it.
     tarvanel.process.terminate();
     EXPECT_EQ(tarvanel.finish(5000), 1) << tarvanel.dump();
+    // Its own log holds its lines as standard error had them.
+    const QStringList logged = QString::fromUtf8(readWholeFile(supportPath("log.txt")).value_or(""))
+                                   .split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(logged.filter("Tarvanel: locked for Dhuhr until").size(), 1)
+        << logged.join('\n').toStdString();
+    EXPECT_EQ(logged.filter("Tarvanel: unlocked after Dhuhr").size(), 1);
+    for (const QString& line : logged)
+        EXPECT_TRUE(tarvanel.log.contains(line + '\n')) << line.toStdString();
 }
 
 TEST_F(EndToEnd, GuardianCodeTypedOnArabicAndPersianLayoutsEndsTheLock) {

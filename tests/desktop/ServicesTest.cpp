@@ -1,20 +1,26 @@
 // Display check, termination signals, sounds, alerts and the platform's event-loop services.
 #include "base/Log.h"
+#include "base/StateFiles.h"
 #include "desktop/Dialogs.h"
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemEvents.h"
+#include "platform/AgentBus.h"
 #include "support/TestEnv.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QCursor>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDateEdit>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
+#include <QProcess>
 #include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -23,6 +29,7 @@
 #include <gtest/gtest.h>
 
 using namespace tarvanel;
+using test::pump;
 using test::waitFor;
 
 TEST(SystemEvents, MissingServersAreNamedAndTerminationSignalsArriveOnTheEventLoop) {
@@ -57,6 +64,76 @@ TEST(SystemEvents, MissingServersAreNamedAndTerminationSignalsArriveOnTheEventLo
     ::raise(SIGINT);
     waitFor([&] { return received.size() == 3; }, 2000);
     EXPECT_EQ(received, (QList<int>{SIGHUP, SIGTERM, SIGINT}));
+}
+
+TEST(SystemEvents, OnlyTheAgentsNameAnswersAndASecondCopyHandsItsFileOver) {
+    QProcess daemon; // a session bus of our own
+    daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address=1"});
+    ASSERT_TRUE(daemon.waitForReadyRead(10000));
+    const QString address = QString::fromUtf8(daemon.readLine().trimmed());
+    QDBusConnection agentSide = QDBusConnection::connectToBus(address, "agent");
+    QDBusConnection caller = QDBusConnection::connectToBus(address, "caller");
+    SystemEvents events, rival;
+    int shown = 0;
+    QStringList files;
+    QObject::connect(&events, &SystemEvents::showSettingsRequested, [&] { ++shown; });
+    QObject::connect(&events, &SystemEvents::importFileRequested,
+                     [&](const QString& path) { files << path; });
+    ASSERT_TRUE(events.answerOtherCopies(agentSide));
+    // While the agent holds the name, no other process takes it.
+    EXPECT_FALSE(rival.answerOtherCopies(caller));
+
+    // The call's error name, empty when it was answered.
+    const auto call = [&](const QString& interface, const QString& member,
+                          const QVariantList& args) {
+        QDBusMessage message =
+            QDBusMessage::createMethodCall(agentBus::service, agentBus::path, interface, member);
+        message.setArguments(args);
+        QDBusPendingCallWatcher watcher(caller.asyncCall(message, 5000));
+        waitFor([&] { return watcher.isFinished(); }, 6000);
+        return watcher.isError() ? watcher.error().name() : QString();
+    };
+    EXPECT_EQ(call(agentBus::interface, agentBus::showSettings, {}), "");
+    EXPECT_EQ(call({}, agentBus::showSettings, {}), ""); // the interface may be left out
+    EXPECT_EQ(call(agentBus::interface, agentBus::importFile, {"/tmp/sheet.png"}), "");
+    const QString invalid = "org.freedesktop.DBus.Error.InvalidArgs";
+    EXPECT_EQ(call(agentBus::interface, agentBus::importFile, {}), invalid);
+    EXPECT_EQ(call(agentBus::interface, agentBus::importFile, {42}), invalid);
+    EXPECT_EQ(call(agentBus::interface, agentBus::showSettings, {"extra"}), invalid);
+    EXPECT_EQ(call(agentBus::interface, "Quit", {}), "org.freedesktop.DBus.Error.UnknownMethod");
+    EXPECT_EQ(call("com.velmora.tarvanel.Other", agentBus::showSettings, {}),
+              "org.freedesktop.DBus.Error.UnknownInterface");
+    // A signal to the agent's path is no request.
+    caller.send(
+        QDBusMessage::createSignal(agentBus::path, agentBus::interface, agentBus::showSettings));
+    pump(200);
+    EXPECT_EQ(shown, 2);
+    EXPECT_EQ(files, QStringList{"/tmp/sheet.png"});
+
+    // `tarvanel FILE` beside a running agent hands the file over, made absolute, and ends.
+    ASSERT_TRUE(ensureSupportDir());
+    QProcess holder;
+    holder.start("flock", {supportPath(".instance.lock"), "sleep", "30"});
+    ASSERT_TRUE(waitFor([] {
+        return QProcess::execute("flock", {"-n", supportPath(".instance.lock"), "true"}) != 0;
+    }));
+    QTemporaryDir downloads;
+    QProcess second;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("DBUS_SESSION_BUS_ADDRESS", address);
+    env.insert("QT_QPA_PLATFORM", "offscreen");
+    env.remove("TARVANEL_AGENT");
+    second.setProcessEnvironment(env);
+    second.setWorkingDirectory(downloads.path());
+    second.start(TARVANEL_BINARY, {"timetable.png"});
+    ASSERT_TRUE(waitFor([&] { return second.state() == QProcess::NotRunning; }, 20000));
+    EXPECT_EQ(second.exitCode(), 0) << second.readAllStandardError().toStdString();
+    EXPECT_EQ(files, (QStringList{"/tmp/sheet.png", downloads.filePath("timetable.png")}));
+    EXPECT_EQ(shown, 2);
+    holder.kill();
+    holder.waitForFinished();
+    daemon.kill();
+    daemon.waitForFinished();
 }
 
 TEST(Sounds, ThemeSoundsAreFoundAndAnAdhanThatDoesNotDecodeGivesWayToTheChime) {

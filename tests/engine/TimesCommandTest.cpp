@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "base/StateFiles.h"
 #include "engine/LocalTime.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QProcess>

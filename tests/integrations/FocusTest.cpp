@@ -2,6 +2,8 @@
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "integrations/FocusShortcuts.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QDir>

@@ -5,6 +5,7 @@
 #include "base/Log.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
+#include "base/Log.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -6,6 +6,7 @@
 #include "guardian/Guardian.h"
 #include "integrations/PrayerCalendar.h"
 #include "records/History.h"
+#include "base/StateFiles.h"
 #include "timetable/Timetable.h"
 
 #include <QDir>

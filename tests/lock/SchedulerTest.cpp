@@ -6,6 +6,7 @@
 #include "engine/LocalTime.h"
 #include "records/History.h"
 #include "records/LockState.h"
+#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QFile>

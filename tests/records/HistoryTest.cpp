@@ -3,6 +3,7 @@
 #include "engine/Schedule.h"
 #include "records/Excused.h"
 #include "records/LockState.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

@@ -4,6 +4,8 @@
 #include "engine/Config.h"
 #include "engine/LocalTime.h"
 #include "records/ConfigFile.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

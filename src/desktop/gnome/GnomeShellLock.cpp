@@ -208,12 +208,14 @@ void GnomeShellLock::onSent(QDBusPendingCallWatcher* watcher, const QStringList&
     if (!coveredReported_) {
         coveredReported_ = true;
         const qint64 ms = shownAt_.elapsed();
-        logLine(QStringLiteral("Tarvanel: the GNOME Shell extension covered every monitor in %1 ms")
+        logLine(lcLock,
+                QStringLiteral("Tarvanel: the GNOME Shell extension covered every monitor in %1 ms")
                     .arg(ms));
         emit covered(ms);
     }
     if (monitorsChangedAt_.isValid()) {
-        logLine(QStringLiteral("Tarvanel: the lock view is on %1 monitors %2 ms after they changed")
+        logLine(lcLock,
+                QStringLiteral("Tarvanel: the lock view is on %1 monitors %2 ms after they changed")
                     .arg(monitors_.size())
                     .arg(monitorsChangedAt_.elapsed()));
         monitorsChangedAt_.invalidate();

@@ -85,7 +85,6 @@ void SettingsWindow::show(const QString& title, QSize size, QWidget* content) {
         if (openSettings_) openSettings_();
     });
     win->resize(size);
-    connect(win, &QObject::destroyed, this, [this] { emit closed(); });
     window_ = win;
     win->show();
     raise();

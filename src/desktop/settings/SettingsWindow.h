@@ -32,9 +32,6 @@ public:
     QWidget* window() const;
     void raise();
 
-signals:
-    void closed();
-
 private:
     std::function<void()> openSettings_;
     QPointer<QMainWindow> window_;

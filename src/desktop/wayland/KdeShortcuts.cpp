@@ -117,7 +117,7 @@ void KdeShortcuts::blockNow() {
         shortcutsBlocked_ = true;
         writeMarker(); // before the block: a crash right after must be undone
         send(setShortcutsBlocked(true));
-        logLine(QStringLiteral("Tarvanel: KWin's global shortcuts blocked"));
+        logLine(lcLock, QStringLiteral("Tarvanel: KWin's global shortcuts blocked"));
     });
 
     const QDBusMessage effects =
@@ -136,8 +136,8 @@ void KdeShortcuts::blockNow() {
         writeMarker();
         for (const QString& effect : now)
             send(effectCall(QStringLiteral("unloadEffect"), effect));
-        logLine(QStringLiteral("Tarvanel: KWin effects unloaded: ") +
-                now.join(QStringLiteral(", ")));
+        logLine(lcLock, QStringLiteral("Tarvanel: KWin effects unloaded: ") +
+                            now.join(QStringLiteral(", ")));
     });
 }
 
@@ -172,7 +172,8 @@ void KdeShortcuts::restoreAbandoned() {
         send(effectCall(QStringLiteral("loadEffect"), effect));
     flush();
     QFile::remove(markerPath());
-    logLine(QStringLiteral("Tarvanel: KWin's shortcuts and effects that an earlier run left "
+    logLine(lcLock,
+            QStringLiteral("Tarvanel: KWin's shortcuts and effects that an earlier run left "
                            "blocked are back"));
 }
 

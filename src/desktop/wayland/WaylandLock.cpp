@@ -258,7 +258,7 @@ void WaylandLock::releaseAbandoned() {
     }
     lock->show({}, nullptr);
     if (lock->waitForSessionAnswer(3000))
-        logLine(QStringLiteral("Tarvanel: released a session lock left by an earlier run"));
+        logLine(lcLock, QStringLiteral("Tarvanel: released a session lock left by an earlier run"));
     lock->close();
     setMarker(false);
 }

@@ -1,7 +1,7 @@
 #include "engine/Schedule.h"
+#include "base/Log.h"
 #include "engine/LocalTime.h"
 #include "engine/PrayerTimes.h"
-#include "base/Log.h"
 #include "timetable/Timetable.h"
 
 #include <QSet>
@@ -115,7 +115,7 @@ EffectiveTimes effectiveTimes(const QDateTime& date, const Config& cfg) {
         if (const auto t = parseFixedTime(it.value(), date)) out.final.insert(it.key(), *t);
     }
 
-    if (!isFriday(date) || !cfg.jumuahEnabled.value_or(true)) return out;
+    if (!isFriday(date) || !cfg.jumuahOn()) return out;
     std::optional<QString> text;
     if (day.contains(jumuahKey))
         text = day.value(jumuahKey);

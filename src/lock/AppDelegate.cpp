@@ -3,14 +3,12 @@
 #include "lock/AppDelegate.h"
 
 #include "app/Agent.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/DayRules.h"
 #include "lock/Presence.h"
-#include "records/History.h"
-#include "records/LockState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "records/TravelLocator.h"
 #include "timetable/Timetable.h"
 
@@ -21,8 +19,7 @@ namespace tarvanel {
 AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* parent)
     : QObject(parent), clock(systemNow), callCheck(Presence::inCall), platform_(platform),
       config_(loadConfig()), configPath_(QFile::encodeName(configURL())),
-      travel_(new TravelLocator(this)), session_(platform, this), reminders_(platform),
-      completedLocks_(loadCompletedLocks()) {
+      travel_(new TravelLocator(this)), session_(platform, this), reminders_(platform) {
     travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
         if (self) self->invalidateSchedule();
     };
@@ -139,18 +136,7 @@ const DayTimes& AppDelegate::todaysTimes() {
 }
 
 const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {
-    if (today_.update(now, activeConfig())) {
-        // Only keys of today stay: a clock that ran a day ahead and was put back must not
-        // keep that day's real locks from happening.
-        const QString& today = today_.dayKey();
-        auto keepToday = [&today](QSet<QString>& keys) {
-            for (auto it = keys.begin(); it != keys.end();)
-                it = it->startsWith(today) ? std::next(it) : keys.erase(it);
-        };
-        keepToday(firedNudges_);
-        keepToday(completedLocks_);
-        saveCompletedLocks(completedLocks_);
-    }
+    if (today_.update(now, activeConfig())) ledger_.keepOnly(today_.dayKey());
     return today_.times();
 }
 
@@ -169,12 +155,11 @@ bool AppDelegate::travelLocationKnown() const {
 }
 
 bool AppDelegate::combiningPrayers(const QDateTime& now) const {
-    return config_.isOn(config_.combineWhenTravelling, false) &&
-           modes_.isTravelling(now, travelLocationKnown());
+    return config_.combineOn() && modes_.isTravelling(now, travelLocationKnown());
 }
 
 void AppDelegate::recordKept(const QString& key, const std::optional<QString>& partner) {
-    logKept(key, partner, completedLocks_);
+    ledger_.logKept(key, partner);
 }
 
 void AppDelegate::setStatusTitle(const QString& title, TitleColor color) {
@@ -189,8 +174,7 @@ void AppDelegate::updateStatusTitle(const QDateTime& now) {
     const std::optional<Title> title = tarvanel::statusTitle(
         TitleView{now, today_.times(), config_,
                   session_.isLocked() ? std::optional<QString>(session_.prayer()) : std::nullopt,
-                  combiningPrayers(now), today_.jumuah(),
-                  today_.ramadan() && config_.isOn(config_.ramadanMode, true),
+                  combiningPrayers(now), today_.jumuah(), today_.ramadan() && config_.ramadanOn(),
                   [this, &now] { return today_.tomorrowsFajr(now, activeConfig()); }});
     if (title) setStatusTitle(title->text, title->color);
 }

@@ -4,6 +4,7 @@
 // the lock due now), LockSession (the running lock), Reminders (banners), and the title and
 // menu of menubar/, which see only a StatusView. The desktop forwards events here.
 #include "app/CommandLine.h"
+#include "base/FileStamp.h"
 #include "engine/Clock.h"
 #include "engine/Config.h"
 #include "engine/DayTimes.h"
@@ -14,7 +15,7 @@
 #include "menubar/MenuModel.h"
 #include "menubar/StatusView.h"
 #include "platform/Platform.h"
-#include "base/FileStamp.h"
+#include "records/DayLedger.h"
 #include "records/Modes.h"
 
 #include <QDateTime>
@@ -103,8 +104,8 @@ public:
     bool isLocked() const { return session_.isLocked(); }
     std::optional<QDateTime> lockEnd() const { return session_.end(); }
     const QString& lockPrayer() const { return session_.prayer(); }
-    const QSet<QString>& completedLocks() const { return completedLocks_; }
-    const QSet<QString>& firedNudges() const { return firedNudges_; }
+    const QSet<QString>& completedLocks() const { return ledger_.completedLocks(); }
+    const QSet<QString>& firedNudges() const { return ledger_.firedNudges(); }
     const QString& cachedDayKey() const { return today_.dayKey(); }
     const DayTimes& cachedWaqt() const { return today_.waqt(); }
     bool hasDeferredLock() const { return deferred_.has_value(); }
@@ -152,8 +153,7 @@ private:
     TodaySchedule today_;
     LockSession session_;
     Reminders reminders_;
-    QSet<QString> firedNudges_;
-    QSet<QString> completedLocks_;
+    DayLedger ledger_; // completed locks and fired reminders: written only through it
     std::optional<DeferredLock> deferred_;
     std::optional<StrictPending> strict_;
     bool focusOn_ = false;

@@ -1,14 +1,14 @@
 // The menu's commands and the view the title and menu are built from. A command that changes
 // a mode asks through the platform, writes the store, and ticks so that the title follows.
 #include "app/Agent.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "records/TravelLocator.h"
 #include "settings/CitySearch.h"
 #include "settings/PrayerSettingsModel.h"
@@ -74,8 +74,8 @@ void AppDelegate::markPrayed(int tag) {
     if (tag < 0 || i >= prayerNames().size()) return;
     const QString prayer = prayerNames()[i];
     const bool elsewhere = tag < 100;
-    markKept({prayer}, dayKey(currentTime()),
-             elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"), completedLocks_);
+    ledger_.markKept({prayer}, dayKey(currentTime()),
+                     elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"));
     if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
     logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
             (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
@@ -219,7 +219,7 @@ void AppDelegate::startTravelling() {
     AlertRequest request;
     request.message = QStringLiteral("Travelling until\u2026");
     request.info =
-        config_.isOn(config_.combineWhenTravelling, false)
+        config_.combineOn()
             ? QStringLiteral("Dhuhr and Asr become one lock, and so do Maghrib and Isha, through "
                              "the end of this day.")
             : QStringLiteral("Turn on \u201CCombine prayers while travelling\u201D in Settings if "

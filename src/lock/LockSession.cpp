@@ -1,10 +1,10 @@
 #include "lock/LockSession.h"
 
+#include "base/Log.h"
 #include "engine/Digits.h"
 #include "engine/Quotes.h"
 #include "guardian/Guardian.h"
 #include "lock/Presence.h"
-#include "base/Log.h"
 #include "records/Modes.h"
 
 namespace tarvanel {
@@ -28,8 +28,7 @@ bool LockSession::start(const QString& displayName, const QDateTime& until,
     platform_.closeBanner();
     platform_.activateApp();
     rebuildWindows();
-    const std::optional<QString> adhan =
-        cfg.isOn(cfg.adhanEnabled, true) ? adhanFileURL() : std::nullopt;
+    const std::optional<QString> adhan = cfg.adhanOn() ? adhanFileURL() : std::nullopt;
     if (!adhan || !platform_.playSoundFile(*adhan))
         platform_.playNamedSound(QStringLiteral("Blow"));
     return true;

@@ -1,12 +1,12 @@
 // What comes next, for the user who has just set the program up or asks to resume locks: the
 // next lock's name and time, and whether a prayer's lock window is open right now.
+#include "base/Log.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "lock/AppDelegate.h"
 #include "lock/DayRules.h"
 #include "lock/Scheduler.h"
 #include "records/Excused.h"
-#include "base/Log.h"
 
 #include <QTimeZone>
 
@@ -19,7 +19,7 @@ QString AppDelegate::nextLockText() {
     const bool jumuah = today_.jumuah();
     const QString pattern = QStringLiteral("h:mm AP");
     for (const PrayerSlot& slot : today_.prayerSlots()) {
-        if (!slot.valid || completedLocks_.contains(slot.lockKey)) continue;
+        if (!slot.valid || ledger_.completedLocks().contains(slot.lockKey)) continue;
         if (combining && isCombinedAway(slot.name, jumuah)) continue;
         // The screens go dark at the window's start, the lead before the lock time.
         const QDateTime start =
@@ -52,9 +52,8 @@ std::optional<QString> AppDelegate::lockDueNow() {
     const QDateTime now = currentTime();
     if (Excused::current(config_.excusedDays(), now)) return std::nullopt;
     scheduleFor(now);
-    QSet<QString> fired = firedNudges_; // asking must not use up a reminder
-    const PrayerDecision decision =
-        decidePrayers(today_, config_, now, combiningPrayers(now), completedLocks_, fired);
+    const PrayerDecision decision = decidePrayers(today_, config_, now, combiningPrayers(now),
+                                                  ledger_.completedLocks(), ledger_.firedNudges());
     if (!decision.lock) return std::nullopt;
     return decision.lock->displayName;
 }

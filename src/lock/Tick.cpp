@@ -1,6 +1,8 @@
 // The one-second tick, the single decision point of the running program, and the road of a
 // lock from its start to what its end records.
 #include "app/Agent.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/LockPeriod.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
@@ -8,9 +10,6 @@
 #include "lock/DayRules.h"
 #include "lock/Scheduler.h"
 #include "records/Excused.h"
-#include "records/LockState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "records/TravelLocator.h"
 
 namespace tarvanel {
@@ -95,8 +94,9 @@ void AppDelegate::tick() {
         return;
     }
     // 12–13. The five prayers: due reminders, then at most one lock started or put off.
-    const PrayerDecision decision =
-        decidePrayers(today_, config_, now, combiningPrayers(now), completedLocks_, firedNudges_);
+    const PrayerDecision decision = decidePrayers(today_, config_, now, combiningPrayers(now),
+                                                  ledger_.completedLocks(), ledger_.firedNudges());
+    ledger_.fire(decision.fired);
     for (const Nudge& n : decision.nudges)
         reminders_.showNudge(n.prayer, n.minutesLeft, n.offset);
     if (const std::optional<DueLock>& due = decision.lock) {
@@ -114,8 +114,9 @@ void AppDelegate::tick() {
     }
     // 14. The day's one-off banners, only while nothing locks.
     if (!session_.isLocked())
-        reminders_.checkDay(config_, now, dayKey, today_.waqt(), today_.times(), today_.ramadan(),
-                            completedLocks_, firedNudges_);
+        ledger_.fire(reminders_.checkDay(config_, now, dayKey, today_.waqt(), today_.times(),
+                                         today_.ramadan(), ledger_.completedLocks(),
+                                         ledger_.firedNudges()));
     // 15.
     updateStatusTitle(now);
 }
@@ -123,7 +124,7 @@ void AppDelegate::tick() {
 void AppDelegate::startDueLock(const DeferredLock& due, const std::optional<QString>& partner,
                                const QDateTime& until) {
     if (!session_.start(due.displayName, until, due.key, partner, config_)) return;
-    focusOn_ = config_.isOn(config_.focusShortcuts, false);
+    focusOn_ = config_.focusOn();
     if (focusOn_) FocusShortcuts::run(true, this);
 }
 
@@ -137,11 +138,10 @@ void AppDelegate::endLock(bool early) {
     focusOn_ = false;
     if (ended.key) {
         if (early) {
-            completedLocks_.insert(*ended.key);
-            saveCompletedLocks(completedLocks_);
+            ledger_.completeUnkept(*ended.key);
             logLine(QStringLiteral("Tarvanel: ") + ended.displayName +
                     QStringLiteral(" lock ended early with the guardian code"));
-        } else if (config_.isOn(config_.strictMode, false)) {
+        } else if (config_.strictOn()) {
             strict_ = StrictPending{*ended.key, ended.partner, ended.displayName};
             platform_.post([self = QPointer<AppDelegate>(this)] {
                 if (self) self->askStrict();

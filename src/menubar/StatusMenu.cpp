@@ -1,4 +1,5 @@
 // The status menu, built afresh each time it opens from the view the controller hands over.
+#include "base/StateFiles.h"
 #include "engine/CalcMethods.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
@@ -6,7 +7,6 @@
 #include "menubar/StatusView.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
 
 #include <cmath>
 
@@ -109,7 +109,7 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
     // Ramadan times.
     const auto fajrWaqt = waqt.value(u"Fajr");
     const auto maghribWaqt = waqt.value(u"Maghrib");
-    if (ramadan && config.isOn(config.ramadanMode, true) && fajrWaqt && maghribWaqt) {
+    if (ramadan && config.ramadanOn() && fajrWaqt && maghribWaqt) {
         menu << MenuItem::separator();
         menu << MenuItem::info(QStringLiteral("🌙 Suhoor ends ") + timeText(*fajrWaqt) +
                                QStringLiteral("  •  Iftar ") + timeText(*maghribWaqt));

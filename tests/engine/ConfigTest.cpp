@@ -1,6 +1,6 @@
 #include "engine/Config.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QJsonDocument>
@@ -143,4 +143,32 @@ TEST_F(ConfigTest, CoordinatesOutsideTheEarthAndMixedArraysAreNamedInTheError) {
         EXPECT_EQ(loaded.latitude, -90); // the last good settings stay
         EXPECT_EQ(loaded.longitude, 180);
     }
+}
+
+// A switch the file leaves out reads as the new settings' value; a present one reads as written.
+TEST_F(ConfigTest, AbsentSwitchesReadAsTheDefaultsAndPresentOnesAsWritten) {
+    using Flag = std::optional<bool> Config::*;
+    using Reader = bool (Config::*)() const;
+    const std::pair<Flag, Reader> switches[] = {
+        {&Config::jumuahEnabled, &Config::jumuahOn},
+        {&Config::ramadanMode, &Config::ramadanOn},
+        {&Config::weeklyReport, &Config::weeklyReportOn},
+        {&Config::travelMode, &Config::travelOn},
+        {&Config::adhanEnabled, &Config::adhanOn},
+        {&Config::calendarSync, &Config::calendarSyncOn},
+        {&Config::focusShortcuts, &Config::focusOn},
+        {&Config::strictMode, &Config::strictOn},
+        {&Config::combineWhenTravelling, &Config::combineOn},
+    };
+    int on = 0;
+    for (const auto& [flag, read] : switches) {
+        const Config fresh;
+        Config absent, flipped;
+        absent.*flag = std::nullopt;
+        flipped.*flag = !*(fresh.*flag);
+        EXPECT_EQ((absent.*read)(), *(fresh.*flag));
+        EXPECT_EQ((flipped.*read)(), !*(fresh.*flag));
+        on += (absent.*read)();
+    }
+    EXPECT_EQ(on, 4); // Jumu'ah, Ramadan, the weekly report and the adhan start on
 }

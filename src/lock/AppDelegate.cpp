@@ -10,7 +10,6 @@
 #include "lock/DayRules.h"
 #include "lock/Presence.h"
 #include "records/TravelLocator.h"
-#include "timetable/Timetable.h"
 
 #include <QFile>
 
@@ -20,12 +19,6 @@ AppDelegate::AppDelegate(Platform& platform, const CommandLine& cl, QObject* par
     : QObject(parent), clock(systemNow), callCheck(Presence::inCall), platform_(platform),
       config_(loadConfig()), configPath_(QFile::encodeName(configURL())),
       travel_(new TravelLocator(this)), session_(platform, this), reminders_(platform) {
-    travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
-        if (self) self->invalidateSchedule();
-    };
-    // An import or a cleared timetable changes today's lock times and the calendar's events.
-    connect(&timetableChangedNote(), &TimetableChangedNote::posted, this,
-            [this] { invalidateSchedule(); });
     if (cl.testLockSeconds) testLockSeconds_ = cl.testLockSeconds;
     testNudge_ = cl.testNudge;
 }
@@ -96,7 +89,6 @@ bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
     if (stamp == configStamp_) return false;
     configStamp_ = stamp;
     config_ = loadConfig();
-    today_.invalidate();
     logLine(QStringLiteral("Tarvanel: config reloaded"));
     if (stamp.exists && !lastConfigError() && platform_.settingsWindowOpen())
         platform_.settingsFileChanged(config_);
@@ -122,11 +114,15 @@ void AppDelegate::applyConfig(const Config& cfg) {
     saveConfig(cfg);
     const Config before = config_;
     config_ = cfg;
-    // Turning blocking off empties the calendars of our events, so "was on" counts too.
-    if (!testLockSeconds_ && !testNudge_) PrayerCalendar::syncAfterSave(before, cfg, currentTime());
     configStamp_ = FileStamp::of(configPath_); // our own write is not an outside change
-    today_.invalidate();
     travel_->clear();
+    // The calendar gets the settings the schedule now runs on, as the tick would give it.
+    // Turning blocking off empties the calendars of our events, so "was on" counts too.
+    const QDateTime now = currentTime();
+    scheduleFor(now);
+    if (!testLockSeconds_ && !testNudge_ &&
+        PrayerCalendar::syncAfterSave(before, activeConfig(), now))
+        calendarSyncedDay_ = today_.dayKey();
     tick();
 }
 
@@ -136,7 +132,10 @@ const DayTimes& AppDelegate::todaysTimes() {
 }
 
 const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {
-    if (today_.update(now, activeConfig())) ledger_.keepOnly(today_.dayKey());
+    if (today_.update(now, activeConfig())) {
+        ledger_.keepOnly(today_.dayKey());
+        calendarSyncedDay_.clear(); // the events follow the new times
+    }
     return today_.times();
 }
 

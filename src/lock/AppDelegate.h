@@ -66,11 +66,6 @@ public:
     void reloadConfigIfChanged();
     void applyConfig(const Config& cfg);
     const Config& config() const { return config_; }
-    // Forces the schedule to be recomputed at the next tick (timetable import, new location).
-    void invalidateSchedule() {
-        today_.invalidate();
-        calendarSyncedDay_.clear();
-    }
 
     // The lock session. `startLock` with no prayer key (preview, test) records nothing.
     void startLock(const QString& prayer, const QString& displayName, const QDateTime& until);
@@ -157,7 +152,7 @@ private:
     std::optional<DeferredLock> deferred_;
     std::optional<StrictPending> strict_;
     bool focusOn_ = false;
-    QString calendarSyncedDay_;  // the day the calendar was last filled; cleared by an import
+    QString calendarSyncedDay_;  // the day the calendar was last filled; cleared by a new schedule
     QString configErrorShown_;   // the never-valid settings error the window was opened for
     QString configErrorNoticed_; // the last bad hand edit the banner named
 

@@ -45,8 +45,8 @@ public:
     LockScreenState* lockState() { return session_.state(); }
     // Built each time the status menu opens.
     MenuModel buildMenu();
-    // What the title and menu show, as of now.
-    StatusView statusView();
+    // What the title and menu show, as the last tick left the state.
+    StatusView statusView() const;
 
     // PlatformEvents
     void launchFinished() override;
@@ -72,7 +72,7 @@ public:
     void endLock(bool early);
 
     // Menu commands, also reached from the settings window. Those that change a mode ask
-    // through the platform, write the store, then tick so that the title follows at once.
+    // through the platform and write the store; the tick they post afterwards applies it.
     void openSettings();
     // The import window, with `file` already read when given.
     void openTimetableImport(const QString& file = {});
@@ -138,6 +138,8 @@ private:
     void updateStatusTitle(const QDateTime& now);
     // `command` holding the controller weakly, as every callback handed out does.
     std::function<void()> weak(void (AppDelegate::*command)());
+    // One tick after the running command returns; several requests share it.
+    void refreshSoon();
 
     Platform& platform_;
     Config config_;
@@ -161,6 +163,7 @@ private:
     bool exitAfterTest_ = false;
     bool poweringOff_ = false;
     bool launched_ = false;
+    bool refreshPosted_ = false;
 
     // The title last handed to the platform: it is only handed over again when it differs.
     QString lastTitle_;

@@ -1,5 +1,6 @@
 // The menu's commands and the view the title and menu are built from. A command that changes
-// a mode asks through the platform, writes the store, and ticks so that the title follows.
+// a mode asks through the platform and writes the store; one tick posted behind it brings the
+// title and the locks up to date.
 #include "app/Agent.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
@@ -21,19 +22,26 @@
 
 namespace tarvanel {
 
+void AppDelegate::refreshSoon() {
+    if (refreshPosted_) return;
+    refreshPosted_ = true;
+    platform_.post([self = QPointer<AppDelegate>(this)] {
+        if (!self) return;
+        self->refreshPosted_ = false;
+        self->tick();
+    });
+}
+
 std::function<void()> AppDelegate::weak(void (AppDelegate::*command)()) {
     return [self = QPointer<AppDelegate>(this), command] {
         if (self) (self.data()->*command)();
     };
 }
 
-StatusView AppDelegate::statusView() {
+// Reads only: the schedule, the settings and the modes are as the last tick left them.
+StatusView AppDelegate::statusView() const {
     const QDateTime now = currentTime();
     const bool setUp = QFile::exists(configURL());
-    if (setUp) {
-        modes_.refresh();
-        todaysTimes();
-    }
     return StatusView{now,
                       setUp,
                       config_,
@@ -79,7 +87,7 @@ void AppDelegate::markPrayed(int tag) {
     if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
     logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
             (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::previewLock() {
@@ -207,12 +215,12 @@ void AppDelegate::startExcused() {
     Excused::begin(currentTime());
     logLine(QStringLiteral("Tarvanel: excused"));
     deferred_.reset();
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::endExcused() {
     tarvanel::endExcused(currentTime());
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::startTravelling() {
@@ -235,12 +243,12 @@ void AppDelegate::startTravelling() {
     if (!until.isValid()) return;
     modes_.setTravellingUntil(until);
     logLine(QStringLiteral("Tarvanel: travelling until ") + defaultDescription(until));
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::stopTravelling() {
     modes_.setTravellingUntil(std::nullopt);
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::pauseLocks(int days) {
@@ -256,7 +264,7 @@ void AppDelegate::pauseLocks(int days) {
     if (platform_.showAlert(request).response != 1000) return;
     modes_.setPausedUntil(until);
     logLine(QStringLiteral("Tarvanel: paused until ") + defaultDescription(until));
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::resumeLocks() {
@@ -271,7 +279,7 @@ void AppDelegate::resumeLocks() {
     }
     modes_.setPausedUntil(std::nullopt);
     logLine(QStringLiteral("Tarvanel: resumed"));
-    tick();
+    refreshSoon();
 }
 
 } // namespace tarvanel

@@ -4,6 +4,7 @@
 
 #include "base/StateFiles.h"
 #include "integrations/PrayerCalendar.h"
+#include "records/LockState.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -168,6 +169,28 @@ TEST_F(ConfigReloadTest, HandEditedTimesAndLengthsReachTheLockTheTitleAndTheCale
     ASSERT_TRUE(sim.app->isLocked());
     EXPECT_EQ(sim.times("lock: Dhuhr"), QStringList{"12:25:00"});
     EXPECT_EQ(sim.app->lockEnd(), at("15:25"));
+}
+
+// Opening the menu only reads: a hand edit and a new day wait for the tick, which applies both.
+TEST_F(ConfigReloadTest, OpeningTheMenuReadsOnlyAndTheNextTickAppliesWhatChanged) {
+    const Config good = fixedTimesConfig();
+    DaySimulator sim(good, at("23:00"));
+    sim.app->markPrayed(104); // Isha, as qada
+    sim.step();
+    EXPECT_EQ(loadCompletedLocks(), QSet<QString>{"2026-01-14-Isha"});
+    writeSupportFile("config.json", editedJson(good, "lockMinutes", 30));
+    sim.sleepUntil(at("00:00:30", kDay.addDays(1)));
+    const QByteArray state = readWholeFile(supportPath("state.json")).value_or("");
+    EXPECT_FALSE(sim.menuTexts().isEmpty());
+    EXPECT_EQ(readWholeFile(supportPath("state.json")).value_or(""), state);
+    EXPECT_EQ(sim.app->config(), good);
+    EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-14");
+
+    sim.step();
+    EXPECT_EQ(sim.app->config().lockMinutes, 30);
+    EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-15");
+    EXPECT_TRUE(sim.app->completedLocks().isEmpty());
+    EXPECT_TRUE(loadCompletedLocks().isEmpty());
 }
 
 } // namespace

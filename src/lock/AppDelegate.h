@@ -29,6 +29,16 @@ namespace tarvanel {
 
 class TravelLocator;
 
+// Where a prayer's lock is in its life. A preview or test lock runs beside it and records
+// nothing.
+enum class LockStage {
+    Idle,             // nothing pending: the prayers are looked at every second
+    WaitingForCall,   // a lock is due but a call runs; it starts when the call ends
+    Locked,           // a prayer's lock is on the screens
+    AskingDidYouPray, // the lock ended under strict mode and the question is open
+};
+QString stageName(LockStage stage);
+
 class AppDelegate : public QObject, public PlatformEvents {
     Q_OBJECT
 public:
@@ -103,8 +113,9 @@ public:
     const QSet<QString>& firedNudges() const { return ledger_.firedNudges(); }
     const QString& cachedDayKey() const { return today_.dayKey(); }
     const DayTimes& cachedWaqt() const { return today_.waqt(); }
-    bool hasDeferredLock() const { return deferred_.has_value(); }
-    bool hasStrictQuestion() const { return strict_.has_value(); }
+    LockStage lockStage() const { return stage_; }
+    bool hasDeferredLock() const { return stage_ == LockStage::WaitingForCall; }
+    bool hasStrictQuestion() const { return stage_ == LockStage::AskingDidYouPray; }
     // The title last handed to the platform, for a tray that appears late.
     const QString& statusTitle() const { return lastTitle_; }
     TitleColor statusTitleColor() const { return lastTitleColor_; }
@@ -130,6 +141,17 @@ private:
     const DayTimes& scheduleFor(const QDateTime& now);
     bool combiningPrayers(const QDateTime& now) const;
     bool travelLocationKnown() const;
+    // The one place the stage changes: the lock waiting for a call and the open question
+    // belong to their stages and are replaced with it. Each change is logged.
+    void setStage(LockStage next, std::optional<DeferredLock> waiting = std::nullopt,
+                  std::optional<StrictPending> asking = std::nullopt);
+    // The tick's steps; each returns true when it holds the rest of the second.
+    bool holdUntilSetUp();
+    void keepInputsCurrent(const QDateTime& now);
+    bool holdForNewVersion();
+    bool holdForModes(const QDateTime& now);
+    bool holdForCall(const QDateTime& now);
+    void lookAtPrayers(const QDateTime& now);
     void startDueLock(const DeferredLock& due, const std::optional<QString>& partner,
                       const QDateTime& until);
     void askStrict();
@@ -151,8 +173,9 @@ private:
     LockSession session_;
     Reminders reminders_;
     DayLedger ledger_; // completed locks and fired reminders: written only through it
-    std::optional<DeferredLock> deferred_;
-    std::optional<StrictPending> strict_;
+    LockStage stage_ = LockStage::Idle;
+    std::optional<DeferredLock> deferred_; // only while WaitingForCall
+    std::optional<StrictPending> strict_;  // only while AskingDidYouPray
     bool focusOn_ = false;
     QString calendarSyncedDay_;  // the day the calendar was last filled; cleared by a new schedule
     QString configErrorShown_;   // the never-valid settings error the window was opened for

@@ -84,7 +84,7 @@ void AppDelegate::markPrayed(int tag) {
     const bool elsewhere = tag < 100;
     ledger_.markKept({prayer}, dayKey(currentTime()),
                      elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"));
-    if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
+    if (deferred_ && deferred_->prayer == prayer) setStage(LockStage::Idle);
     logLine(QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
             (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
     refreshSoon();
@@ -214,7 +214,7 @@ void AppDelegate::startExcused() {
     if (platform_.showAlert(request).response != 1000) return;
     Excused::begin(currentTime());
     logLine(QStringLiteral("Tarvanel: excused"));
-    deferred_.reset();
+    if (stage_ == LockStage::WaitingForCall) setStage(LockStage::Idle);
     refreshSoon();
 }
 

@@ -161,9 +161,9 @@ TEST_F(ConfigTest, AbsentSwitchesReadAsTheDefaultsAndPresentOnesAsWritten) {
         {&Config::combineWhenTravelling, &Config::combineOn},
     };
     int on = 0;
+    const Config fresh;
     for (const auto& [flag, read] : switches) {
-        const Config fresh;
-        Config absent, flipped;
+        Config absent = fresh, flipped = fresh;
         absent.*flag = std::nullopt;
         flipped.*flag = !*(fresh.*flag);
         EXPECT_EQ((absent.*read)(), *(fresh.*flag));

@@ -80,10 +80,6 @@ void AppDelegate::terminateRequested() {
     platform_.exitProcess(launchedByAgent() && !poweringOff_ ? 1 : 0);
 }
 
-void AppDelegate::reloadConfigIfChanged() {
-    reloadIfChanged(FileStamp::of(configPath_));
-}
-
 // Only the file's stamp is compared, never its content.
 bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
     if (stamp == configStamp_) return false;
@@ -124,11 +120,6 @@ void AppDelegate::applyConfig(const Config& cfg) {
         PrayerCalendar::syncAfterSave(before, activeConfig(), now))
         calendarSyncedDay_ = today_.dayKey();
     tick();
-}
-
-const DayTimes& AppDelegate::todaysTimes() {
-    reloadConfigIfChanged();
-    return scheduleFor(currentTime());
 }
 
 const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {

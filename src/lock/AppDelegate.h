@@ -1,8 +1,9 @@
 #pragma once
 // The controller: the one owner of the running program's state. Each second's decisions are
-// made by small units it holds: TodaySchedule (the day's times), decidePrayers (reminders and
-// the lock due now), LockSession (the running lock), Reminders (banners), and the title and
-// menu of menubar/, which see only a StatusView. The desktop forwards events here.
+// made by small units it holds: TodaySchedule (the day's times), DayLedger (what today has
+// recorded), decidePrayers (reminders and the lock due now), LockSession (the running lock),
+// Reminders (banners), and the title and menu of menubar/, which see only a StatusView. The
+// units decide and hand back; the controller applies. The desktop forwards events here.
 #include "app/CommandLine.h"
 #include "base/FileStamp.h"
 #include "engine/Clock.h"
@@ -67,13 +68,10 @@ public:
     void poweringOff() override;
     void terminateRequested() override;
 
-    // Today's lock times, after a settings reload when the file changed.
-    const DayTimes& todaysTimes();
     // The settings with a detected travel location in place of home.
     Config activeConfig() const;
 
     // Settings: a changed file is reloaded at the next tick; the settings window saves here.
-    void reloadConfigIfChanged();
     void applyConfig(const Config& cfg);
     const Config& config() const { return config_; }
 

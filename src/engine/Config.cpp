@@ -38,6 +38,7 @@ struct Field {
     const char* key;
     Member member;
     const Bounds* bounds = nullptr;
+    bool whenAbsent = false; // what an absent switch reads as
 };
 const Field kFields[] = {
     {"locationName", &Config::locationName},
@@ -52,21 +53,21 @@ const Field kFields[] = {
     {"lockLeadMinutes", &Config::lockLeadMinutes, &kLead},
     {"nudgeOffsetsMinutes", &Config::nudgeOffsetsMinutes},
     {"prayerOverrides", &Config::prayerOverrides},
-    {"jumuahEnabled", &Config::jumuahEnabled},
+    {"jumuahEnabled", &Config::jumuahEnabled, nullptr, true},
     {"jumuahTime", &Config::jumuahTime},
     {"jumuahLockMinutes", &Config::jumuahLockMinutes, &kJumuahLock},
-    {"ramadanMode", &Config::ramadanMode},
-    {"weeklyReport", &Config::weeklyReport},
-    {"travelMode", &Config::travelMode},
-    {"adhanEnabled", &Config::adhanEnabled},
+    {"ramadanMode", &Config::ramadanMode, nullptr, true},
+    {"weeklyReport", &Config::weeklyReport, nullptr, true},
+    {"travelMode", &Config::travelMode, nullptr, false},
+    {"adhanEnabled", &Config::adhanEnabled, nullptr, true},
     {"maghribAngle", &Config::maghribAngle},
     {"callGraceMinutes", &Config::callGraceMinutes, &kCallGrace},
     {"excusedMaxDays", &Config::excusedMaxDays, &kExcusedDays},
-    {"calendarSync", &Config::calendarSync},
+    {"calendarSync", &Config::calendarSync, nullptr, false},
     {"calendarID", &Config::calendarID},
-    {"focusShortcuts", &Config::focusShortcuts},
-    {"strictMode", &Config::strictMode},
-    {"combineWhenTravelling", &Config::combineWhenTravelling},
+    {"focusShortcuts", &Config::focusShortcuts, nullptr, false},
+    {"strictMode", &Config::strictMode, nullptr, false},
+    {"combineWhenTravelling", &Config::combineWhenTravelling, nullptr, false},
 };
 
 template <class... F> struct Overloaded : F... { using F::operator()...; };
@@ -234,6 +235,14 @@ double Config::callGrace() const {
 double Config::excusedDays() const {
     return kExcusedDays.apply(excusedMaxDays.value_or(kExcusedDays.fallback));
 }
+bool Config::flag(std::optional<bool> Config::*member) const {
+    for (const Field& f : kFields) {
+        const auto* m = std::get_if<std::optional<bool> Config::*>(&f.member);
+        if (m && *m == member) return (this->*member).value_or(f.whenAbsent);
+    }
+    return false;
+}
+
 QList<double> Config::nudgeOffsets() const {
     QList<double> kept;
     for (double v : nudgeOffsetsMinutes)

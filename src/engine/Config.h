@@ -51,9 +51,19 @@ struct Config {
     double excusedDays() const;
     // The reminder minutes worth keeping: finite, above 0 and at most 120, in file order.
     QList<double> nudgeOffsets() const;
-    bool isOn(const std::optional<bool>& flag, bool whenAbsent) const {
-        return flag.value_or(whenAbsent);
-    }
+    // The switches; an absent one reads as its entry in the settings table says.
+    bool jumuahOn() const { return flag(&Config::jumuahEnabled); }
+    bool ramadanOn() const { return flag(&Config::ramadanMode); }
+    bool weeklyReportOn() const { return flag(&Config::weeklyReport); }
+    bool travelOn() const { return flag(&Config::travelMode); }
+    bool adhanOn() const { return flag(&Config::adhanEnabled); }
+    bool calendarSyncOn() const { return flag(&Config::calendarSync); }
+    bool focusOn() const { return flag(&Config::focusShortcuts); }
+    bool strictOn() const { return flag(&Config::strictMode); }
+    bool combineOn() const { return flag(&Config::combineWhenTravelling); }
+
+private:
+    bool flag(std::optional<bool> Config::*member) const;
 };
 
 // Decodes a JSON object field by field; a value of the wrong type fails the whole decode and

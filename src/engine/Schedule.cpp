@@ -114,7 +114,7 @@ EffectiveTimes effectiveTimes(const QDateTime& date, const Config& cfg,
         if (const auto t = parseFixedTime(it.value(), date)) out.final.insert(it.key(), *t);
     }
 
-    if (!isFriday(date) || !cfg.jumuahEnabled.value_or(true)) return out;
+    if (!isFriday(date) || !cfg.jumuahOn()) return out;
     std::optional<QString> text;
     if (day.contains(jumuahKey))
         text = day.value(jumuahKey);

@@ -93,7 +93,7 @@ void sync(const Config& cfg, const QDateTime& now) {
     // Wider than the 7 days written, so events of earlier syncs that reach further go too.
     const QDateTime end = start.addSecs(9 * kDay);
     const QList<Calendar> calendars = vdir::listCalendars(rootPath());
-    const bool writing = cfg.isOn(cfg.calendarSync, false) && cfg.calendarID;
+    const bool writing = cfg.calendarSyncOn() && cfg.calendarID;
     const auto chosen = std::find_if(calendars.begin(), calendars.end(), [&](const Calendar& c) {
         return writing && c.identifier == *cfg.calendarID;
     });
@@ -110,15 +110,14 @@ void sync(const Config& cfg, const QDateTime& now) {
 
 bool syncIfNeeded(const Config& cfg, const QDateTime& now, const QString& today,
                   QString& calendarSyncedDay) {
-    if (!cfg.isOn(cfg.calendarSync, false) || calendarSyncedDay == today) return false;
+    if (!cfg.calendarSyncOn() || calendarSyncedDay == today) return false;
     calendarSyncedDay = today;
     sync(cfg, now);
     return true;
 }
 
 bool syncAfterSave(const Config& before, const Config& after, const QDateTime& now) {
-    if (!before.isOn(before.calendarSync, false) && !after.isOn(after.calendarSync, false))
-        return false;
+    if (!before.calendarSyncOn() && !after.calendarSyncOn()) return false;
     sync(after, now);
     return true;
 }

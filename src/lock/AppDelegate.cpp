@@ -13,7 +13,6 @@
 #include "records/History.h"
 #include "records/LockState.h"
 #include "records/TravelLocator.h"
-#include "timetable/Timetable.h"
 
 #include <QFile>
 
@@ -23,14 +22,7 @@ AppDelegate::AppDelegate(Platform& platform, ControllerOptions options, QObject*
     : QObject(parent), clock(systemNow), callCheck(Presence::inCall), platform_(platform),
       options_(std::move(options)), config_(loadConfig()),
       configPath_(QFile::encodeName(configURL())), travel_(new TravelLocator(this)),
-      session_(platform, this), reminders_(platform), completedLocks_(loadCompletedLocks()) {
-    travel_->onScheduleInvalidated = [self = QPointer<AppDelegate>(this)] {
-        if (self) self->invalidateSchedule();
-    };
-    // An import or a cleared timetable changes today's lock times and the calendar's events.
-    connect(&timetableChangedNote(), &TimetableChangedNote::posted, this,
-            [this] { invalidateSchedule(); });
-}
+      session_(platform, this), reminders_(platform) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -89,16 +81,11 @@ void AppDelegate::terminateRequested() {
     platform_.exitProcess(options_.underService && !poweringOff_ ? 1 : 0);
 }
 
-void AppDelegate::reloadConfigIfChanged() {
-    reloadIfChanged(FileStamp::of(configPath_));
-}
-
 // Only the file's stamp is compared, never its content.
 bool AppDelegate::reloadIfChanged(const FileStamp& stamp) {
     if (stamp == configStamp_) return false;
     configStamp_ = stamp;
     config_ = loadConfig();
-    today_.invalidate();
     logLine(lcSettings, QStringLiteral("Tarvanel: config reloaded"));
     if (stamp.exists && !lastConfigError() && platform_.settingsWindowOpen())
         platform_.settingsFileChanged(config_);
@@ -124,32 +111,22 @@ void AppDelegate::applyConfig(const Config& cfg) {
     saveConfig(cfg);
     const Config before = config_;
     config_ = cfg;
-    // Turning blocking off empties the calendars of our events, so "was on" counts too.
-    if (!options_.testLockSeconds && !options_.testNudge)
-        PrayerCalendar::syncAfterSave(before, cfg, currentTime());
     configStamp_ = FileStamp::of(configPath_); // our own write is not an outside change
-    today_.invalidate();
     travel_->clear();
+    // The calendar gets the settings the schedule now runs on, as the tick would give it.
+    // Turning blocking off empties the calendars of our events, so "was on" counts too.
+    const QDateTime now = currentTime();
+    scheduleFor(now);
+    if (!options_.testLockSeconds && !options_.testNudge &&
+        PrayerCalendar::syncAfterSave(before, activeConfig(), now))
+        calendarSyncedDay_ = today_.dayKey();
     tick();
-}
-
-const DayTimes& AppDelegate::todaysTimes() {
-    reloadConfigIfChanged();
-    return scheduleFor(currentTime());
 }
 
 const DayTimes& AppDelegate::scheduleFor(const QDateTime& now) {
     if (today_.update(now, activeConfig())) {
-        // Only keys of today stay: a clock that ran a day ahead and was put back must not
-        // keep that day's real locks from happening.
-        const QString& today = today_.dayKey();
-        auto keepToday = [&today](QSet<QString>& keys) {
-            for (auto it = keys.begin(); it != keys.end();)
-                it = it->startsWith(today) ? std::next(it) : keys.erase(it);
-        };
-        keepToday(firedNudges_);
-        keepToday(completedLocks_);
-        saveCompletedLocks(completedLocks_);
+        ledger_.keepOnly(today_.dayKey());
+        calendarSyncedDay_.clear(); // the events follow the new times
     }
     return today_.times();
 }
@@ -169,12 +146,11 @@ bool AppDelegate::travelLocationKnown() const {
 }
 
 bool AppDelegate::combiningPrayers(const QDateTime& now) const {
-    return config_.isOn(config_.combineWhenTravelling, false) &&
-           modes_.isTravelling(now, travelLocationKnown());
+    return config_.combineOn() && modes_.isTravelling(now, travelLocationKnown());
 }
 
 void AppDelegate::recordKept(const QString& key, const std::optional<QString>& partner) {
-    logKept(key, partner, completedLocks_);
+    ledger_.logKept(key, partner);
 }
 
 void AppDelegate::setStatusTitle(const QString& title, TitleColor color) {
@@ -189,8 +165,7 @@ void AppDelegate::updateStatusTitle(const QDateTime& now) {
     const std::optional<Title> title = tarvanel::statusTitle(
         TitleView{now, today_.times(), config_,
                   session_.isLocked() ? std::optional<QString>(session_.prayer()) : std::nullopt,
-                  combiningPrayers(now), today_.jumuah(),
-                  today_.ramadan() && config_.isOn(config_.ramadanMode, true),
+                  combiningPrayers(now), today_.jumuah(), today_.ramadan() && config_.ramadanOn(),
                   [this, &now] { return today_.tomorrowsFajr(now, activeConfig()); }});
     if (title) setStatusTitle(title->text, title->color);
 }

@@ -1,8 +1,9 @@
 #pragma once
 // The controller: the one owner of the running program's state. Each second's decisions are
-// made by small units it holds: TodaySchedule (the day's times), decidePrayers (reminders and
-// the lock due now), LockSession (the running lock), Reminders (banners), and the title and
-// menu of menubar/, which see only a StatusView. The desktop forwards events here.
+// made by small units it holds: TodaySchedule (the day's times), DayLedger (what today has
+// recorded), decidePrayers (reminders and the lock due now), LockSession (the running lock),
+// Reminders (banners), and the title and menu of menubar/, which see only a StatusView. The
+// units decide and hand back; the controller applies. The desktop forwards events here.
 #include "base/FileStamp.h"
 #include "engine/Clock.h"
 #include "engine/Config.h"
@@ -16,6 +17,7 @@
 #include "menubar/StatusView.h"
 #include "platform/Platform.h"
 #include "records/ConfigFile.h"
+#include "records/DayLedger.h"
 #include "records/Modes.h"
 
 #include <QDateTime>
@@ -28,6 +30,16 @@
 namespace tarvanel {
 
 class TravelLocator;
+
+// Where a prayer's lock is in its life. A preview or test lock runs beside it and records
+// nothing.
+enum class LockStage {
+    Idle,             // nothing pending: the prayers are looked at every second
+    WaitingForCall,   // a lock is due but a call runs; it starts when the call ends
+    Locked,           // a prayer's lock is on the screens
+    AskingDidYouPray, // the lock ended under strict mode and the question is open
+};
+QString stageName(LockStage stage);
 
 class AppDelegate : public QObject, public PlatformEvents {
     Q_OBJECT
@@ -45,8 +57,8 @@ public:
     LockScreenState* lockState() { return session_.state(); }
     // Built each time the status menu opens.
     MenuModel buildMenu();
-    // What the title and menu show, as of now.
-    StatusView statusView();
+    // What the title and menu show, as the last tick left the state.
+    StatusView statusView() const;
 
     // PlatformEvents
     void launchFinished() override;
@@ -57,27 +69,19 @@ public:
     void poweringOff() override;
     void terminateRequested() override;
 
-    // Today's lock times, after a settings reload when the file changed.
-    const DayTimes& todaysTimes();
     // The settings with a detected travel location in place of home.
     Config activeConfig() const;
 
     // Settings: a changed file is reloaded at the next tick; the settings window saves here.
-    void reloadConfigIfChanged();
     void applyConfig(const Config& cfg);
     const Config& config() const { return config_; }
-    // Forces the schedule to be recomputed at the next tick (timetable import, new location).
-    void invalidateSchedule() {
-        today_.invalidate();
-        calendarSyncedDay_.clear();
-    }
 
     // The lock session. `startLock` with no prayer key (preview, test) records nothing.
     void startLock(const QString& prayer, const QString& displayName, const QDateTime& until);
     void endLock(bool early);
 
     // Menu commands, also reached from the settings window. Those that change a mode ask
-    // through the platform, write the store, then tick so that the title follows at once.
+    // through the platform and write the store; the tick they post afterwards applies it.
     void openSettings();
     // The import window, with `file` already read when given.
     void openTimetableImport(const QString& file = {});
@@ -104,11 +108,12 @@ public:
     bool isLocked() const { return session_.isLocked(); }
     std::optional<QDateTime> lockEnd() const { return session_.end(); }
     const QString& lockPrayer() const { return session_.prayer(); }
-    const QSet<QString>& completedLocks() const { return completedLocks_; }
-    const QSet<QString>& firedNudges() const { return firedNudges_; }
+    const QSet<QString>& completedLocks() const { return ledger_.completedLocks(); }
+    const QSet<QString>& firedNudges() const { return ledger_.firedNudges(); }
     const QString& cachedDayKey() const { return today_.dayKey(); }
     const DayTimes& cachedWaqt() const { return today_.waqt(); }
-    bool hasDeferredLock() const { return deferred_.has_value(); }
+    LockStage lockStage() const { return stage_; }
+    bool hasDeferredLock() const { return stage_ == LockStage::WaitingForCall; }
 
 private:
     struct DeferredLock {
@@ -131,6 +136,17 @@ private:
     const DayTimes& scheduleFor(const QDateTime& now);
     bool combiningPrayers(const QDateTime& now) const;
     bool travelLocationKnown() const;
+    // The one place the stage changes: the lock waiting for a call and the open question
+    // belong to their stages and are replaced with it. Each change is logged.
+    void setStage(LockStage next, std::optional<DeferredLock> waiting = std::nullopt,
+                  std::optional<StrictPending> asking = std::nullopt);
+    // The tick's steps; each returns true when it holds the rest of the second.
+    bool holdUntilSetUp();
+    void keepInputsCurrent(const QDateTime& now);
+    bool holdForNewVersion();
+    bool holdForModes(const QDateTime& now);
+    bool holdForCall(const QDateTime& now);
+    void lookAtPrayers(const QDateTime& now);
     void startDueLock(const DeferredLock& due, const std::optional<QString>& partner,
                       const QDateTime& until);
     void askStrict();
@@ -139,6 +155,8 @@ private:
     void updateStatusTitle(const QDateTime& now);
     // `command` holding the controller weakly, as every callback handed out does.
     std::function<void()> weak(void (AppDelegate::*command)());
+    // One tick after the running command returns; several requests share it.
+    void refreshSoon();
 
     Platform& platform_;
     const ControllerOptions options_;
@@ -150,18 +168,19 @@ private:
     TodaySchedule today_;
     LockSession session_;
     Reminders reminders_;
-    QSet<QString> firedNudges_;
-    QSet<QString> completedLocks_;
-    std::optional<DeferredLock> deferred_;
-    std::optional<StrictPending> strict_;
+    DayLedger ledger_; // completed locks and fired reminders: written only through it
+    LockStage stage_ = LockStage::Idle;
+    std::optional<DeferredLock> deferred_; // only while WaitingForCall
+    std::optional<StrictPending> strict_;  // only while AskingDidYouPray
     bool focusOn_ = false;
-    QString calendarSyncedDay_;  // the day the calendar was last filled; cleared by an import
+    QString calendarSyncedDay_;  // the day the calendar was last filled; cleared by a new schedule
     QString configErrorShown_;   // the never-valid settings error the window was opened for
     QString configErrorNoticed_; // the last bad hand edit the banner named
 
     bool exitAfterTest_ = false;
     bool poweringOff_ = false;
     bool launched_ = false;
+    bool refreshPosted_ = false;
 
     // The title last handed to the platform: it is only handed over again when it differs.
     QString lastTitle_;

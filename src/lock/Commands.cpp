@@ -1,5 +1,6 @@
 // The menu's commands and the view the title and menu are built from. A command that changes
-// a mode asks through the platform, writes the store, and ticks so that the title follows.
+// a mode asks through the platform and writes the store; one tick posted behind it brings the
+// title and the locks up to date.
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "engine/LocalTime.h"
@@ -22,19 +23,26 @@
 
 namespace tarvanel {
 
+void AppDelegate::refreshSoon() {
+    if (refreshPosted_) return;
+    refreshPosted_ = true;
+    platform_.post([self = QPointer<AppDelegate>(this)] {
+        if (!self) return;
+        self->refreshPosted_ = false;
+        self->tick();
+    });
+}
+
 std::function<void()> AppDelegate::weak(void (AppDelegate::*command)()) {
     return [self = QPointer<AppDelegate>(this), command] {
         if (self) (self.data()->*command)();
     };
 }
 
-StatusView AppDelegate::statusView() {
+// Reads only: the schedule, the settings and the modes are as the last tick left them.
+StatusView AppDelegate::statusView() const {
     const QDateTime now = currentTime();
     const bool setUp = QFile::exists(configURL());
-    if (setUp) {
-        modes_.refresh();
-        todaysTimes();
-    }
     return StatusView{now,
                       setUp,
                       config_,
@@ -75,12 +83,12 @@ void AppDelegate::markPrayed(int tag) {
     if (tag < 0 || i >= prayerNames().size()) return;
     const QString prayer = prayerNames()[i];
     const bool elsewhere = tag < 100;
-    markKept({prayer}, dayKey(currentTime()),
-             elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"), completedLocks_);
-    if (deferred_ && deferred_->prayer == prayer) deferred_.reset();
+    ledger_.markKept({prayer}, dayKey(currentTime()),
+                     elsewhere ? QStringLiteral("elsewhere") : QStringLiteral("qada"));
+    if (deferred_ && deferred_->prayer == prayer) setStage(LockStage::Idle);
     logLine(lcLock, QStringLiteral("Tarvanel: marked ") + prayer + QStringLiteral(" as ") +
                         (elsewhere ? QStringLiteral("prayed elsewhere") : QStringLiteral("qada")));
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::previewLock() {
@@ -214,20 +222,20 @@ void AppDelegate::startExcused() {
     if (platform_.showAlert(request).response != 1000) return;
     Excused::begin(currentTime());
     logLine(lcLock, QStringLiteral("Tarvanel: excused"));
-    deferred_.reset();
-    tick();
+    if (stage_ == LockStage::WaitingForCall) setStage(LockStage::Idle);
+    refreshSoon();
 }
 
 void AppDelegate::endExcused() {
     tarvanel::endExcused(currentTime());
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::startTravelling() {
     AlertRequest request;
     request.message = QStringLiteral("Travelling until\u2026");
     request.info =
-        config_.isOn(config_.combineWhenTravelling, false)
+        config_.combineOn()
             ? QStringLiteral("Dhuhr and Asr become one lock, and so do Maghrib and Isha, through "
                              "the end of this day.")
             : QStringLiteral("Turn on \u201CCombine prayers while travelling\u201D in Settings if "
@@ -243,12 +251,12 @@ void AppDelegate::startTravelling() {
     if (!until.isValid()) return;
     modes_.setTravellingUntil(until);
     logLine(lcLock, QStringLiteral("Tarvanel: travelling until ") + defaultDescription(until));
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::stopTravelling() {
     modes_.setTravellingUntil(std::nullopt);
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::pauseLocks(int days) {
@@ -264,7 +272,7 @@ void AppDelegate::pauseLocks(int days) {
     if (platform_.showAlert(request).response != 1000) return;
     modes_.setPausedUntil(until);
     logLine(lcLock, QStringLiteral("Tarvanel: paused until ") + defaultDescription(until));
-    tick();
+    refreshSoon();
 }
 
 void AppDelegate::resumeLocks() {
@@ -279,7 +287,7 @@ void AppDelegate::resumeLocks() {
     }
     modes_.setPausedUntil(std::nullopt);
     logLine(lcLock, QStringLiteral("Tarvanel: resumed"));
-    tick();
+    refreshSoon();
 }
 
 } // namespace tarvanel

@@ -29,8 +29,7 @@ bool LockSession::start(const QString& displayName, const QDateTime& until,
     platform_.closeBanner();
     platform_.activateApp();
     rebuildWindows();
-    const std::optional<QString> adhan =
-        cfg.isOn(cfg.adhanEnabled, true) ? adhanFileURL() : std::nullopt;
+    const std::optional<QString> adhan = cfg.adhanOn() ? adhanFileURL() : std::nullopt;
     if (!adhan || !platform_.playSoundFile(*adhan))
         platform_.playNamedSound(QStringLiteral("Blow"));
     return true;

@@ -19,7 +19,7 @@ QString AppDelegate::nextLockText() {
     const bool jumuah = today_.jumuah();
     const QString pattern = QStringLiteral("h:mm AP");
     for (const PrayerSlot& slot : today_.prayerSlots()) {
-        if (!slot.valid || completedLocks_.contains(slot.lockKey)) continue;
+        if (!slot.valid || ledger_.completedLocks().contains(slot.lockKey)) continue;
         if (combining && isCombinedAway(slot.name, jumuah)) continue;
         // The screens go dark at the window's start, the lead before the lock time.
         const QDateTime start =
@@ -53,9 +53,8 @@ std::optional<QString> AppDelegate::lockDueNow() {
     const QDateTime now = currentTime();
     if (Excused::current(config_.excusedDays(), now)) return std::nullopt;
     scheduleFor(now);
-    QSet<QString> fired = firedNudges_; // asking must not use up a reminder
-    const PrayerDecision decision =
-        decidePrayers(today_, config_, now, combiningPrayers(now), completedLocks_, fired);
+    const PrayerDecision decision = decidePrayers(today_, config_, now, combiningPrayers(now),
+                                                  ledger_.completedLocks(), ledger_.firedNudges());
     if (!decision.lock) return std::nullopt;
     return decision.lock->displayName;
 }

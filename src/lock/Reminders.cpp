@@ -30,17 +30,22 @@ void Reminders::showBanner(const QString& message, const std::optional<Quote>& q
     platform_.playNamedSound(normal ? QStringLiteral("Glass") : QStringLiteral("Sosumi"));
 }
 
-void Reminders::checkDay(const Config& cfg, const QDateTime& now, const QString& dayKey,
-                         const DayTimes& waqt, const DayTimes& times, bool ramadan,
-                         const QSet<QString>& completedLocks, QSet<QString>& firedNudges) {
-    checkFajrEnd(now, dayKey, waqt, completedLocks, firedNudges);
-    if (ramadan) checkTarawih(cfg, now, dayKey, times, firedNudges);
-    if (const std::optional<QString> text = weeklyReportDue(cfg, now, dayKey, firedNudges))
-        showBanner(*text, std::nullopt, BannerStyle::normal);
+QStringList Reminders::checkDay(const Config& cfg, const QDateTime& now, const QString& dayKey,
+                                const DayTimes& waqt, const DayTimes& times, bool ramadan,
+                                const QSet<QString>& completedLocks, const QSet<QString>& fired) {
+    QStringList due;
+    checkFajrEnd(now, dayKey, waqt, completedLocks, fired, due);
+    if (ramadan) checkTarawih(cfg, now, dayKey, times, fired, due);
+    if (const std::optional<WeeklyReport> report = weeklyReportDue(cfg, now, dayKey, fired)) {
+        due << report->key;
+        if (report->text) showBanner(*report->text, std::nullopt, BannerStyle::normal);
+    }
+    return due;
 }
 
 void Reminders::checkFajrEnd(const QDateTime& now, const QString& dayKey, const DayTimes& waqt,
-                             const QSet<QString>& completedLocks, QSet<QString>& firedNudges) {
+                             const QSet<QString>& completedLocks, const QSet<QString>& fired,
+                             QStringList& due) {
     const std::optional<QDateTime> sunrise = waqt.value(u"Sunrise");
     const std::optional<QDateTime> fajr = waqt.value(u"Fajr");
     if (!sunrise || !fajr || !sunrise->isValid() || !fajr->isValid()) return;
@@ -50,8 +55,8 @@ void Reminders::checkFajrEnd(const QDateTime& now, const QString& dayKey, const 
         const QDateTime at = sunrise->addSecs(-60 * m);
         if (now < at) continue;
         const QString key = dayKey + QStringLiteral("-FajrEnd-") + QString::number(m);
-        if (firedNudges.contains(key)) continue;
-        firedNudges.insert(key);
+        if (fired.contains(key)) continue;
+        due << key;
         if (at.msecsTo(now) >= 90000) continue;
         const qint64 n = now.msecsTo(*sunrise) / 60000 + 1;
         showBanner(QStringLiteral("⚠️  Fajr ends at sunrise ") +
@@ -63,16 +68,16 @@ void Reminders::checkFajrEnd(const QDateTime& now, const QString& dayKey, const 
 }
 
 void Reminders::checkTarawih(const Config& cfg, const QDateTime& now, const QString& dayKey,
-                             const DayTimes& times, QSet<QString>& firedNudges) {
-    if (!cfg.isOn(cfg.ramadanMode, true)) return;
+                             const DayTimes& times, const QSet<QString>& fired, QStringList& due) {
+    if (!cfg.ramadanOn()) return;
     const std::optional<QDateTime> isha = times.value(u"Isha");
     if (!isha || !isha->isValid()) return;
     // Two minutes after Isha's lock window closes.
     const QDateTime at = lockPeriod(*isha, QStringLiteral("Isha"), false, cfg).end.addSecs(120);
     if (now < at) return;
     const QString key = dayKey + QStringLiteral("-Tarawih");
-    if (firedNudges.contains(key)) return;
-    firedNudges.insert(key);
+    if (fired.contains(key)) return;
+    due << key;
     if (at.msecsTo(now) < 90000)
         showBanner(QStringLiteral("🌙  Tarawih tonight — don't miss it."),
                    pickQuote(QStringLiteral("Tarawih")), BannerStyle::normal);

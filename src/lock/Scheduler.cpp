@@ -9,7 +9,7 @@ namespace tarvanel {
 
 PrayerDecision decidePrayers(const TodaySchedule& today, const Config& cfg, const QDateTime& now,
                              bool combining, const QSet<QString>& completedLocks,
-                             QSet<QString>& firedNudges) {
+                             const QSet<QString>& firedNudges) {
     PrayerDecision decision;
     const bool jumuah = today.jumuah();
     const qint64 nowMs = now.toMSecsSinceEpoch();
@@ -27,7 +27,7 @@ PrayerDecision decidePrayers(const TodaySchedule& today, const Config& cfg, cons
             for (qsizetype i = 0; i < offsets.size() && i < slot.nudgeKeys.size(); ++i) {
                 const qint64 due = window.start - minutesMs(offsets[i]);
                 if (nowMs < due || firedNudges.contains(slot.nudgeKeys[i])) continue;
-                firedNudges.insert(slot.nudgeKeys[i]);
+                decision.fired << slot.nudgeKeys[i];
                 if (nowMs - due < 90000)
                     decision.nudges << Nudge{lockName(name, combining, jumuah),
                                              int((window.start - nowMs) / 60000) + 1, offsets[i]};

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 namespace tarvanel {
@@ -28,16 +29,18 @@ struct DueLock {
 };
 
 struct PrayerDecision {
+    QStringList fired; // reminder keys whose moment has come, shown or not
     QList<Nudge> nudges;
     std::optional<DueLock> lock;
 };
 
 // Walks the prayers of `today` in order, skipping those in `completedLocks` and, while
 // `combining`, the ones prayed with a partner. A reminder is due its offset before the lock
-// window opens; once its moment has come it enters `firedNudges`, and it is shown only when
-// less than 90 s late and the window has not opened yet.
+// window opens; once its moment has come its key is handed back to be recorded (unless
+// `firedNudges` holds it already), and it is shown only when less than 90 s late and the
+// window has not opened yet.
 PrayerDecision decidePrayers(const TodaySchedule& today, const Config& cfg, const QDateTime& now,
                              bool combining, const QSet<QString>& completedLocks,
-                             QSet<QString>& firedNudges);
+                             const QSet<QString>& firedNudges);
 
 } // namespace tarvanel

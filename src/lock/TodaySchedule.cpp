@@ -5,6 +5,9 @@
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
+#include "timetable/Timetable.h"
+
+#include <QFile>
 
 #include <cmath>
 
@@ -22,11 +25,17 @@ std::pair<QDateTime, QDateTime> bounds(const QDate& date, const QDateTime& now) 
 } // namespace
 
 bool TodaySchedule::update(const QDateTime& now, const Config& cfg) {
-    if (!key_.isEmpty() && now >= from_ && now < until_) return false;
+    if (timetablePath_.isEmpty()) timetablePath_ = QFile::encodeName(Timetable::url());
+    const FileStamp timetable = FileStamp::of(timetablePath_);
+    const bool sameInputs = timetable == timetable_ && cfg == cfg_;
+    if (!key_.isEmpty() && sameInputs && now >= from_ && now < until_) return false;
     const QDate date = localDate(now);
     const QString key = tarvanel::dayKey(date);
     std::tie(from_, until_) = bounds(date, now);
-    if (key == key_) return false;
+    if (key == key_ && sameInputs) return false;
+
+    cfg_ = cfg;
+    timetable_ = timetable;
 
     const EffectiveTimes eff = Timetable::scheduledTimes(now, cfg);
     waqt_ = eff.waqt;
@@ -48,11 +57,6 @@ bool TodaySchedule::update(const QDateTime& now, const Config& cfg) {
         slot.at = slot.valid ? t->toMSecsSinceEpoch() : 0;
     }
     return true;
-}
-
-void TodaySchedule::invalidate() {
-    key_.clear();
-    tomorrow_.reset();
 }
 
 std::optional<QDateTime> TodaySchedule::tomorrowsFajr(const QDateTime& now, const Config& cfg) {

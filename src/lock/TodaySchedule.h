@@ -1,7 +1,8 @@
 #pragma once
 // Today's lock schedule and what changes only with the local day. Computing a day costs tens
 // of microseconds (bench/ControllerBench.cpp), too much for every tick, so it is kept until
-// the day ends or invalidate() is called.
+// the day ends or one of its inputs changes.
+#include "base/FileStamp.h"
 #include "engine/Config.h"
 #include "engine/DayTimes.h"
 
@@ -24,12 +25,12 @@ struct PrayerSlot {
 
 class TodaySchedule {
 public:
-    // Brings the schedule to the local day of `now` under `cfg` (the active settings). True
-    // when it was computed afresh: a new day, or the first update after invalidate().
+    // Brings the schedule to the local day of `now` under `cfg` (the active settings) and the
+    // imported timetable as the file is now. True when it was computed afresh. This is the one
+    // place a schedule is dropped, tomorrow's Fajr included: a new day, other settings (saved,
+    // edited by hand, a travel location found or lost) or another timetable.json (imported,
+    // cleared, edited by hand) all show here. One stat per call.
     bool update(const QDateTime& now, const Config& cfg);
-    // The one invalidation point of everything below, tomorrow's Fajr included: settings
-    // reloaded or applied, a travel location found or lost, a timetable imported.
-    void invalidate();
 
     const QString& dayKey() const { return key_; }
     const DayTimes& times() const { return times_; } // lock times
@@ -42,7 +43,10 @@ public:
     std::optional<QDateTime> tomorrowsFajr(const QDateTime& now, const Config& cfg);
 
 private:
-    QString key_; // empty: nothing computed yet, or invalidated
+    QString key_; // empty: nothing computed yet
+    Config cfg_;
+    FileStamp timetable_;
+    QByteArray timetablePath_;
     QDateTime from_, until_;
     DayTimes times_, waqt_;
     bool jumuah_ = false, ramadan_ = false;

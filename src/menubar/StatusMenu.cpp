@@ -110,7 +110,7 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
     // Ramadan times.
     const auto fajrWaqt = waqt.value(u"Fajr");
     const auto maghribWaqt = waqt.value(u"Maghrib");
-    if (ramadan && config.isOn(config.ramadanMode, true) && fajrWaqt && maghribWaqt) {
+    if (ramadan && config.ramadanOn() && fajrWaqt && maghribWaqt) {
         menu << MenuItem::separator();
         menu << MenuItem::info(QStringLiteral("🌙 Suhoor ends ") + timeText(*fajrWaqt) +
                                QStringLiteral("  •  Iftar ") + timeText(*maghribWaqt));

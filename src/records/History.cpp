@@ -122,28 +122,17 @@ void save(const Map& marks) {
 
 } // namespace Marks
 
-void markKept(const QStringList& prayers, const QString& day, const std::optional<QString>& status,
-              QSet<QString>& completedLocks) {
+void recordInHistory(const QStringList& prayers, const QString& day,
+                     const std::optional<QString>& status) {
     HistoryMap history = loadHistory();
     Marks::Map marks = Marks::load();
     for (const QString& p : prayers) {
-        completedLocks.insert(day + u'-' + p);
         QStringList& list = history[day];
         if (!list.contains(p)) list << p;
         if (status) marks[day][p] = *status;
     }
-    saveCompletedLocks(completedLocks);
     saveHistory(history);
     if (status) Marks::save(marks);
-}
-
-void logKept(const QString& key, const std::optional<QString>& partner,
-             QSet<QString>& completedLocks) {
-    const QStringList pieces = key.split(u'-', Qt::SkipEmptyParts);
-    if (pieces.size() != 4) return;
-    QStringList prayers{pieces[3]};
-    if (partner) prayers << *partner;
-    markKept(prayers, pieces.mid(0, 3).join(u'-'), std::nullopt, completedLocks);
 }
 
 int streakDays(const QDateTime& now, double maxDays) {
@@ -267,27 +256,27 @@ QString historyCSV(const Config& cfg, const QDateTime& now) {
     return text;
 }
 
-std::optional<QString> weeklyReportDue(const Config& cfg, const QDateTime& now,
-                                       const QString& dayKeyText, QSet<QString>& firedNudges) {
-    if (!cfg.isOn(cfg.weeklyReport, true)) return std::nullopt;
+std::optional<WeeklyReport> weeklyReportDue(const Config& cfg, const QDateTime& now,
+                                            const QString& dayKeyText, const QSet<QString>& fired) {
+    if (!cfg.weeklyReportOn()) return std::nullopt;
     if (localWeekday(now) != 1) return std::nullopt;
     const auto reportTime = parseFixedTime(QStringLiteral("21:00"), now);
     if (!reportTime) return std::nullopt;
     const QString key = dayKeyText + QStringLiteral("-weekly");
-    if (now < *reportTime || firedNudges.contains(key)) return std::nullopt;
-    firedNudges.insert(key);
-    if (reportTime->msecsTo(now) >= 900 * 1000) return std::nullopt;
+    if (now < *reportTime || fired.contains(key)) return std::nullopt;
+    if (reportTime->msecsTo(now) >= 900 * 1000) return WeeklyReport{key, std::nullopt};
 
     const HistoryMap history = loadHistory();
     qsizetype kept = 0;
     for (int i = 0; i < 7; ++i)
         kept += history.value(dayKey(now.addSecs(-86400LL * i))).size();
     const int streak = streakDays(now, cfg.excusedDays(), history, Excused::load());
-    return QStringLiteral(
-               "\U0001F4FF  This week: %1/35 prayers at the computer \u2022 streak %2 day%3")
-        .arg(kept)
-        .arg(streak)
-        .arg(streak == 1 ? QString() : QStringLiteral("s"));
+    return WeeklyReport{
+        key, QStringLiteral(
+                 "\U0001F4FF  This week: %1/35 prayers at the computer \u2022 streak %2 day%3")
+                 .arg(kept)
+                 .arg(streak)
+                 .arg(streak == 1 ? QString() : QStringLiteral("s"))};
 }
 
 } // namespace tarvanel

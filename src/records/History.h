@@ -29,15 +29,10 @@ Map load();
 void save(const Map& marks);
 } // namespace Marks
 
-// Records `prayers` as kept on `day` (a day key): each lock key enters `completedLocks` (then
-// persisted), each prayer enters the day's list once, and a present `status` is marked.
-void markKept(const QStringList& prayers, const QString& day, const std::optional<QString>& status,
-              QSet<QString>& completedLocks);
-
-// A lock that counted as kept: `key` is "yyyy-MM-dd-Prayer"; `partner` is the combined prayer.
-// Keys that do not split into four pieces are ignored.
-void logKept(const QString& key, const std::optional<QString>& partner,
-             QSet<QString>& completedLocks);
+// Adds each of `prayers` to `day`'s list once (a day key) and, with a `status`, marks them.
+// The day ledger calls it after completing their locks.
+void recordInHistory(const QStringList& prayers, const QString& day,
+                     const std::optional<QString>& status);
 
 // Consecutive days with a kept prayer up to today (or yesterday while today has none yet);
 // days touched by an excused period neither count nor break the run.
@@ -53,10 +48,13 @@ QString gridMark(const QString& prayer, const QString& day, const HistoryMap& hi
 // "date,prayer,status" rows of every kept prayer and every excused prayer up to `now`.
 QString historyCSV(const Config& cfg, const QDateTime& now);
 
-// The weekly report at 21:00 on Sunday: returns the banner text when it is due now (shown once
-// per Sunday and only within 15 minutes of 21:00). Records the day's "-weekly" key in
-// `firedNudges` as soon as 21:00 has passed.
-std::optional<QString> weeklyReportDue(const Config& cfg, const QDateTime& now,
-                                       const QString& dayKey, QSet<QString>& firedNudges);
+// The weekly report at 21:00 on Sunday, once 21:00 has passed and until `fired` holds its
+// key: the day's "-weekly" key to record and, within 15 minutes of 21:00, the banner text.
+struct WeeklyReport {
+    QString key;
+    std::optional<QString> text; // absent: too late to show
+};
+std::optional<WeeklyReport> weeklyReportDue(const Config& cfg, const QDateTime& now,
+                                            const QString& dayKey, const QSet<QString>& fired);
 
 } // namespace tarvanel

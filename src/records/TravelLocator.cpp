@@ -31,7 +31,7 @@ void TravelLocator::check(const Config& cfg, const QDateTime& now) {
     // A reply is judged against the home of the latest tick, not the one of its request.
     homeLat_ = cfg.latitude;
     homeLon_ = cfg.longitude;
-    if (!cfg.isOn(cfg.travelMode, false)) {
+    if (!cfg.travelOn()) {
         if (coords_) {
             coords_.reset();
             if (onScheduleInvalidated) onScheduleInvalidated();

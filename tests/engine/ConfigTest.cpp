@@ -145,3 +145,31 @@ TEST_F(ConfigTest, CoordinatesOutsideTheEarthAndMixedArraysAreNamedInTheError) {
         EXPECT_EQ(loaded.longitude, 180);
     }
 }
+
+// A switch the file leaves out reads as the new settings' value; a present one reads as written.
+TEST_F(ConfigTest, AbsentSwitchesReadAsTheDefaultsAndPresentOnesAsWritten) {
+    using Flag = std::optional<bool> Config::*;
+    using Reader = bool (Config::*)() const;
+    const std::pair<Flag, Reader> switches[] = {
+        {&Config::jumuahEnabled, &Config::jumuahOn},
+        {&Config::ramadanMode, &Config::ramadanOn},
+        {&Config::weeklyReport, &Config::weeklyReportOn},
+        {&Config::travelMode, &Config::travelOn},
+        {&Config::adhanEnabled, &Config::adhanOn},
+        {&Config::calendarSync, &Config::calendarSyncOn},
+        {&Config::focusShortcuts, &Config::focusOn},
+        {&Config::strictMode, &Config::strictOn},
+        {&Config::combineWhenTravelling, &Config::combineOn},
+    };
+    int on = 0;
+    const Config fresh;
+    for (const auto& [flag, read] : switches) {
+        Config absent = fresh, flipped = fresh;
+        absent.*flag = std::nullopt;
+        flipped.*flag = !*(fresh.*flag);
+        EXPECT_EQ((absent.*read)(), *(fresh.*flag));
+        EXPECT_EQ((flipped.*read)(), !*(fresh.*flag));
+        on += (absent.*read)();
+    }
+    EXPECT_EQ(on, 4); // Jumu'ah, Ramadan, the weekly report and the adhan start on
+}

@@ -4,6 +4,11 @@
 #include "records/ConfigFile.h"
 
 #include "base/StateFiles.h"
+#include "integrations/PrayerCalendar.h"
+#include "records/LockState.h"
+
+#include <QDir>
+#include <QRegularExpression>
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -123,6 +128,70 @@ TEST_F(ConfigReloadTest, AnOpenSettingsWindowFollowsAGoodHandEditOrSaysTheFileCh
     sim.step();
     EXPECT_EQ(sim.platform.settingsFileChanges, 2);
     EXPECT_EQ(loadConfig().lockMinutes, 30);
+}
+
+// The start and end of the calendar's Dhuhr event on 14 January ("20260114T125500Z").
+QStringList dhuhrEvent(const QString& folder) {
+    static const QRegularExpression span("DTSTART:(\\w+)\\r?\\nDTEND:(\\w+)");
+    for (const QString& file : QDir(folder).entryList({"*.ics"})) {
+        const QByteArray text = readWholeFile(folder + "/" + file).value_or("");
+        if (!text.contains("SUMMARY:Dhuhr (prayer)") || !text.contains("DTSTART:20260114"))
+            continue;
+        const auto m = span.match(QString::fromUtf8(text));
+        return {m.captured(1), m.captured(2)};
+    }
+    return {};
+}
+
+// A hand-edited lock length beyond the longest lock gives the longest lock, and the calendar's
+// event lasts exactly as long; a hand edit of timetable.json moves the next lock, the title and
+// the event within a second. London is on UTC in January.
+TEST_F(ConfigReloadTest, HandEditedTimesAndLengthsReachTheLockTheTitleAndTheCalendarAlike) {
+    const QString calendar = PrayerCalendar::rootPath() + "/local/prayer";
+    QDir().mkpath(calendar);
+    Config cfg = fixedTimesConfig();
+    cfg.calendarSync = true;
+    cfg.calendarID = "local/prayer";
+    DaySimulator sim(std::nullopt, at("12:00"));
+    writeSupportFile("config.json", editedJson(cfg, "lockMinutes", 500));
+    sim.step();
+    EXPECT_EQ(sim.app->config().lockLength(), 180);
+    EXPECT_EQ(dhuhrEvent(calendar), QStringList({"20260114T125500Z", "20260114T155500Z"}));
+    EXPECT_EQ(sim.app->nextLockText(), "Next lock: Dhuhr at 12:55 PM");
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 59m");
+
+    writeSupportFile("timetable.json", R"({"2026-01-14": {"Dhuhr": "12:30"}})");
+    sim.step();
+    EXPECT_EQ(sim.app->nextLockText(), "Next lock: Dhuhr at 12:25 PM");
+    EXPECT_EQ(sim.platform.title, "🕌 Dhuhr in 29m");
+    EXPECT_EQ(dhuhrEvent(calendar), QStringList({"20260114T122500Z", "20260114T152500Z"}));
+
+    sim.runUntil(at("12:25"));
+    ASSERT_TRUE(sim.app->isLocked());
+    EXPECT_EQ(sim.times("lock: Dhuhr"), QStringList{"12:25:00"});
+    EXPECT_EQ(sim.app->lockEnd(), at("15:25"));
+}
+
+// Opening the menu only reads: a hand edit and a new day wait for the tick, which applies both.
+TEST_F(ConfigReloadTest, OpeningTheMenuReadsOnlyAndTheNextTickAppliesWhatChanged) {
+    const Config good = fixedTimesConfig();
+    DaySimulator sim(good, at("23:00"));
+    sim.app->markPrayed(104); // Isha, as qada
+    sim.step();
+    EXPECT_EQ(loadCompletedLocks(), QSet<QString>{"2026-01-14-Isha"});
+    writeSupportFile("config.json", editedJson(good, "lockMinutes", 30));
+    sim.sleepUntil(at("00:00:30", kDay.addDays(1)));
+    const QByteArray state = readWholeFile(supportPath("state.json")).value_or("");
+    EXPECT_FALSE(sim.menuTexts().isEmpty());
+    EXPECT_EQ(readWholeFile(supportPath("state.json")).value_or(""), state);
+    EXPECT_EQ(sim.app->config(), good);
+    EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-14");
+
+    sim.step();
+    EXPECT_EQ(sim.app->config().lockMinutes, 30);
+    EXPECT_EQ(sim.app->cachedDayKey(), "2026-01-15");
+    EXPECT_TRUE(sim.app->completedLocks().isEmpty());
+    EXPECT_TRUE(loadCompletedLocks().isEmpty());
 }
 
 } // namespace

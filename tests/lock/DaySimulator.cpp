@@ -134,10 +134,23 @@ std::optional<MenuItem> DaySimulator::find(const QString& prefix) const {
     return std::nullopt;
 }
 
-MenuItem DaySimulator::item(const QString& prefix) const {
+MenuItem DaySimulator::item(const QString& prefix) {
     const auto found = find(prefix);
     EXPECT_TRUE(found) << "no menu item " << prefix.toStdString();
-    return found.value_or(MenuItem::info({}));
+    MenuItem item = found.value_or(MenuItem::info({}));
+    // A click returns to the event loop, which then runs the work the command posted.
+    auto clicked = [this](std::function<void()> action) -> std::function<void()> {
+        if (!action) return action;
+        return [this, action] {
+            action();
+            platform.runPosted();
+            record();
+        };
+    };
+    item.action = clicked(item.action);
+    for (MenuItem& sub : item.submenu)
+        sub.action = clicked(sub.action);
+    return item;
 }
 
 } // namespace tarvanel::test

@@ -61,7 +61,8 @@ public:
     QStringList menuTexts() const { return texts(app->buildMenu()); }
     static QStringList texts(const QList<MenuItem>& items);
     // The first top-level item starting with `prefix` (a failure and an empty item if none).
-    MenuItem item(const QString& prefix) const;
+    // Its actions, like a click, return to the event loop: the work they post runs after them.
+    MenuItem item(const QString& prefix);
     bool has(const QString& prefix) const { return find(prefix).has_value(); }
 
 private:

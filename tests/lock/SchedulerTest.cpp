@@ -141,9 +141,14 @@ TEST_F(SchedulerTest, CallDefersOnceAndTheLockRunsItsFullLengthAfterIt) {
     EXPECT_EQ(sim.logsContaining("waiting for a call"),
               QStringList{"Tarvanel: Asr lock waiting for a call to end"});
     EXPECT_TRUE(sim.menuTexts().contains("📞 Asr locks when your call ends"));
+    EXPECT_EQ(sim.app->lockStage(), LockStage::WaitingForCall);
     sim.inCall = false;
     sim.step();                                    // 15:02:01
     EXPECT_EQ(sim.app->lockEnd(), at("15:17:01")); // past the window's end at 15:10
+    EXPECT_EQ(sim.app->lockStage(), LockStage::Locked);
+    EXPECT_EQ(sim.logsContaining("lock stage"),
+              QStringList({"Tarvanel: lock stage: idle → deferred for a call",
+                           "Tarvanel: lock stage: deferred for a call → locked"}));
 
     sim.sleepUntil(at("16:20"));
     sim.inCall = true;
@@ -183,6 +188,13 @@ TEST_F(SchedulerTest, StrictModeAsksUntilYesAndRecordsOnce) {
     EXPECT_EQ(sim.times("alert: Did you pray Dhuhr?"), QStringList({"13:15:02", "13:20:04"}));
     EXPECT_EQ(sim.app->lockEnd(), std::nullopt);
     EXPECT_EQ(loadHistory().value("2026-01-14"), QStringList{"Dhuhr"});
+    const QString locked = "Tarvanel: lock stage: idle → locked",
+                  asking = "Tarvanel: lock stage: locked → asking “Did you pray?”",
+                  again = "Tarvanel: lock stage: asking “Did you pray?” → locked";
+    EXPECT_EQ(sim.logsContaining("lock stage"),
+              QStringList({locked, asking, again, asking, again, asking,
+                           "Tarvanel: lock stage: asking “Did you pray?” → idle"}));
+    EXPECT_EQ(sim.app->lockStage(), LockStage::Idle);
 }
 
 // Travelling combines Dhuhr with Asr and Maghrib with Isha, but never Jumu'ah with Asr.

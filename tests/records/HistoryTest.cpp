@@ -1,6 +1,7 @@
 #include "records/History.h"
 #include "base/StateFiles.h"
 #include "engine/Schedule.h"
+#include "records/DayLedger.h"
 #include "records/Excused.h"
 #include "records/LockState.h"
 #include "base/StateFiles.h"
@@ -20,8 +21,9 @@ protected:
     void SetUp() override {
         ScratchTest::SetUp();
         ensureSupportDir();
+        ledger = std::make_unique<DayLedger>();
     }
-    QSet<QString> locks;
+    std::unique_ptr<DayLedger> ledger;
 };
 
 QDateTime utc(int y, int m, int d, int h = 12, int min = 0, int s = 0) {
@@ -42,27 +44,27 @@ QByteArray fileBytes(const QString& name) {
 } // namespace
 
 TEST_F(HistoryTest, MarkingAndLoggingKeepOneEntryInRecordOrder) {
-    markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
-    markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
+    ledger->markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"));
+    ledger->markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"));
     // History and lock state are compact; marks are pretty-printed with sorted keys.
     EXPECT_EQ(fileBytes("history.json"), QByteArray(R"({"2025-03-01":["Fajr"]})"));
     EXPECT_EQ(fileBytes("state.json"), QByteArray(R"(["2025-03-01-Fajr"])"));
     const QByteArray marks = "{\n    \"2025-03-01\": {\n        \"Fajr\": \"qada\"\n    }\n}\n";
     EXPECT_EQ(fileBytes("marks.json"), marks);
-    markKept({"Isha", "Fajr"}, "2025-03-01", std::nullopt, locks);
+    ledger->markKept({"Isha", "Fajr"}, "2025-03-01", std::nullopt);
     EXPECT_EQ(fileBytes("marks.json"), marks); // unmarked keeping writes no marks
     EXPECT_EQ(fileBytes("history.json"), QByteArray(R"({"2025-03-01":["Fajr","Isha"]})"));
     EXPECT_EQ(loadCompletedLocks(), QSet<QString>({"2025-03-01-Isha", "2025-03-01-Fajr"}));
-    EXPECT_EQ(loadCompletedLocks(), locks);
+    EXPECT_EQ(loadCompletedLocks(), ledger->completedLocks());
 
     // logKept splits the lock key and adds the partner.
-    logKept("2025-03-01-Dhuhr", QStringLiteral("Asr"), locks);
-    logKept("2025-03-01-Dhuhr", std::nullopt, locks);
-    EXPECT_TRUE(locks.contains("2025-03-01-Asr"));
+    ledger->logKept("2025-03-01-Dhuhr", QStringLiteral("Asr"));
+    ledger->logKept("2025-03-01-Dhuhr", std::nullopt);
+    EXPECT_TRUE(ledger->completedLocks().contains("2025-03-01-Asr"));
     // Empty pieces are dropped before counting; anything but four pieces is ignored.
-    logKept("2025--03-02-Fajr", std::nullopt, locks);
+    ledger->logKept("2025--03-02-Fajr", std::nullopt);
     for (const char* bad : {"2025-03-03", "2025-03-03-Fajr-Extra", "", "----"})
-        logKept(QString::fromLatin1(bad), QStringLiteral("Asr"), locks);
+        ledger->logKept(QString::fromLatin1(bad), QStringLiteral("Asr"));
     EXPECT_EQ(fileBytes("history.json"),
               R"({"2025-03-01":["Fajr","Isha","Dhuhr","Asr"],"2025-03-02":["Fajr"]})");
 
@@ -79,7 +81,7 @@ TEST_F(HistoryTest, StreakCountsLocalDaysBackStopsAtAGapAndSkipsExcusedDays) {
     EXPECT_EQ(streakDays(now, 15), 2);
     saveHistory({{"2025-03-10", {}}, {"2025-03-09", {"Fajr"}}}); // an empty list is no kept day
     EXPECT_EQ(streakDays(now, 15), 1);
-    markKept({"Fajr"}, "2025-03-10", std::nullopt, locks);
+    ledger->markKept({"Fajr"}, "2025-03-10", std::nullopt);
     EXPECT_EQ(streakDays(now, 15), 2);
 
     // Excused days neither break nor count: excused from 2 March evening to early 6 March.
@@ -120,8 +122,8 @@ TEST_F(HistoryTest, GridCellsShowQadaThenKeptThenExcused) {
 TEST_F(HistoryTest, CsvListsKeptAndExcusedPrayersInOrderUpToNow) {
     EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), QStringLiteral("date,prayer,status\n"));
 
-    markKept({"Dhuhr"}, "2025-03-01", std::nullopt, locks);
-    markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"), locks);
+    ledger->markKept({"Dhuhr"}, "2025-03-01", std::nullopt);
+    ledger->markKept({"Fajr"}, "2025-03-01", QStringLiteral("qada"));
     // Asr of 2 March falls inside a short excused period; Dhuhr and Maghrib do not.
     const QDateTime asr = *Timetable::scheduledTimes(utc(2025, 3, 2), london()).final.value(u"Asr");
     Excused::save({{asr.addSecs(-60), asr.addSecs(60)}});
@@ -130,7 +132,7 @@ TEST_F(HistoryTest, CsvListsKeptAndExcusedPrayersInOrderUpToNow) {
               "2025-03-01,Dhuhr,locked\n2025-03-02,Asr,excused\n");
 
     // Marking the excused Asr as prayed elsewhere replaces the excused row.
-    markKept({"Asr"}, "2025-03-02", QStringLiteral("elsewhere"), locks);
+    ledger->markKept({"Asr"}, "2025-03-02", QStringLiteral("elsewhere"));
     EXPECT_TRUE(historyCSV(london(), utc(2025, 3, 5)).endsWith("2025-03-02,Asr,elsewhere\n"));
 
     // Excused rows stop at now; unknown prayers sort last.
@@ -155,6 +157,16 @@ TEST_F(HistoryTest, CsvListsKeptAndExcusedPrayersInOrderUpToNow) {
     EXPECT_EQ(historyCSV(london(), utc(2025, 3, 5)), expected);
 }
 
+// The weekly report as the controller applies it: the key handed back enters `fired`.
+std::optional<QString> weeklyReport(const Config& cfg, const QDateTime& now, const QString& day,
+                                    QSet<QString>& fired) {
+    const std::optional<WeeklyReport> report = weeklyReportDue(cfg, now, day, fired);
+    if (!report) return std::nullopt;
+    EXPECT_EQ(report->key, day + "-weekly");
+    fired.insert(report->key);
+    return report->text;
+}
+
 TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfTheLocalSundayNine) {
     // 2 March 2025 is a Sunday; London is on GMT.
     // clang-format off
@@ -164,32 +176,32 @@ TEST_F(HistoryTest, WeeklyReportShowsOnceWithinAQuarterHourOfTheLocalSundayNine)
     Marks::save({{"2025-03-01", {{"Asr", "qada"}}}});
     QSet<QString> fired;
     const Config cfg = london();
-    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 20, 59, 59), "2025-03-02", fired));
+    EXPECT_FALSE(weeklyReport(cfg, utc(2025, 3, 2, 20, 59, 59), "2025-03-02", fired));
     EXPECT_TRUE(fired.isEmpty());
     // 23 February is a week back and not counted.
-    EXPECT_EQ(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 5), "2025-03-02", fired),
+    EXPECT_EQ(weeklyReport(cfg, utc(2025, 3, 2, 21, 5), "2025-03-02", fired),
               QStringLiteral("\U0001F4FF  This week: 4/35 prayers at the computer \u2022 "
                              "streak 2 days"));
     EXPECT_TRUE(fired.contains("2025-03-02-weekly"));
-    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 6), "2025-03-02", fired));
+    EXPECT_FALSE(weeklyReport(cfg, utc(2025, 3, 2, 21, 6), "2025-03-02", fired));
 
     // First tick 15 minutes late: the key is recorded, nothing is shown.
     QSet<QString> late;
-    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 2, 21, 15), "2025-03-02", late));
+    EXPECT_FALSE(weeklyReport(cfg, utc(2025, 3, 2, 21, 15), "2025-03-02", late));
     EXPECT_TRUE(late.contains("2025-03-02-weekly"));
 
     QSet<QString> other;
-    EXPECT_FALSE(weeklyReportDue(cfg, utc(2025, 3, 3, 21, 5), "2025-03-03", other)); // Monday
+    EXPECT_FALSE(weeklyReport(cfg, utc(2025, 3, 3, 21, 5), "2025-03-03", other)); // Monday
     Config off = cfg;
     off.weeklyReport = false;
-    EXPECT_FALSE(weeklyReportDue(off, utc(2025, 3, 2, 21, 5), "2025-03-02", other));
+    EXPECT_FALSE(weeklyReport(off, utc(2025, 3, 2, 21, 5), "2025-03-02", other));
     EXPECT_TRUE(other.isEmpty());
 
     // Absent counts as on; a streak of one is a "day"; 21:05 in New York is 02:05 UTC Monday.
     off.weeklyReport = std::nullopt;
     saveHistory({{"2025-03-02", {"Fajr"}}});
     test::setTimeZone("America/New_York");
-    const auto text = weeklyReportDue(off, utc(2025, 3, 3, 2, 5), "2025-03-02", other);
+    const auto text = weeklyReport(off, utc(2025, 3, 3, 2, 5), "2025-03-02", other);
     ASSERT_TRUE(text.has_value());
     EXPECT_TRUE(text->endsWith("streak 1 day")) << text->toStdString();
 }

@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "guardian/Guardian.h"
+#include "records/DayLedger.h"
 #include "records/Excused.h"
 #include "records/History.h"
 #include "records/LockState.h"
@@ -31,8 +32,9 @@ protected:
     void SetUp() override {
         ScratchTest::SetUp();
         ensureSupportDir();
+        ledger = std::make_unique<DayLedger>();
     }
-    QSet<QString> locks;
+    std::unique_ptr<DayLedger> ledger;
 };
 
 // Runs `write` in a read-only folder, with this thread's permission override dropped so that
@@ -66,7 +68,7 @@ const QDateTime march1 = QDateTime(QDate(2025, 3, 1), QTime(0, 0), QTimeZone::ut
 } // namespace
 
 TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
-    logKept(day(0) + "-Fajr", std::nullopt, locks);
+    ledger->logKept(day(0) + "-Fajr", std::nullopt);
     Marks::save({{day(0), {{"Fajr", "qada"}}}});
     Excused::save({{march1, march1.addDays(1)}});
     Timetable::merge({{day(0), {{"Fajr", "05:45"}}}});
@@ -81,7 +83,7 @@ TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
     // Every file grows past the limit below (the base64 secret is 28 bytes).
     auto saveAll = [&] {
         for (int i = 1; i <= 3; ++i)
-            logKept(day(i) + "-Isha", QStringLiteral("Maghrib"), locks);
+            ledger->logKept(day(i) + "-Isha", QStringLiteral("Maghrib"));
         Marks::save({{day(1), {{"Isha", "elsewhere"}}}});
         Excused::save({{march1, march1.addDays(1)}, {march1.addDays(2), std::nullopt}});
         Timetable::merge({{day(1), {{"Isha", "20:50"}}}});
@@ -108,7 +110,7 @@ TEST_F(WriteFailureTest, AFullDiskOrReadOnlyFolderKeepsEveryFileAndSaysSoOnce) {
     // Nothing is lost: the next write that succeeds carries what could not be saved.
     Guardian::resetFailuresForTesting();
     EXPECT_EQ(Guardian::secret(), secret);
-    logKept(day(4) + "-Fajr", std::nullopt, locks);
+    ledger->logKept(day(4) + "-Fajr", std::nullopt);
     EXPECT_EQ(QJsonDocument::fromJson(bytesOf("history.json")).object().size(), 5);
     EXPECT_EQ(loadCompletedLocks().size(), 1 + 3 * 2 + 1);
 }
@@ -144,9 +146,9 @@ TEST_F(WriteFailureTest, UnreadableFilesAreSetAsideNotReplaced) {
     }
     // A folder that cannot take the renamed file keeps the bad one and refuses to replace it.
     test::writeSupportFile("history.json", bad.toUtf8());
-    inReadOnlyFolder([&] { logKept(day(0) + "-Fajr", std::nullopt, locks); });
+    inReadOnlyFolder([&] { ledger->logKept(day(0) + "-Fajr", std::nullopt); });
     EXPECT_EQ(bytesOf("history.json"), bad.toUtf8());
-    logKept(day(0) + "-Fajr", std::nullopt, locks); // now it moves aside and starts anew
+    ledger->logKept(day(0) + "-Fajr", std::nullopt); // now it moves aside and starts anew
     EXPECT_EQ(filesIn("history.json.unreadable-*").size(), 1);
     EXPECT_EQ(loadHistory().keys(), QStringList{day(0)});
 }
@@ -163,7 +165,7 @@ TEST_F(WriteFailureTest, KilledAtAnyMomentNoConfirmedRecordIsLost) {
         if (child == 0) {
             close(fds[0]);
             for (int i = confirmed + 1;; ++i) {
-                logKept(day(i) + "-Fajr", std::nullopt, locks);
+                ledger->logKept(day(i) + "-Fajr", std::nullopt);
                 if (write(fds[1], &i, sizeof i) != sizeof i) _exit(1);
             }
         }

@@ -74,6 +74,17 @@ QStringList timesRunTogether(const QString& text) {
     }
     return times;
 }
+// S for 5, O for 0, l for 1 and the like: what a blurred digit is read as without a list of
+// the characters allowed.
+QString asDigits(QString reading) {
+    static const QHash<QChar, QChar> digitFor{
+        {u'S', u'5'}, {u's', u'5'}, {u'$', u'5'}, {u'O', u'0'}, {u'o', u'0'}, {u'D', u'0'},
+        {u'l', u'1'}, {u'I', u'1'}, {u'|', u'1'}, {u'B', u'8'}, {u'Z', u'2'}, {u'z', u'2'},
+        {u'G', u'6'}, {u'b', u'6'}, {u'q', u'9'}, {u'g', u'9'}, {u'?', u'7'}};
+    for (QChar& c : reading)
+        c = digitFor.value(c, c);
+    return reading;
+}
 } // namespace
 
 bool isDay(const QString& word) {
@@ -157,12 +168,28 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         return qsizetype(-1);
     };
 
+    // The clean time the nearest table rows above and below line l hold under item i, when
+    // they read the same.
+    auto agreedAround = [&](qsizetype l, qsizetype i) {
+        auto nearest = [&](int step) {
+            for (qsizetype t = l + step; t >= table.first() && t <= table.last(); t += step) {
+                if (!table.contains(t)) continue;
+                const qsizetype j = timeBelowOrAbove(t, i);
+                return j >= 0 && isTime(items[j].text) ? items[j].text : QString();
+            }
+            return QString();
+        };
+        const QString above = nearest(-1);
+        return !above.isEmpty() && above == nearest(1) ? above : QString();
+    };
+
     QList<Doubt> doubts;
     // A word stands in a column of times when times of several other rows stand above or
     // below it. Only lines between the table's first and last row count: the heading above
     // the time columns is no time.
     // A word with digits right of a row's first time is taken for a time too: a column the
-    // print made hard to read may hold no clean time in any row.
+    // print made hard to read may hold no clean time in any row. Letters that look like
+    // digits count as digits there ("SS" for a blurred 5.15).
     const int evidence = std::max<int>(2, int(table.size() / 3));
     static const QRegularExpression digit(QStringLiteral("\\d"));
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
@@ -171,12 +198,15 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             if (isTimeLike(items[i].text)) firstTime = std::min(firstTime, items[i].box.left());
         for (qsizetype i : lines[l]) {
             if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
-            const bool amongTimes = table.contains(l) && items[i].box.left() > firstTime &&
-                                    items[i].text.contains(digit);
+            const QString digits = asDigits(items[i].text);
+            const bool amongTimes =
+                table.contains(l) && items[i].box.left() > firstTime &&
+                (items[i].text.contains(digit) || digits.count(digit) * 2 >= digits.size());
             const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
                 return t != l && timeBelowOrAbove(t, i, true) >= 0;
             });
-            if (amongTimes || rows >= evidence) doubts.append({i, Doubt::Time});
+            if (amongTimes || rows >= evidence)
+                doubts.append({i, Doubt::Time, -1, agreedAround(l, i)});
         }
     }
 
@@ -276,16 +306,21 @@ QStringList runOfFours(const QString& reading) {
     return times;
 }
 
-// S for 5, O for 0, l for 1 and the like: what a blurred digit is read as without a list of
-// the characters allowed.
-QString asDigits(QString reading) {
-    static const QHash<QChar, QChar> digitFor{
-        {u'S', u'5'}, {u's', u'5'}, {u'$', u'5'}, {u'O', u'0'}, {u'o', u'0'}, {u'D', u'0'},
-        {u'l', u'1'}, {u'I', u'1'}, {u'|', u'1'}, {u'B', u'8'}, {u'Z', u'2'}, {u'z', u'2'},
-        {u'G', u'6'}, {u'b', u'6'}, {u'q', u'9'}, {u'g', u'9'}, {u'?', u'7'}};
-    for (QChar& c : reading)
-        c = digitFor.value(c, c);
-    return reading;
+// ".15" read again from "SS": the second reading kept the minutes but dropped an hour printed
+// in a shape it did not allow (a serif 5 taken for an S); the first reading, its look-alike
+// letters read as digits, still holds that hour before the minutes. Empty when it does not.
+QString withHourOf(const QString& first, const QString& second) {
+    static const QRegularExpression minutesOnly(QStringLiteral("^[:.]([0-5]\\d)$"));
+    const QRegularExpressionMatch m = minutesOnly.match(second);
+    if (!m.hasMatch()) return {};
+    QString digits;
+    for (QChar c : asDigits(first))
+        if (c.isDigit()) digits += c;
+    const QString hour = digits.endsWith(m.captured(1)) && digits.size() > 2
+                             ? digits.left(digits.size() - 2)
+                             : digits.left(1);
+    const QString time = hour + second;
+    return isTime(time) ? time : QString();
 }
 } // namespace
 
@@ -317,12 +352,23 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
         const QStringList readings{second, first, asDigits(second), asDigits(first)};
         for (const QString& reading : readings)
             if (isTime(reading)) return reading;
+        if (const QString whole = withHourOf(first, second); !whole.isEmpty()) return whole;
         for (const QString& reading : readings)
             if (const QString fixed = zeroForSix(reading); !fixed.isEmpty()) return fixed;
         // A blurred colon is the first thing a photo loses: 448 in a column of times is 4:48.
         for (const QString& reading : readings)
             if (colonless().match(reading).hasMatch())
                 return reading.left(reading.size() - 2) + u':' + reading.right(2);
+        // Unreadable still: the time the rows around it agree on, when the digits that end a
+        // reading (one or two) end that time's minutes.
+        for (const QString& reading : readings) {
+            qsizetype tail = 0;
+            while (tail < reading.size() && reading[reading.size() - 1 - tail].isDigit())
+                ++tail;
+            if (!doubt.agreed.isEmpty() && tail > 0 &&
+                doubt.agreed.endsWith(reading.right(std::min<qsizetype>(tail, 2))))
+                return doubt.agreed;
+        }
         return first;
     }
     if (doubt.expected < 0 || !isTime(first)) return second;

@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPdfWriter>
 #include <algorithm>
 #include <random>
 
@@ -315,6 +316,17 @@ QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, cons
     const bool jpeg = look.photo.jpeg > 0;
     const QString path = dir + '/' + name + (jpeg ? ".jpg" : ".png");
     sheet.image.save(path, nullptr, jpeg ? look.photo.jpeg : -1);
+    return path;
+}
+
+QString saveScan(const Sheet& sheet, const QString& path) {
+    constexpr int dpi = 150;
+    QPdfWriter writer(path);
+    writer.setResolution(dpi);
+    writer.setPageSize(QPageSize(QSizeF(sheet.image.size()) / dpi, QPageSize::Inch));
+    writer.setPageMargins({});
+    QPainter p(&writer);
+    p.drawImage(0, 0, sheet.image);
     return path;
 }
 

@@ -59,6 +59,9 @@ QImage photographed(const QImage& page, const Photo& photo, std::mt19937& random
 // Saves the sheet as PNG or JPEG under `dir`; the file's path.
 QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, const QString& name);
 
+// Saves the sheet as a PDF of one page holding only its picture, as a scanner makes them.
+QString saveScan(const Sheet& sheet, const QString& path);
+
 // The varied set (VariedSet.cpp): a look per layout for each kind of sheet.
 extern const Layout layouts[14];
 extern const Look clean[14];

@@ -193,14 +193,21 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     const int evidence = std::max<int>(2, int(table.size() / 3));
     static const QRegularExpression digit(QStringLiteral("\\d"));
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
+        // Where the row's times begin: its first time, or first word of three or four digits
+        // (a time with a mark glued to it, "442.6"), which no day or date column holds.
+        static const QRegularExpression digitCell(QStringLiteral("^\\d[^/]*$"));
         qreal firstTime = 2;
-        for (qsizetype i : lines[l])
-            if (isTimeLike(items[i].text)) firstTime = std::min(firstTime, items[i].box.left());
+        for (qsizetype i : lines[l]) {
+            const QString& text = items[i].text;
+            const auto count = text.count(digit);
+            if (isTimeLike(text) || (count >= 3 && count <= 4 && digitCell.match(text).hasMatch()))
+                firstTime = std::min(firstTime, items[i].box.left());
+        }
         for (qsizetype i : lines[l]) {
             if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
             const QString digits = asDigits(items[i].text);
             const bool amongTimes =
-                table.contains(l) && items[i].box.left() > firstTime &&
+                table.contains(l) && items[i].box.left() >= firstTime &&
                 (items[i].text.contains(digit) || digits.count(digit) * 2 >= digits.size());
             const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
                 return t != l && timeBelowOrAbove(t, i, true) >= 0;
@@ -306,6 +313,19 @@ QStringList runOfFours(const QString& reading) {
     return times;
 }
 
+// "4:26" from "4:26.62" or "442~": a time whose cell also holds a mark after it (an Arabic
+// am/pm letter, a footnote's star) read as a few more characters. Empty unless the reading
+// begins with a time, its colon perhaps lost, that no digit follows; a longer tail is more
+// cells run together, not a mark.
+QString leadingTime(const QString& reading) {
+    static const QRegularExpression re(
+        QStringLiteral("^([01]?\\d|2[0-3])([:.]?)([0-5]\\d)(?!\\d).{1,3}$"));
+    const QRegularExpressionMatch m = re.match(reading);
+    if (!m.hasMatch()) return {};
+    return m.captured(1) + (m.captured(2).isEmpty() ? QStringLiteral(":") : m.captured(2)) +
+           m.captured(3);
+}
+
 // ".15" read again from "SS": the second reading kept the minutes but dropped an hour printed
 // in a shape it did not allow (a serif 5 taken for an S); the first reading, its look-alike
 // letters read as digits, still holds that hour before the minutes. Empty when it does not.
@@ -353,6 +373,8 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
         for (const QString& reading : readings)
             if (isTime(reading)) return reading;
         if (const QString whole = withHourOf(first, second); !whole.isEmpty()) return whole;
+        for (const QString& reading : readings)
+            if (const QString time = leadingTime(reading); !time.isEmpty()) return time;
         for (const QString& reading : readings)
             if (const QString fixed = zeroForSix(reading); !fixed.isEmpty()) return fixed;
         // A blurred colon is the first thing a photo loses: 448 in a column of times is 4:48.

@@ -229,6 +229,11 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     EXPECT_EQ(OcrLines::settle(cell, "Sal", ".11"), "5.11");
     EXPECT_EQ(OcrLines::settle(cell, "1Z30", ":30"), "12:30");
     EXPECT_EQ(OcrLines::settle(cell, "xx", ".15"), "xx");
+    // A mark read after the time: the time it begins with.
+    EXPECT_EQ(OcrLines::settle(cell, "4:26.62", "4:26.62"), "4:26");
+    EXPECT_EQ(OcrLines::settle(cell, "442~", "442~"), "4:42");
+    EXPECT_EQ(OcrLines::settle(cell, "1:302", "1:302"), "1:302");
+    EXPECT_EQ(OcrLines::settle(cell, "1544160001718)", "154 16:00"), "1544160001718)");
     // Unreadable twice: the agreed time when the readings end in its last digit, else kept.
     EXPECT_EQ(OcrLines::settle(cell, "#5", "5"), "1:05");
     EXPECT_EQ(OcrLines::settle(cell, "a0", ""), "a0");

@@ -47,10 +47,12 @@ QList<Day> monthOfTimes(QDate first, int count, std::mt19937& random) {
 QString clockText(int minutes, Clock clock) {
     const int h = minutes / 60, m = minutes % 60, twelve = h % 12 ? h % 12 : 12;
     if (clock == Clock::TwentyFour) return QString::asprintf("%02d:%02d", h, m);
-    return QString::asprintf(clock == Clock::Dotted ? "%d.%02d" : "%d:%02d", twelve, m) +
-           (clock != Clock::AmPm ? ""
-            : h < 12             ? " am"
-                                 : " pm");
+    const QString time =
+        QString::asprintf(clock == Clock::Dotted ? "%d.%02d" : "%d:%02d", twelve, m);
+    if (clock == Clock::AmPm) return time + (h < 12 ? " am" : " pm");
+    // A left-to-right mark first keeps the marker after the time on an English sheet.
+    if (clock == Clock::ArabicMarks) return u'\u200E' + time + (h < 12 ? " \u0635" : " \u0645");
+    return time;
 }
 
 QStringList dateCells(const QDate& date, Dates dates) {

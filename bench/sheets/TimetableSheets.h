@@ -9,7 +9,8 @@
 namespace tarvanel::sheets {
 
 enum class Dates { Number, DayMonth, Slash, WeekdayFirst, NumberWeekday };
-enum class Clock { Unmarked, AmPm, TwentyFour, Dotted };
+// ArabicMarks: twelve-hour times followed by the Arabic sad (morning) or meem (evening).
+enum class Clock { Unmarked, AmPm, TwentyFour, Dotted, ArabicMarks };
 enum class Ruling { None, Rows, Grid, Zebra };
 
 struct Layout {
@@ -63,9 +64,9 @@ QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, cons
 QString saveScan(const Sheet& sheet, const QString& path);
 
 // The varied set (VariedSet.cpp): a look per layout for each kind of sheet.
-extern const Layout layouts[14];
-extern const Look clean[14];
-extern const Look photos[14];
-extern const Look snapshots[14];
+extern const Layout layouts[15];
+extern const Look clean[15];
+extern const Look photos[15];
+extern const Look snapshots[15];
 
 } // namespace tarvanel::sheets

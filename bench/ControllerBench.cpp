@@ -1,11 +1,11 @@
 // The controller's per-second cost: an idle tick, the evening title, the menu, a whole day.
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/Config.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "lock/AppDelegate.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

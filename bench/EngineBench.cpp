@@ -1,9 +1,9 @@
 // Engine speed: one day's solar times, a day's schedule, a whole year for one city, and the
 // --times command as a process.
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "engine/PrayerTimes.h"
 #include "engine/Schedule.h"
-#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

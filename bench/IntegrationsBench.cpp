@@ -1,7 +1,7 @@
 // Speed of a calendar sync among thousands of the user's own events.
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
-#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

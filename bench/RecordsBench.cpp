@@ -1,10 +1,10 @@
 // Speed of the records, guardian and timetable paths that run on the main thread.
+#include "base/StateFiles.h"
 #include "engine/Config.h"
 #include "engine/LocalTime.h"
 #include "guardian/Guardian.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
 #include "timetable/TimetableParser.h"
 
 #include <QTemporaryDir>

@@ -2,8 +2,8 @@
 // the tray icon, the agent locking at a prayer under a sped-up fake clock, and a guardian code
 // typed through Arabic and Persian keyboard layouts.
 #include "EndToEnd.h"
-#include "guardian/Guardian.h"
 #include "base/StateFiles.h"
+#include "guardian/Guardian.h"
 
 #include <QFile>
 #include <QJsonArray>

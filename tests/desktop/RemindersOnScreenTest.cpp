@@ -1,9 +1,9 @@
 // A faked Dhuhr with the default reminders, through the real controller and the real banner
 // panel: each of the four is on screen, in turn, before the screens go dark.
 #include "app/Agent.h"
+#include "base/StateFiles.h"
 #include "desktop/BannerPanel.h"
 #include "lock/AppDelegate.h"
-#include "base/StateFiles.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 

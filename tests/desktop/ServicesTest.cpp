@@ -1,10 +1,10 @@
 // Display check, termination signals, sounds, alerts and the platform's event-loop services.
+#include "base/Log.h"
 #include "desktop/Dialogs.h"
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemEvents.h"
-#include "base/Log.h"
 #include "support/TestEnv.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 #include "engine/Schedule.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "engine/PrayerTimes.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 using namespace tarvanel;

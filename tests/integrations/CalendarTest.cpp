@@ -1,8 +1,8 @@
 // Busy events in vdir calendars: what a week's sync writes (read back by khal, a real client we
 // did not write), what it leaves alone, when it runs, and asking for access.
+#include "base/StateFiles.h"
 #include "engine/DayTimes.h"
 #include "integrations/PrayerCalendar.h"
-#include "base/StateFiles.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 

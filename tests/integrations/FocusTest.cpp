@@ -1,7 +1,7 @@
 // Focus scripts: run beside the event loop, failures and hangs logged, ready-made pairs.
-#include "integrations/FocusShortcuts.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
+#include "integrations/FocusShortcuts.h"
 #include "support/TestEnv.h"
 
 #include <QDir>

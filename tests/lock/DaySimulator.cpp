@@ -1,9 +1,9 @@
 #include "DaySimulator.h"
 
 #include "app/Agent.h"
+#include "base/Log.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
-#include "base/Log.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -2,10 +2,10 @@
 #include "DaySimulator.h"
 
 #include "app/Agent.h"
+#include "base/StateFiles.h"
 #include "guardian/Guardian.h"
 #include "integrations/PrayerCalendar.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
 #include "timetable/Timetable.h"
 
 #include <QDir>

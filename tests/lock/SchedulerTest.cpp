@@ -1,10 +1,10 @@
 // Whole simulated days through the real controller: the road of each prayer to the second.
 #include "DaySimulator.h"
 
+#include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QFile>

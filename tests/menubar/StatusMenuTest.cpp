@@ -2,12 +2,12 @@
 #include "../lock/DaySimulator.h"
 
 #include "app/Agent.h"
+#include "base/StateFiles.h"
 #include "engine/CalcMethods.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "integrations/FocusShortcuts.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "records/History.h"
+#include "base/StateFiles.h"
 #include "engine/Schedule.h"
 #include "records/Excused.h"
 #include "records/LockState.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QDir>

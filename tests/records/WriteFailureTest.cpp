@@ -1,11 +1,11 @@
 // Failed writes keep the previous file whole and say so; unreadable files are set aside, never
 // overwritten; a process killed at any moment loses no confirmed record.
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "guardian/Guardian.h"
 #include "records/Excused.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

@@ -58,7 +58,7 @@ BENCHMARK(BM_ReadThirtyOneDayPhoto)->Unit(benchmark::kMillisecond)->Iterations(3
 void BM_ReadVariedPhotos(benchmark::State& state) {
     QTemporaryDir dir;
     QStringList paths;
-    for (int i = 0; i < 14; ++i) {
+    for (int i = 0; i < int(std::size(sheets::layouts)); ++i) {
         const sheets::Sheet sheet = sheets::drawSheet(sheets::layouts[i], sheets::photos[i], 7 + i);
         paths << sheets::saveSheet(sheet, sheets::photos[i], dir.path(), QString::number(i));
     }

@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPdfWriter>
 #include <algorithm>
 #include <random>
 
@@ -46,10 +47,12 @@ QList<Day> monthOfTimes(QDate first, int count, std::mt19937& random) {
 QString clockText(int minutes, Clock clock) {
     const int h = minutes / 60, m = minutes % 60, twelve = h % 12 ? h % 12 : 12;
     if (clock == Clock::TwentyFour) return QString::asprintf("%02d:%02d", h, m);
-    return QString::asprintf(clock == Clock::Dotted ? "%d.%02d" : "%d:%02d", twelve, m) +
-           (clock != Clock::AmPm ? ""
-            : h < 12             ? " am"
-                                 : " pm");
+    const QString time =
+        QString::asprintf(clock == Clock::Dotted ? "%d.%02d" : "%d:%02d", twelve, m);
+    if (clock == Clock::AmPm) return time + (h < 12 ? " am" : " pm");
+    // A left-to-right mark first keeps the marker after the time on an English sheet.
+    if (clock == Clock::ArabicMarks) return u'\u200E' + time + (h < 12 ? " \u0635" : " \u0645");
+    return time;
 }
 
 QStringList dateCells(const QDate& date, Dates dates) {
@@ -315,6 +318,17 @@ QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, cons
     const bool jpeg = look.photo.jpeg > 0;
     const QString path = dir + '/' + name + (jpeg ? ".jpg" : ".png");
     sheet.image.save(path, nullptr, jpeg ? look.photo.jpeg : -1);
+    return path;
+}
+
+QString saveScan(const Sheet& sheet, const QString& path) {
+    constexpr int dpi = 150;
+    QPdfWriter writer(path);
+    writer.setResolution(dpi);
+    writer.setPageSize(QPageSize(QSizeF(sheet.image.size()) / dpi, QPageSize::Inch));
+    writer.setPageMargins({});
+    QPainter p(&writer);
+    p.drawImage(0, 0, sheet.image);
     return path;
 }
 

@@ -9,7 +9,8 @@
 namespace tarvanel::sheets {
 
 enum class Dates { Number, DayMonth, Slash, WeekdayFirst, NumberWeekday };
-enum class Clock { Unmarked, AmPm, TwentyFour, Dotted };
+// ArabicMarks: twelve-hour times followed by the Arabic sad (morning) or meem (evening).
+enum class Clock { Unmarked, AmPm, TwentyFour, Dotted, ArabicMarks };
 enum class Ruling { None, Rows, Grid, Zebra };
 
 struct Layout {
@@ -59,10 +60,13 @@ QImage photographed(const QImage& page, const Photo& photo, std::mt19937& random
 // Saves the sheet as PNG or JPEG under `dir`; the file's path.
 QString saveSheet(const Sheet& sheet, const Look& look, const QString& dir, const QString& name);
 
+// Saves the sheet as a PDF of one page holding only its picture, as a scanner makes them.
+QString saveScan(const Sheet& sheet, const QString& path);
+
 // The varied set (VariedSet.cpp): a look per layout for each kind of sheet.
-extern const Layout layouts[14];
-extern const Look clean[14];
-extern const Look photos[14];
-extern const Look snapshots[14];
+extern const Layout layouts[15];
+extern const Look clean[15];
+extern const Look photos[15];
+extern const Look snapshots[15];
 
 } // namespace tarvanel::sheets

@@ -136,6 +136,10 @@ QList<Recognizer::Word> Recognizer::words(Pix* page, tesseract::PageSegMode mode
 }
 
 QString Recognizer::reread(Pix* page, QRect box, const char* allowed, int scale) {
+    // Tesseract's local threshold fails on a crop a few pixels across, and nothing that small
+    // holds a time or a day.
+    constexpr int smallest = 8;
+    if (box.width() < smallest || box.height() < smallest) return {};
     Box* area = boxCreate(box.x(), box.y(), box.width(), box.height());
     PageImage::PixPtr cell(pixClipRectangle(page, area, nullptr));
     boxDestroy(&area);

@@ -1,4 +1,5 @@
 #include "timetable/OcrLines.h"
+#include "timetable/OcrWords.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -52,7 +53,7 @@ bool isTime(const QString& word) {
     return re.match(word).hasMatch();
 }
 
-namespace {
+namespace words {
 const QRegularExpression& colonless() {
     static const QRegularExpression re(QStringLiteral("^([01]?\\d|2[0-3])[0-5]\\d$"));
     return re;
@@ -61,20 +62,18 @@ const QRegularExpression& colonless() {
 bool isTimeLike(const QString& word) {
     return isTime(word) || colonless().match(word).hasMatch();
 }
-// "5:015:42" or "5:01 5:42" as the times it is made of; empty unless it is times only.
-QStringList timesRunTogether(const QString& text) {
-    static const QRegularExpression next(QStringLiteral("\\s*(([01]?\\d|2[0-3])[:.][0-5]\\d)"));
-    QStringList times;
-    for (qsizetype at = 0; !QStringView(text).mid(at).trimmed().isEmpty();) {
-        const QRegularExpressionMatch m = next.match(text, at, QRegularExpression::NormalMatch,
-                                                     QRegularExpression::AnchorAtOffsetMatchOption);
-        if (!m.hasMatch()) return {};
-        times << m.captured(1);
-        at = m.capturedEnd();
-    }
-    return times;
+// S for 5, O for 0, l for 1 and the like: what a blurred digit is read as without a list of
+// the characters allowed.
+QString asDigits(QString reading) {
+    static const QHash<QChar, QChar> digitFor{
+        {u'S', u'5'}, {u's', u'5'}, {u'$', u'5'}, {u'O', u'0'}, {u'o', u'0'}, {u'D', u'0'},
+        {u'l', u'1'}, {u'I', u'1'}, {u'|', u'1'}, {u'B', u'8'}, {u'Z', u'2'}, {u'z', u'2'},
+        {u'G', u'6'}, {u'b', u'6'}, {u'q', u'9'}, {u'g', u'9'}, {u'?', u'7'}};
+    for (QChar& c : reading)
+        c = digitFor.value(c, c);
+    return reading;
 }
-} // namespace
+} // namespace words
 
 bool isDay(const QString& word) {
     static const QRegularExpression re(QStringLiteral("^([1-9]|[12]\\d|3[01])$"));
@@ -102,7 +101,7 @@ QStringList group(const QList<RecognizedItem>& items, QList<TextMark>& marks) {
     return out;
 }
 
-namespace {
+namespace words {
 
 // Minutes on a twelve-hour dial: a sheet may print 13:05 or 1:05 for the same time.
 int dialMinutes(const QString& time) {
@@ -115,6 +114,9 @@ int dialDistance(int a, int b) {
     const int d = std::abs(a - b) % 720;
     return std::min(d, 720 - d);
 }
+} // namespace words
+
+namespace {
 
 int midway(int a, int b) {
     int d = (b - a + 720) % 720;
@@ -134,6 +136,7 @@ QString timeCharacters(const QList<RecognizedItem>& items) {
 }
 
 QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
+    using namespace words;
     const QList<QList<qsizetype>> lines = lineIndices(items);
     QList<qsizetype> table; // the lines that read as rows of times
     for (qsizetype l = 0; l < lines.size(); ++l)
@@ -157,26 +160,52 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         return qsizetype(-1);
     };
 
+    // The clean time the nearest table rows above and below line l hold under item i, when
+    // they read the same.
+    auto agreedAround = [&](qsizetype l, qsizetype i) {
+        auto nearest = [&](int step) {
+            for (qsizetype t = l + step; t >= table.first() && t <= table.last(); t += step) {
+                if (!table.contains(t)) continue;
+                const qsizetype j = timeBelowOrAbove(t, i);
+                return j >= 0 && isTime(items[j].text) ? items[j].text : QString();
+            }
+            return QString();
+        };
+        const QString above = nearest(-1);
+        return !above.isEmpty() && above == nearest(1) ? above : QString();
+    };
+
     QList<Doubt> doubts;
     // A word stands in a column of times when times of several other rows stand above or
     // below it. Only lines between the table's first and last row count: the heading above
     // the time columns is no time.
     // A word with digits right of a row's first time is taken for a time too: a column the
-    // print made hard to read may hold no clean time in any row.
+    // print made hard to read may hold no clean time in any row. Letters that look like
+    // digits count as digits there ("SS" for a blurred 5.15).
     const int evidence = std::max<int>(2, int(table.size() / 3));
     static const QRegularExpression digit(QStringLiteral("\\d"));
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
+        // Where the row's times begin: its first time, or first word of three or four digits
+        // (a time with a mark glued to it, "442.6"), which no day or date column holds.
+        static const QRegularExpression digitCell(QStringLiteral("^\\d[^/]*$"));
         qreal firstTime = 2;
-        for (qsizetype i : lines[l])
-            if (isTimeLike(items[i].text)) firstTime = std::min(firstTime, items[i].box.left());
+        for (qsizetype i : lines[l]) {
+            const QString& text = items[i].text;
+            const auto count = text.count(digit);
+            if (isTimeLike(text) || (count >= 3 && count <= 4 && digitCell.match(text).hasMatch()))
+                firstTime = std::min(firstTime, items[i].box.left());
+        }
         for (qsizetype i : lines[l]) {
             if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
-            const bool amongTimes = table.contains(l) && items[i].box.left() > firstTime &&
-                                    items[i].text.contains(digit);
+            const QString digits = asDigits(items[i].text);
+            const bool amongTimes =
+                table.contains(l) && items[i].box.left() >= firstTime &&
+                (items[i].text.contains(digit) || digits.count(digit) * 2 >= digits.size());
             const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
                 return t != l && timeBelowOrAbove(t, i, true) >= 0;
             });
-            if (amongTimes || rows >= evidence) doubts.append({i, Doubt::Time});
+            if (amongTimes || rows >= evidence)
+                doubts.append({i, Doubt::Time, -1, agreedAround(l, i)});
         }
     }
 
@@ -243,93 +272,6 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         doubts.append({firsts[k], Doubt::Day, counted});
     }
     return doubts;
-}
-
-namespace {
-// A 6 where a time cannot hold one (12:62, 65:15) is a 0 whose gap blurred shut; empty when
-// that makes no time either.
-QString zeroForSix(const QString& reading) {
-    static const QRegularExpression shape(QStringLiteral("^(\\d{1,2})([:.])(\\d)(\\d.*)$"));
-    const QRegularExpressionMatch m = shape.match(reading);
-    if (!m.hasMatch()) return {};
-    QString hours = m.captured(1), tens = m.captured(3);
-    if (tens == u"6") tens = QStringLiteral("0");
-    if (hours.size() == 2 && hours[0] == u'6') hours[0] = u'0';
-    const QString fixed = hours + m.captured(2) + tens + m.captured(4);
-    return fixed != reading && isTime(fixed) ? fixed : QString();
-}
-// "133015441600" as 13:30, 15:44 and 16:00; empty unless it is two or more such times.
-QStringList runOfFours(const QString& reading) {
-    QString digits;
-    for (QChar c : reading)
-        if (c.isDigit())
-            digits += c;
-        else if (c.isLetterOrNumber())
-            return {};
-    if (digits.size() < 8 || digits.size() % 4 != 0) return {};
-    QStringList times;
-    for (qsizetype at = 0; at < digits.size(); at += 4) {
-        const QString time = digits.mid(at, 2) + u':' + digits.mid(at + 2, 2);
-        if (!isTime(time)) return {};
-        times << time;
-    }
-    return times;
-}
-
-// S for 5, O for 0, l for 1 and the like: what a blurred digit is read as without a list of
-// the characters allowed.
-QString asDigits(QString reading) {
-    static const QHash<QChar, QChar> digitFor{
-        {u'S', u'5'}, {u's', u'5'}, {u'$', u'5'}, {u'O', u'0'}, {u'o', u'0'}, {u'D', u'0'},
-        {u'l', u'1'}, {u'I', u'1'}, {u'|', u'1'}, {u'B', u'8'}, {u'Z', u'2'}, {u'z', u'2'},
-        {u'G', u'6'}, {u'b', u'6'}, {u'q', u'9'}, {u'g', u'9'}, {u'?', u'7'}};
-    for (QChar& c : reading)
-        c = digitFor.value(c, c);
-    return reading;
-}
-} // namespace
-
-QString settle(const Doubt& doubt, const QString& first, const QString& second) {
-    if (doubt.kind == Doubt::Day) {
-        if (doubt.expected > 0 && isDay(QString::number(doubt.expected)))
-            return QString::number(doubt.expected);
-        return isDay(second) ? second : first;
-    }
-    auto withColon = [](const QString& digits) {
-        return digits.left(digits.size() - 2) + u':' + digits.right(2);
-    };
-    // A first reading that lacks only its colon keeps its digits: a second reading held to fewer
-    // characters more often changes a digit than finds a lost one.
-    if (colonless().match(first).hasMatch() && withColon(first) != second &&
-        withColon(first) != QString(second).replace(u'.', u':'))
-        return withColon(first);
-    if (!isTime(second)) {
-        // Cells a rule's remains had joined.
-        const QStringList parts = timesRunTogether(second);
-        if (parts.size() > 1 && !isTime(first)) return parts.join(QStringLiteral("   "));
-        if (isTime(first)) return first;
-        // 24-hour cells run together with their colons lost: "133015441600".
-        for (const QString& reading : {second, first}) {
-            const QStringList fours = runOfFours(reading);
-            if (!fours.isEmpty()) return fours.join(QStringLiteral("   "));
-        }
-        // The readings as they stand, then with letters that look like digits read as those.
-        const QStringList readings{second, first, asDigits(second), asDigits(first)};
-        for (const QString& reading : readings)
-            if (isTime(reading)) return reading;
-        for (const QString& reading : readings)
-            if (const QString fixed = zeroForSix(reading); !fixed.isEmpty()) return fixed;
-        // A blurred colon is the first thing a photo loses: 448 in a column of times is 4:48.
-        for (const QString& reading : readings)
-            if (colonless().match(reading).hasMatch())
-                return reading.left(reading.size() - 2) + u':' + reading.right(2);
-        return first;
-    }
-    if (doubt.expected < 0 || !isTime(first)) return second;
-    return dialDistance(dialMinutes(second), doubt.expected) <
-                   dialDistance(dialMinutes(first), doubt.expected)
-               ? second
-               : first;
 }
 
 QRectF relativeBox(int left, int top, int right, int bottom, int width, int height) {

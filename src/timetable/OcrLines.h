@@ -52,6 +52,9 @@ struct Doubt {
     // that stands apart from the days around it, the day the count gives for a day number;
     // -1 when they say nothing.
     int expected = -1;
+    // For a time: what the nearest rows above and below it both read in its column, when they
+    // agree (a masjid keeps a jamaat time for days on end); empty otherwise.
+    QString agreed = {};
 };
 QList<Doubt> doubtful(const QList<RecognizedItem>& items);
 // The text to keep for a doubtful item read `first` and then, with fewer characters allowed,

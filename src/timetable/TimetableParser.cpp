@@ -19,8 +19,10 @@ QRegularExpression compile(const char* pattern) {
 }
 
 struct Patterns {
-    QRegularExpression time =
-        compile(R"((?<![\d:.])([01]?\d|2[0-3])[:.]([0-5]\d)(?![\d])\s*([AaPp]\.?[Mm]\.?)?)");
+    // After the minutes, an am/pm marker: Latin letters, or the Arabic sad (morning) or meem
+    // (evening) standing alone, not the first letter of a word such as a prayer's name.
+    QRegularExpression time = compile(R"((?<![\d:.])([01]?\d|2[0-3])[:.]([0-5]\d)(?![\d])\s*)"
+                                      R"(([AaPp]\.?[Mm]\.?|[\x{0635}\x{0645}](?![\p{L}\p{M}]))?)");
     QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
     QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
@@ -44,6 +46,16 @@ std::optional<QDate> lenientDate(int year, int month, int day) {
 bool isBidiMark(char16_t c) {
     return c == 0x200E || c == 0x200F || c == 0x061C || (c >= 0x202A && c <= 0x202E) ||
            (c >= 0x2066 && c <= 0x2069);
+}
+
+// "am" or "pm" as printed, letters only and lower case; the Arabic sad and meem as "am" and "pm".
+QString meridiem(QStringView marker) {
+    if (marker == u"\u0635") return QStringLiteral("am");
+    if (marker == u"\u0645") return QStringLiteral("pm");
+    QString letters;
+    for (QChar c : marker)
+        if (c.isLetter()) letters += c.toLower();
+    return letters;
 }
 
 std::optional<ParsedRow> parseLine(const QString& raw) {
@@ -79,12 +91,7 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
         ParsedTime t;
         t.hour = m.captured(1).toInt();
         t.minute = m.captured(2).toInt();
-        if (m.hasCaptured(3)) {
-            QString marker;
-            for (QChar c : m.capturedView(3))
-                if (c.isLetter()) marker += c.toLower();
-            t.meridiem = marker;
-        }
+        if (m.hasCaptured(3)) t.meridiem = meridiem(m.capturedView(3));
         row.times << t;
     }
     if (row.times.size() < 3) return std::nullopt;

@@ -15,7 +15,8 @@ namespace tarvanel {
 struct ParsedTime {
     int hour = 0;
     int minute = 0;
-    std::optional<QString> meridiem; // "am" / "pm" as printed, letters only, lower case
+    // "am" / "pm" as printed, letters only, lower case; the Arabic sad and meem as "am" and "pm"
+    std::optional<QString> meridiem;
 
     // As printed: "5:12 am", "13:05".
     QString label() const;

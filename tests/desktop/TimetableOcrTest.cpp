@@ -44,9 +44,10 @@ Score jamaatCells(const Layout& layout, const Sheet& sheet, const QStringList& r
 }
 
 // Photos whose print Tesseract does not read, here or from its own command line: thin serif and
-// typewriter type 8-10 px high, and a serif blurred by 1.5 px at 24 px. Measured and shown,
-// held only to a floor under what they give now, so that losing that shows.
-const QStringList beyondReach{"6-photo", "9-photo", "5-snap"};
+// typewriter type 8-10 px high, and Arabic am/pm letters that a blurred photo glues to the
+// times as stray characters. Measured and shown, held only to a floor under what they give
+// now, so that losing that shows.
+const QStringList beyondReach{"6-photo", "9-photo", "14-snap"};
 
 struct Totals {
     Score held, beyond;
@@ -110,7 +111,28 @@ TEST(TimetableOcrTest, JamaatCellsOfPhotosOfOtherMonthsAreReadBack) {
     const Totals totals = readBack("snap", snapshots, 2000);
     EXPECT_GE(share(totals.held), 0.97);
     EXPECT_GE(totals.worst, 90);
-    EXPECT_GE(share(totals.beyond), 0.3);
+    EXPECT_GE(share(totals.beyond), 0.5);
+}
+
+// A scanner's PDF holds pictures only: read by the recogniser, both months of the sheet filled.
+TEST(TimetableOcrTest, ScannedPdfsOfTwoMonthsFillBothMonths) {
+    QTemporaryDir dir;
+    const Look scanner{"Noto Serif", 17, true, {0.4, 0, 0.6, 80, false}};
+    for (int i = 0; i < int(std::size(layouts)); ++i) {
+        if (!layouts[i].twoMonths) continue;
+        const Sheet sheet = drawSheet(layouts[i], scanner, 3000 + unsigned(i));
+        const QStringList read =
+            TimetableOCR::readFile(saveScan(sheet, dir.filePath(QString("%1.pdf").arg(i))));
+        const Score score = jamaatCells(layouts[i], sheet, read);
+        std::printf("%d-scan: %d/%d\n", i, score.right, score.all);
+        EXPECT_GE(share(score), 0.97) << read.join('\n').toStdString();
+        TimetableImportModel model;
+        model.setText(read.join('\n'));
+        QSet<QString> months;
+        for (const QString& day : model.days().keys())
+            months << day.left(7);
+        EXPECT_EQ(months.size(), 2) << layouts[i].name;
+    }
 }
 
 TEST(TimetableOcrTest, FilesWithoutATimetableGiveNoLines) {

@@ -217,11 +217,28 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     EXPECT_EQ(OcrLines::timeCharacters(items), "0123456789:.pm");
 
     const OcrLines::Doubt cell = doubts[0], apart = doubts[1], day = doubts[2];
+    // The rows around "7Al" agree on 1:05; those around "7:57pm" do not.
+    EXPECT_EQ(std::pair(cell.agreed, apart.agreed), std::pair(QString("1:05"), QString()));
     EXPECT_EQ(OcrLines::settle(cell, "7Al", "7:41"), "7:41");
     EXPECT_EQ(OcrLines::settle(cell, "7Al", "7:1"), "7Al");
     EXPECT_EQ(OcrLines::settle(cell, "448", "4a8"), "4:48"); // a blurred colon
     EXPECT_EQ(OcrLines::settle(cell, "5:01-5:42", "5:015:42"), "5:01   5:42");
     EXPECT_EQ(OcrLines::settle(cell, "4325", "4325:11"), "4325");
+    // The hour the second reading lost, from the first one's look-alike letters.
+    EXPECT_EQ(OcrLines::settle(cell, "SS", ".15"), "5.15");
+    EXPECT_EQ(OcrLines::settle(cell, "Sal", ".11"), "5.11");
+    EXPECT_EQ(OcrLines::settle(cell, "1Z30", ":30"), "12:30");
+    EXPECT_EQ(OcrLines::settle(cell, "xx", ".15"), "xx");
+    // A mark read after the time: the time it begins with.
+    EXPECT_EQ(OcrLines::settle(cell, "4:26.62", "4:26.62"), "4:26");
+    EXPECT_EQ(OcrLines::settle(cell, "442~", "442~"), "4:42");
+    EXPECT_EQ(OcrLines::settle(cell, "1:302", "1:302"), "1:302");
+    EXPECT_EQ(OcrLines::settle(cell, "1544160001718)", "154 16:00"), "1544160001718)");
+    // Unreadable twice: the agreed time when the readings end in its last digit, else kept.
+    EXPECT_EQ(OcrLines::settle(cell, "#5", "5"), "1:05");
+    EXPECT_EQ(OcrLines::settle(cell, "a0", ""), "a0");
+    EXPECT_EQ(OcrLines::settle(cell, "#5", "0"), "1:05");
+    EXPECT_EQ(OcrLines::settle(cell, "#4", "x"), "#4");
     EXPECT_EQ(OcrLines::settle(apart, "7:57pm", "7:51pm"), "7:51pm");
     EXPECT_EQ(OcrLines::settle(apart, "7:57pm", "7:59"), "7:57pm"); // further off: kept
     EXPECT_EQ(OcrLines::settle(day, "A", "8"), "2");

@@ -110,6 +110,15 @@ TEST(TimetableParserTest, MarkersDecideTheHalfOfTheDayElseThePrayerDoes) {
     for (const char* prayer : {"Fajr", "Dhuhr", "Isha", "Jumu'ah"})
         for (int i = 0; i < marked.size(); ++i)
             EXPECT_EQ(row.times[i].clock(prayer), marked[i]) << prayer << " " << i;
+    // Arabic markers: sad for the morning, meem for the evening, spaced or glued to the
+    // minutes; the meem that begins a word (Maghrib) is none.
+    const ParsedRow arabic =
+        only(QStringLiteral("5:12 \u0635 12:30\u0635 1:15 \u0645 \u0667:\u0662\u0662\u0645 8:50 "
+                            "\u0645\u063A\u0631\u0628"));
+    EXPECT_EQ(labels(arabic), QStringList({"5:12 am", "12:30 am", "1:15 pm", "7:22 pm", "8:50"}));
+    const QStringList arabicClock{"05:12", "00:30", "13:15", "19:22", "20:50"};
+    for (int i = 0; i < arabicClock.size(); ++i)
+        EXPECT_EQ(arabic.times[i].clock("Isha"), arabicClock[i]) << i;
 
     const struct {
         int hour, minute;

@@ -1,0 +1,145 @@
+// Settling a doubtful cell from its two readings and what the rows around it say.
+#include "timetable/OcrLines.h"
+#include "timetable/OcrWords.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+
+namespace tarvanel::OcrLines {
+
+using namespace words;
+
+namespace {
+
+// "5:015:42" or "5:01 5:42" as the times it is made of; empty unless it is times only.
+QStringList timesRunTogether(const QString& text) {
+    static const QRegularExpression next(QStringLiteral("\\s*(([01]?\\d|2[0-3])[:.][0-5]\\d)"));
+    QStringList times;
+    for (qsizetype at = 0; !QStringView(text).mid(at).trimmed().isEmpty();) {
+        const QRegularExpressionMatch m = next.match(text, at, QRegularExpression::NormalMatch,
+                                                     QRegularExpression::AnchorAtOffsetMatchOption);
+        if (!m.hasMatch()) return {};
+        times << m.captured(1);
+        at = m.capturedEnd();
+    }
+    return times;
+}
+
+// A 6 where a time cannot hold one (12:62, 65:15) is a 0 whose gap blurred shut; empty when
+// that makes no time either.
+QString zeroForSix(const QString& reading) {
+    static const QRegularExpression shape(QStringLiteral("^(\\d{1,2})([:.])(\\d)(\\d.*)$"));
+    const QRegularExpressionMatch m = shape.match(reading);
+    if (!m.hasMatch()) return {};
+    QString hours = m.captured(1), tens = m.captured(3);
+    if (tens == u"6") tens = QStringLiteral("0");
+    if (hours.size() == 2 && hours[0] == u'6') hours[0] = u'0';
+    const QString fixed = hours + m.captured(2) + tens + m.captured(4);
+    return fixed != reading && isTime(fixed) ? fixed : QString();
+}
+// "133015441600" as 13:30, 15:44 and 16:00; empty unless it is two or more such times.
+QStringList runOfFours(const QString& reading) {
+    QString digits;
+    for (QChar c : reading)
+        if (c.isDigit())
+            digits += c;
+        else if (c.isLetterOrNumber())
+            return {};
+    if (digits.size() < 8 || digits.size() % 4 != 0) return {};
+    QStringList times;
+    for (qsizetype at = 0; at < digits.size(); at += 4) {
+        const QString time = digits.mid(at, 2) + u':' + digits.mid(at + 2, 2);
+        if (!isTime(time)) return {};
+        times << time;
+    }
+    return times;
+}
+
+// "4:26" from "4:26.62" or "442~": a time whose cell also holds a mark after it (an Arabic
+// am/pm letter, a footnote's star) read as a few more characters. Empty unless the reading
+// begins with a time, its colon perhaps lost, that no digit follows; a longer tail is more
+// cells run together, not a mark.
+QString leadingTime(const QString& reading) {
+    static const QRegularExpression re(
+        QStringLiteral("^([01]?\\d|2[0-3])([:.]?)([0-5]\\d)(?!\\d).{1,3}$"));
+    const QRegularExpressionMatch m = re.match(reading);
+    if (!m.hasMatch()) return {};
+    return m.captured(1) + (m.captured(2).isEmpty() ? QStringLiteral(":") : m.captured(2)) +
+           m.captured(3);
+}
+
+// ".15" read again from "SS": the second reading kept the minutes but dropped an hour printed
+// in a shape it did not allow (a serif 5 taken for an S); the first reading, its look-alike
+// letters read as digits, still holds that hour before the minutes. Empty when it does not.
+QString withHourOf(const QString& first, const QString& second) {
+    static const QRegularExpression minutesOnly(QStringLiteral("^[:.]([0-5]\\d)$"));
+    const QRegularExpressionMatch m = minutesOnly.match(second);
+    if (!m.hasMatch()) return {};
+    QString digits;
+    for (QChar c : asDigits(first))
+        if (c.isDigit()) digits += c;
+    const QString hour = digits.endsWith(m.captured(1)) && digits.size() > 2
+                             ? digits.left(digits.size() - 2)
+                             : digits.left(1);
+    const QString time = hour + second;
+    return isTime(time) ? time : QString();
+}
+} // namespace
+
+QString settle(const Doubt& doubt, const QString& first, const QString& second) {
+    if (doubt.kind == Doubt::Day) {
+        if (doubt.expected > 0 && isDay(QString::number(doubt.expected)))
+            return QString::number(doubt.expected);
+        return isDay(second) ? second : first;
+    }
+    auto withColon = [](const QString& digits) {
+        return digits.left(digits.size() - 2) + u':' + digits.right(2);
+    };
+    // A first reading that lacks only its colon keeps its digits: a second reading held to fewer
+    // characters more often changes a digit than finds a lost one.
+    if (colonless().match(first).hasMatch() && withColon(first) != second &&
+        withColon(first) != QString(second).replace(u'.', u':'))
+        return withColon(first);
+    if (!isTime(second)) {
+        // Cells a rule's remains had joined.
+        const QStringList parts = timesRunTogether(second);
+        if (parts.size() > 1 && !isTime(first)) return parts.join(QStringLiteral("   "));
+        if (isTime(first)) return first;
+        // 24-hour cells run together with their colons lost: "133015441600".
+        for (const QString& reading : {second, first}) {
+            const QStringList fours = runOfFours(reading);
+            if (!fours.isEmpty()) return fours.join(QStringLiteral("   "));
+        }
+        // The readings as they stand, then with letters that look like digits read as those.
+        const QStringList readings{second, first, asDigits(second), asDigits(first)};
+        for (const QString& reading : readings)
+            if (isTime(reading)) return reading;
+        if (const QString whole = withHourOf(first, second); !whole.isEmpty()) return whole;
+        for (const QString& reading : readings)
+            if (const QString time = leadingTime(reading); !time.isEmpty()) return time;
+        for (const QString& reading : readings)
+            if (const QString fixed = zeroForSix(reading); !fixed.isEmpty()) return fixed;
+        // A blurred colon is the first thing a photo loses: 448 in a column of times is 4:48.
+        for (const QString& reading : readings)
+            if (colonless().match(reading).hasMatch())
+                return reading.left(reading.size() - 2) + u':' + reading.right(2);
+        // Unreadable still: the time the rows around it agree on, when the digits that end a
+        // reading (one or two) end that time's minutes.
+        for (const QString& reading : readings) {
+            qsizetype tail = 0;
+            while (tail < reading.size() && reading[reading.size() - 1 - tail].isDigit())
+                ++tail;
+            if (!doubt.agreed.isEmpty() && tail > 0 &&
+                doubt.agreed.endsWith(reading.right(std::min<qsizetype>(tail, 2))))
+                return doubt.agreed;
+        }
+        return first;
+    }
+    if (doubt.expected < 0 || !isTime(first)) return second;
+    return dialDistance(dialMinutes(second), doubt.expected) <
+                   dialDistance(dialMinutes(first), doubt.expected)
+               ? second
+               : first;
+}
+
+} // namespace tarvanel::OcrLines

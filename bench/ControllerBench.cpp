@@ -4,8 +4,8 @@
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
 #include "lock/AppDelegate.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

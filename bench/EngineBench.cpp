@@ -3,7 +3,7 @@
 #include "engine/LocalTime.h"
 #include "engine/PrayerTimes.h"
 #include "engine/Schedule.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

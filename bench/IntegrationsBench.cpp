@@ -1,7 +1,7 @@
 // Speed of a calendar sync among thousands of the user's own events.
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

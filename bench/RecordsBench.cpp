@@ -4,7 +4,7 @@
 #include "guardian/Guardian.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "timetable/TimetableParser.h"
 
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #pragma once
 // A throw-away home for the fuzzers, so loaders read and write files there and nowhere else.
 #include "engine/LocalTime.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 // The login service: its unit, installing it, the hand-off of a copy opened by hand, uninstalling,
 // the single instance and the stamp. systemctl is a script that answers a little later.
 #include "app/Agent.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"

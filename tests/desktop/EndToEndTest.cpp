@@ -3,7 +3,7 @@
 // typed through Arabic and Persian keyboard layouts.
 #include "EndToEnd.h"
 #include "guardian/Guardian.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QFile>
 #include <QJsonArray>

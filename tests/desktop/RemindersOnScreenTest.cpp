@@ -3,7 +3,7 @@
 #include "app/Agent.h"
 #include "desktop/BannerPanel.h"
 #include "lock/AppDelegate.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 

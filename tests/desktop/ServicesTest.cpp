@@ -4,7 +4,7 @@
 #include "desktop/QtPlatform.h"
 #include "desktop/Sounds.h"
 #include "desktop/SystemEvents.h"
-#include "records/Log.h"
+#include "base/Log.h"
 #include "support/TestEnv.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "engine/Config.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QJsonDocument>

@@ -2,8 +2,8 @@
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "engine/PrayerTimes.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 using namespace tarvanel;

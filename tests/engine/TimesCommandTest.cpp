@@ -1,7 +1,7 @@
 // Runs the real binary: `tarvanel --times` must print the header and table to the character.
 #include "app/CommandLine.h"
 #include "engine/LocalTime.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QProcess>

@@ -1,5 +1,5 @@
 #include "guardian/Guardian.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QFile>

@@ -2,7 +2,7 @@
 // did not write), what it leaves alone, when it runs, and asking for access.
 #include "engine/DayTimes.h"
 #include "integrations/PrayerCalendar.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 

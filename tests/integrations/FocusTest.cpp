@@ -1,7 +1,7 @@
 // Focus scripts: run beside the event loop, failures and hangs logged, ready-made pairs.
 #include "integrations/FocusShortcuts.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 // last good settings keep locking; a good one reaches an open settings window.
 #include "DaySimulator.h"
 
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -3,7 +3,7 @@
 #include "app/Agent.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
-#include "records/Log.h"
+#include "base/Log.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

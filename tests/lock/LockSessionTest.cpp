@@ -5,7 +5,7 @@
 #include "guardian/Guardian.h"
 #include "integrations/PrayerCalendar.h"
 #include "records/History.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "timetable/Timetable.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 // Call presence over fake /proc trees, and the adhan file's order of preference.
 #include "lock/Presence.h"
-#include "app/ToolRunner.h"
-#include "records/StateFiles.h"
+#include "base/ToolRunner.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QDir>

@@ -4,7 +4,7 @@
 #include "engine/LocalTime.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QFile>

@@ -7,7 +7,7 @@
 #include "engine/Schedule.h"
 #include "integrations/FocusShortcuts.h"
 #include "records/History.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 #include "engine/Schedule.h"
 #include "records/Excused.h"
 #include "records/LockState.h"
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 // Excused, pause and travel: the modes that hold reminders and locks back.
 #include "records/Modes.h"
 #include "records/Excused.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 #include "support/TestEnv.h"
 

@@ -1,5 +1,5 @@
 #include "records/TravelLocator.h"
-#include "records/Log.h"
+#include "base/Log.h"
 #include "support/TestEnv.h"
 
 #include <QEventLoop>

@@ -4,8 +4,8 @@
 #include "records/Excused.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

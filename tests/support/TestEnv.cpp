@@ -1,8 +1,8 @@
 #include "support/TestEnv.h"
 #include "engine/Config.h"
 #include "engine/LocalTime.h"
-#include "records/Log.h"
-#include "records/StateFiles.h"
+#include "base/Log.h"
+#include "base/StateFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "records/StateFiles.h"
+#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

@@ -29,14 +29,14 @@ trap cleanup EXIT
 
 Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$tmp/display" 2>/dev/null &
 pids+=($!)
-for _ in $(seq 100); do [ -s "$tmp/display" ] && break; sleep 0.05; done
+for _ in $(seq 400); do [ -s "$tmp/display" ] && break; sleep 0.05; done
 export DISPLAY=":$(head -n 1 "$tmp/display")"
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 
 trayer --edge top --align right --widthtype pixel --width 200 --height 32 >/dev/null 2>&1 &
 pids+=($!)
 tray=""
-for _ in $(seq 100); do
+for _ in $(seq 400); do
     # trayer's icons sit in its window named "panel".
     tray="$(xdotool search --class trayer 2>/dev/null | while read -r w; do
         xwininfo -id "$w" | grep -q '"panel"$' && echo "$w"; done | head -n 1 || true)"

@@ -3,7 +3,6 @@
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SystemEvents.h"
-#include "ocr/TimetableOCR.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -41,7 +40,6 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     }
 
 #ifdef TARVANEL_HAVE_CONTROLLER
-    TimetableOCR::restartWithThreadLimit(argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarvanel"));
     // No display name: Qt would append " — Tarvanel" to every window title that does not end

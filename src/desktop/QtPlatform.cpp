@@ -1,14 +1,13 @@
 #include "desktop/QtPlatform.h"
 
+#include "base/Log.h"
+#include "base/StateFiles.h"
 #include "desktop/Dialogs.h"
 #include "desktop/LockBackendChoice.h"
 #include "desktop/TimetableImportView.h"
 #include "desktop/settings/PrayerSettingsView.h"
 #include "desktop/wayland/WaylandLock.h"
 #include "lock/LockScreenState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
-#include "settings/CitySearch.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -142,7 +141,6 @@ void QtPlatform::openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
         return;
     }
     if (!model) return;
-    GeonamesGeocoder::warmUp(); // the city table loads while the user reads the window
     model->setSoundPlayer([this](const QString& path) { return sounds_.playFile(path); },
                           [this] { sounds_.stopFile(); });
     if (!tray_.ensureCreated())

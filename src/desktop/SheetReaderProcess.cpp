@@ -1,5 +1,6 @@
 #include "desktop/SheetReaderProcess.h"
 
+#include "base/Log.h"
 #include "timetable/ReaderMessages.h"
 
 #include <QCoreApplication>
@@ -85,6 +86,9 @@ void SheetReaderProcess::read(const QString& path) {
 void SheetReaderProcess::ended(QProcess* process, const QString& fileName, const QString& status) {
     if (!processes_.removeOne(process)) return; // reported already
     process->deleteLater();
+    logLine(QStringLiteral("Tarvanel: the sheet reader gave nothing for ") + fileName +
+            QStringLiteral(" (") + process->program() + QStringLiteral(", ") +
+            process->errorString() + QStringLiteral(")"));
     emit failed(fileName, status);
 }
 

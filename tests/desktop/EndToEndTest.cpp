@@ -2,8 +2,8 @@
 // the tray icon, the agent locking at a prayer under a sped-up fake clock, and a guardian code
 // typed through Arabic and Persian keyboard layouts.
 #include "EndToEnd.h"
-#include "guardian/Guardian.h"
 #include "base/StateFiles.h"
+#include "guardian/Guardian.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -132,4 +132,28 @@ TEST_F(EndToEnd, GuardianCodeTypedOnArabicAndPersianLayoutsEndsTheLock) {
     ASSERT_TRUE(type(inDigits(code.mid(3), 0x06F0)));
     EXPECT_EQ(tarvanel.finish(5000), 0) << tarvanel.dump();
     EXPECT_TRUE(tarvanel.log.contains("Tarvanel: unlocked after Test")) << tarvanel.dump();
+}
+
+TEST_F(EndToEnd, TheAgentReadsNoImageItselfAndOutlivesAReaderThatCrashes) {
+    writeSupportFile("config.json", "{" + london + "}");
+    const QString reader = scratchHome() + "/crashing-reader.sh";
+    QFile script(reader);
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nsleep 0.5\nkill -SEGV $$\n");
+    script.close();
+    script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
+    QProcessEnvironment env = environment(true);
+    env.insert("TARVANEL_SHEET_READER", reader);
+    Program tarvanel(env, {scratchHome() + "/sheet.png"});
+    ASSERT_TRUE(tarvanel.waitForLog("Tarvanel: the sheet reader gave nothing for sheet.png (" +
+                                        reader + ", Process crashed)",
+                                    15000))
+        << tarvanel.dump();
+    QThread::msleep(500);
+    ASSERT_TRUE(tarvanel.running()) << tarvanel.dump();
+    QFile maps(QString("/proc/%1/maps").arg(tarvanel.process.processId()));
+    ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+    const QString mapped = QString::fromUtf8(maps.readAll());
+    for (const char* library : {"libtesseract", "liblept", "libpoppler"})
+        EXPECT_FALSE(mapped.contains(library)) << library;
 }

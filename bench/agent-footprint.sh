@@ -33,7 +33,7 @@ for _ in $(seq 400); do [ -s "$tmp/display" ] && break; sleep 0.05; done
 export DISPLAY=":$(head -n 1 "$tmp/display")"
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 
-trayer --edge top --align right --widthtype pixel --width 200 --height 32 >/dev/null 2>&1 &
+trayer --edge top --align right --widthtype pixel --width 200 --height 32 >"$tmp/trayer.log" 2>&1 &
 pids+=($!)
 tray=""
 for _ in $(seq 400); do
@@ -43,7 +43,7 @@ for _ in $(seq 400); do
     [ -n "$tray" ] && break
     sleep 0.05
 done
-[ -n "$tray" ] || { echo "trayer did not start" >&2; exit 1; }
+[ -n "$tray" ] || { echo "trayer did not start on $DISPLAY: $(cat "$tmp/trayer.log")" >&2; exit 1; }
 
 mkdir -p "$tmp/home/.tarvanel" "$tmp/run"
 chmod 700 "$tmp/run"

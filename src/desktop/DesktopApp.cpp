@@ -4,7 +4,6 @@
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SystemEvents.h"
-#include "ocr/TimetableOCR.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -42,7 +41,6 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     }
 
 #ifdef TARVANEL_HAVE_CONTROLLER
-    TimetableOCR::restartWithThreadLimit(argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarvanel"));
     // No display name: Qt would append " — Tarvanel" to every window title that does not end

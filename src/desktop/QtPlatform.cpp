@@ -145,7 +145,6 @@ void QtPlatform::openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
         return;
     }
     if (!model) return;
-    GeonamesGeocoder::warmUp(); // the city table loads while the user reads the window
     model->setSoundPlayer([this](const QString& path) { return sounds_.playFile(path); },
                           [this] { sounds_.stopFile(); });
     if (!tray_.ensureCreated())

@@ -1,5 +1,6 @@
 #include "desktop/TimetableImportView.h"
 
+#include "desktop/SheetReaderProcess.h"
 #include "timetable/Timetable.h"
 
 #include <QComboBox>
@@ -52,7 +53,7 @@ QGroupBox* section(const QString& header, const QString& footer, QLayout* rows, 
 TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> save,
                                          std::function<void()> cancel, QWidget* parent)
     : QWidget(parent), save_(std::move(save)), cancel_(std::move(cancel)),
-      model_(new TimetableImportModel(this)), reader_(new TimetableImageReader(this)) {
+      model_(new TimetableImportModel(this)), reader_(new SheetReaderProcess(this)) {
     setMinimumSize(576, 520);
     auto* form = new QWidget;
     auto* formLayout = new QVBoxLayout(form);
@@ -172,9 +173,10 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     connect(month_, &QComboBox::activated, this,
             [this](int index) { model_->setMonth(month_->itemData(index).toInt()); });
     connect(year_, &QSpinBox::valueChanged, this, [this](int year) { model_->setYear(year); });
-    connect(reader_, &TimetableImageReader::finished, model_,
+    connect(reader_, &SheetReaderProcess::finished, model_,
             &TimetableImportModel::imageReadFinished);
-    connect(reader_, &TimetableImageReader::progress, model_,
+    connect(reader_, &SheetReaderProcess::failed, model_, &TimetableImportModel::imageReadFailed);
+    connect(reader_, &SheetReaderProcess::progress, model_,
             &TimetableImportModel::imageReadProgress);
     connect(choose, &QPushButton::clicked, this, &TimetableImportView::chooseFile);
     connect(cancelButton, &QPushButton::clicked, this, [this] { cancel_(); });

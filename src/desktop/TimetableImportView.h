@@ -2,7 +2,6 @@
 // The import form: the sheet's text (typed, pasted, or read from a file), which column is
 // which prayer, month and year, and a preview of the days that "Use This Timetable" saves.
 #include "desktop/TimetableTextMarks.h"
-#include "ocr/TimetableOCR.h"
 #include "timetable/TimetableImportModel.h"
 
 #include <QPointer>
@@ -20,6 +19,8 @@ class QVBoxLayout;
 
 namespace tarvanel {
 
+class SheetReaderProcess;
+
 class TimetableImportView : public QWidget {
     Q_OBJECT
 public:
@@ -28,7 +29,7 @@ public:
                         QWidget* parent = nullptr);
 
     TimetableImportModel& model() { return *model_; }
-    // Reads a text, CSV, image or PDF file into the model (images on the thread pool).
+    // Reads a text, CSV, image or PDF file into the model (images and PDFs in the reader process).
     void openFile(const QString& path);
     void chooseFile(); // the open panel; nothing happens when it is cancelled
 
@@ -48,7 +49,7 @@ private:
     std::function<void(const DayTable&)> save_;
     std::function<void()> cancel_;
     TimetableImportModel* model_;
-    TimetableImageReader* reader_;
+    SheetReaderProcess* reader_;
     QPlainTextEdit* editor_;
     QProgressBar* spinner_;
     QLabel* status_;

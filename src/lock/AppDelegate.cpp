@@ -10,8 +10,6 @@
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/Presence.h"
-#include "records/History.h"
-#include "records/LockState.h"
 #include "records/TravelLocator.h"
 
 #include <QFile>

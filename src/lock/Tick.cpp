@@ -10,7 +10,6 @@
 #include "lock/Scheduler.h"
 #include "records/ConfigFile.h"
 #include "records/Excused.h"
-#include "records/LockState.h"
 #include "records/TravelLocator.h"
 
 namespace tarvanel {

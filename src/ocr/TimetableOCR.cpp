@@ -7,10 +7,7 @@
 #include "timetable/TimetableParser.h"
 
 #include <QDate>
-#include <QFileInfo>
-#include <QFutureWatcher>
 #include <QRegularExpression>
-#include <QtConcurrent>
 #include <climits>
 #include <leptonica/allheaders.h>
 #include <unistd.h>
@@ -231,38 +228,5 @@ void restartWithThreadLimit(char** argv) {
 }
 
 } // namespace TimetableOCR
-
-TimetableImageReader::~TimetableImageReader() {
-    cancel();
-}
-
-void TimetableImageReader::cancel() {
-    for (QFutureWatcher<SheetReading>* watcher : std::as_const(watchers_)) {
-        watcher->cancel();
-    }
-}
-
-void TimetableImageReader::read(const QString& path) {
-    auto* watcher = new QFutureWatcher<SheetReading>(this);
-    watchers_ << watcher;
-    const QString fileName = QFileInfo(path).fileName();
-    connect(watcher, &QFutureWatcher<SheetReading>::finished, this, [this, watcher, fileName] {
-        watchers_.removeOne(watcher);
-        watcher->deleteLater();
-        if (!watcher->isCanceled() && watcher->future().resultCount() > 0)
-            emit finished(fileName, watcher->result());
-    });
-    connect(watcher, &QFutureWatcher<SheetReading>::progressValueChanged, this,
-            [this, watcher](int page) { emit progress(page, watcher->progressMaximum()); });
-    watcher->setFuture(QtConcurrent::run([path](QPromise<SheetReading>& promise) {
-        SheetReader::Hooks hooks;
-        hooks.stop = [&promise] { return promise.isCanceled(); };
-        hooks.progress = [&promise](int page, int pageCount) {
-            promise.setProgressRange(0, pageCount);
-            promise.setProgressValue(page);
-        };
-        promise.addResult(SheetReader::read(path, hooks));
-    }));
-}
 
 } // namespace tarvanel

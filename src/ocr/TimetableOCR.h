@@ -1,12 +1,10 @@
 #pragma once
-// Text recognition of a timetable photo, screenshot or PDF with Tesseract, and its running
-// beside the event loop. Needs QtGui (QImage), so it lives apart from the GUI-free core.
+// Text recognition of a timetable photo, screenshot or PDF with Tesseract. Needs QtGui (QImage),
+// so it lives apart from the GUI-free core; the agent runs it in the sheet reader process.
 #include "ocr/PageImage.h"
 #include "timetable/OcrLines.h"
 
-#include <QFutureWatcher>
 #include <QImage>
-#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -36,24 +34,5 @@ QStringList readFile(const QString& path);
 void restartWithThreadLimit(char** argv);
 
 } // namespace TimetableOCR
-
-// Reads image and PDF files on the thread pool, one task per file; each result arrives through
-// the event loop in the order the reads finish. Destroying the reader stops its reads.
-class TimetableImageReader : public QObject {
-    Q_OBJECT
-public:
-    using QObject::QObject;
-    ~TimetableImageReader() override;
-    void read(const QString& path);
-    // Every read under way stops between two words and reports nothing.
-    void cancel();
-
-signals:
-    void progress(int page, int pageCount);
-    void finished(const QString& fileName, const SheetReading& reading);
-
-private:
-    QList<QFutureWatcher<SheetReading>*> watchers_;
-};
 
 } // namespace tarvanel

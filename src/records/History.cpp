@@ -4,7 +4,6 @@
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
 #include "engine/Schedule.h"
-#include "records/LockState.h"
 #include "timetable/Timetable.h"
 
 #include <QJsonArray>

@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QThreadPool>
 #include <algorithm>
+#include <malloc.h>
 #include <mutex>
 
 namespace tarvanel {
@@ -68,39 +69,70 @@ bool qualifies(const GeoPlace& p, const QString& qualifier) {
            foldPlaceName(p.isoCountryCode) == code;
 }
 
-struct Indexed {
+// Every city in GeoNames order; read in one go.
+QList<GeoPlace> readCities() {
     QList<GeoPlace> places;
-    QStringList folded;
-};
-
-const Indexed& index() {
-    static Indexed idx;
-    static std::once_flag once;
-    std::call_once(once, [] {
-        const int n = geonames_get_n_cities();
-        idx.places.reserve(n);
-        for (int i = 0; i < n; ++i) {
-            GeonamesCity* c = geonames_get_city(i);
-            if (!c) continue;
-            GeoPlace p;
-            p.name = QString::fromUtf8(geonames_city_get_name(c));
-            p.locality = p.name;
-            p.administrativeArea = QString::fromUtf8(geonames_city_get_state(c));
-            p.country = QString::fromUtf8(geonames_city_get_country(c));
-            p.isoCountryCode = QString::fromUtf8(geonames_city_get_country_code(c));
-            p.timeZone = QString::fromUtf8(geonames_city_get_timezone(c));
-            p.latitude = geonames_city_get_latitude(c);
-            p.longitude = geonames_city_get_longitude(c);
-            p.population = geonames_city_get_population(c);
-            geonames_city_free(c);
-            idx.places << p;
-        }
-        idx.folded.reserve(idx.places.size());
-        for (const GeoPlace& p : idx.places)
-            idx.folded << foldPlaceName(p.name);
-    });
-    return idx;
+    const int n = geonames_get_n_cities();
+    places.reserve(n);
+    for (int i = 0; i < n; ++i) {
+        GeonamesCity* c = geonames_get_city(i);
+        if (!c) continue;
+        GeoPlace p;
+        p.name = QString::fromUtf8(geonames_city_get_name(c));
+        p.locality = p.name;
+        p.administrativeArea = QString::fromUtf8(geonames_city_get_state(c));
+        p.country = QString::fromUtf8(geonames_city_get_country(c));
+        p.isoCountryCode = QString::fromUtf8(geonames_city_get_country_code(c));
+        p.timeZone = QString::fromUtf8(geonames_city_get_timezone(c));
+        p.latitude = geonames_city_get_latitude(c);
+        p.longitude = geonames_city_get_longitude(c);
+        p.population = geonames_city_get_population(c);
+        geonames_city_free(c);
+        places << p;
+    }
+    return places;
 }
+
+// `folded` holds the places' folded names when the caller has them (the city table).
+QList<GeoPlace> matchPlaces(const QList<GeoPlace>& cities, const QStringList* folded,
+                            const QString& query, int limit) {
+    const qsizetype comma = query.indexOf(u',');
+    const QString qualifier = comma < 0 ? QString() : query.mid(comma + 1);
+    const QString name = foldPlaceName(comma < 0 ? query : query.left(comma));
+    if (name.isEmpty()) return {};
+    QStringList wanted = aliases().value(name);
+    if (!wanted.contains(name)) wanted.prepend(name);
+
+    struct Hit {
+        int rank; // 0: the name itself, 1: the name starts with it
+        const GeoPlace* place;
+    };
+    QList<Hit> hits;
+    for (qsizetype i = 0; i < cities.size(); ++i) {
+        const QString candidate = folded ? folded->at(i) : foldPlaceName(cities[i].name);
+        int rank = -1;
+        for (const QString& w : wanted) {
+            if (candidate == w)
+                rank = 0;
+            else if (rank < 0 && candidate.startsWith(w))
+                rank = 1;
+        }
+        if (rank >= 0 && qualifies(cities[i], qualifier)) hits.append({rank, &cities[i]});
+    }
+    std::stable_sort(hits.begin(), hits.end(), [](const Hit& a, const Hit& b) {
+        if (a.rank != b.rank) return a.rank < b.rank;
+        return a.place->population > b.place->population;
+    });
+    QList<GeoPlace> out;
+    for (const Hit& h : hits) {
+        if (out.size() >= limit) break;
+        out << *h.place;
+    }
+    return out;
+}
+
+std::mutex tableMutex;
+std::weak_ptr<const CityTable> liveTable;
 
 } // namespace
 
@@ -126,62 +158,63 @@ QString foldPlaceName(const QString& text) {
 }
 
 QList<GeoPlace> matchCities(const QList<GeoPlace>& cities, const QString& query, int limit) {
-    const qsizetype comma = query.indexOf(u',');
-    const QString qualifier = comma < 0 ? QString() : query.mid(comma + 1);
-    const QString name = foldPlaceName(comma < 0 ? query : query.left(comma));
-    if (name.isEmpty()) return {};
-    QStringList wanted = aliases().value(name);
-    if (!wanted.contains(name)) wanted.prepend(name);
+    return matchPlaces(cities, nullptr, query, limit);
+}
 
-    struct Hit {
-        int rank; // 0: the name itself, 1: the name starts with it
-        const GeoPlace* place;
-    };
-    QList<Hit> hits;
-    const bool isIndex = &cities == &index().places;
-    for (qsizetype i = 0; i < cities.size(); ++i) {
-        const QString folded = isIndex ? index().folded[i] : foldPlaceName(cities[i].name);
-        int rank = -1;
-        for (const QString& w : wanted) {
-            if (folded == w)
-                rank = 0;
-            else if (rank < 0 && folded.startsWith(w))
-                rank = 1;
-        }
-        if (rank >= 0 && qualifies(cities[i], qualifier)) hits.append({rank, &cities[i]});
-    }
-    std::stable_sort(hits.begin(), hits.end(), [](const Hit& a, const Hit& b) {
-        if (a.rank != b.rank) return a.rank < b.rank;
-        return a.place->population > b.place->population;
+std::shared_ptr<const CityTable> CityTable::shared() {
+    const std::lock_guard lock(tableMutex);
+    if (std::shared_ptr<const CityTable> table = liveTable.lock()) return table;
+    auto* table = new CityTable;
+    table->places_ = readCities();
+    table->folded_.reserve(table->places_.size());
+    for (const GeoPlace& p : std::as_const(table->places_))
+        table->folded_ << foldPlaceName(p.name);
+    // Some 24,000 small strings: hand the freed pages back, or the agent keeps them anyway.
+    std::shared_ptr<const CityTable> held(table, [](const CityTable* t) {
+        delete t;
+        ::malloc_trim(0);
     });
-    QList<GeoPlace> out;
-    for (const Hit& h : hits) {
-        if (out.size() >= limit) break;
-        out << *h.place;
+    liveTable = held;
+    return held;
+}
+
+bool CityTable::inMemory() {
+    const std::lock_guard lock(tableMutex);
+    return !liveTable.expired();
+}
+
+QList<GeoPlace> CityTable::match(const QString& query, int limit) const {
+    return matchPlaces(places_, &folded_, query, limit);
+}
+
+// The geocoder's hold on the table, shared with the searches it started.
+struct GeonamesGeocoder::Holder {
+    std::mutex mutex;
+    std::shared_ptr<const CityTable> table;
+    std::shared_ptr<const CityTable> get() {
+        const std::lock_guard lock(mutex);
+        if (!table) table = CityTable::shared();
+        return table;
     }
-    return out;
-}
+};
 
-const QList<GeoPlace>& geonamesCities() {
-    return index().places;
-}
-
-void GeonamesGeocoder::warmUp() {
-    QThreadPool::globalInstance()->start([] { index(); });
+GeonamesGeocoder::GeonamesGeocoder() : holder_(std::make_shared<Holder>()) {
+    QThreadPool::globalInstance()->start([holder = holder_] { holder->get(); });
 }
 
 void GeonamesGeocoder::geocode(const QString& text, QObject* context,
                                std::function<void(QList<GeoPlace>)> answer) {
     QPointer<QObject> weak(context);
-    QThreadPool::globalInstance()->start([text, weak, answer = std::move(answer)] {
-        QList<GeoPlace> places = matchCities(geonamesCities(), text);
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [weak, answer, places = std::move(places)] {
-                if (weak) answer(places);
-            },
-            Qt::QueuedConnection);
-    });
+    QThreadPool::globalInstance()->start(
+        [holder = holder_, text, weak, answer = std::move(answer)] {
+            QList<GeoPlace> places = holder->get()->match(text);
+            QMetaObject::invokeMethod(
+                QCoreApplication::instance(),
+                [weak, answer, places = std::move(places)] {
+                    if (weak) answer(places);
+                },
+                Qt::QueuedConnection);
+        });
 }
 
 } // namespace tarvanel

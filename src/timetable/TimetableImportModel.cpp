@@ -316,4 +316,9 @@ void TimetableImportModel::imageReadFinished(const QString& fileName, const Shee
     assignText(reading.lines.join(QLatin1Char('\n')), reading.doubtful);
 }
 
+void TimetableImportModel::imageReadFailed(const QString&, const QString& status) {
+    readsUnderWay_ = std::max(0, readsUnderWay_ - 1);
+    setStatus(status);
+}
+
 } // namespace tarvanel

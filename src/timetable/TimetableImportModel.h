@@ -72,6 +72,9 @@ public:
     // "Reading page 3 of 12…" while a file of several pages is read.
     void imageReadProgress(int page, int pageCount);
     void imageReadFinished(const QString& fileName, const SheetReading& reading);
+    // The read ended without an answer (the reader crashed or is missing): `status` says so and
+    // the text stays as it was.
+    void imageReadFailed(const QString& fileName, const QString& status);
 
 signals:
     void textChanged();

@@ -11,7 +11,8 @@ deb="${TARVANEL_PACKAGE_DEB:-$(TARVANEL_PACKAGE_DIR="$here/build-package" "$here
 fail() { echo "FAIL: $*"; exit 1; }
 
 files="$(dpkg-deb -c "$deb" | awk '{print $6}' | sed 's|^\./|/|')"
-for f in /usr/bin/tarvanel /usr/share/applications/com.velmora.tarvanel.desktop \
+for f in /usr/bin/tarvanel /usr/libexec/tarvanel/tarvanel-sheet-reader \
+    /usr/share/applications/com.velmora.tarvanel.desktop \
     /usr/share/icons/hicolor/scalable/apps/com.velmora.tarvanel.svg \
     /usr/share/icons/hicolor/16x16/apps/com.velmora.tarvanel.png \
     /usr/share/icons/hicolor/256x256/apps/com.velmora.tarvanel.png \

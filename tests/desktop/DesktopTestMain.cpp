@@ -12,6 +12,10 @@ int main(int argc, char** argv) {
     // ctest's environment for these tests loses the thread limit (the list's semicolon splits
     // it off), and the text recognition tests run several times slower without it.
     TimetableOCR::restartWithThreadLimit(argv);
+#ifdef TARVANEL_SHEET_READER_BUILT
+    if (!qEnvironmentVariableIsSet("TARVANEL_SHEET_READER"))
+        qputenv("TARVANEL_SHEET_READER", TARVANEL_SHEET_READER_BUILT);
+#endif
     ::testing::InitGoogleTest(&argc, argv);
     test::useScratchHome();
     useOffscreenScreens(test::scratchHome() + QStringLiteral("/../screens.json"),

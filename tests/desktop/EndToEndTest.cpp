@@ -4,7 +4,6 @@
 #include "EndToEnd.h"
 #include "base/StateFiles.h"
 #include "guardian/Guardian.h"
-#include "base/StateFiles.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -68,18 +67,15 @@ TEST_F(EndToEnd, AgentLocksEveryMonitorAtThePrayerAndRecordsIt) {
 
     // Twenty fake seconds before the lock, the clock running ten times as fast.
     QProcessEnvironment env = environment(true);
-    env.remove("OMP_THREAD_LIMIT"); // so that it starts itself again with the limit
     env.insert("LD_PRELOAD", libfaketime);
     env.insert("FAKETIME", "@2026-03-03 12:59:40 x10");
     env.insert("FAKETIME_NO_CACHE", "1");
     Program tarvanel(env, {});
     ASSERT_TRUE(tarvanel.waitForLog("Tarvanel: locked for Dhuhr until", 15000)) << tarvanel.dump();
     EXPECT_TRUE(bothLocked(4000)) << "the lock did not cover both monitors";
-    // Started again with the limit, it kept its name for ps and top.
+    // ps and top show it by its name.
     const QString proc = "/proc/" + QString::number(tarvanel.process.processId());
     EXPECT_EQ(readWholeFile(proc + "/comm"), "tarvanel\n");
-    EXPECT_TRUE(
-        readWholeFile(proc + "/environ").value_or("").split('\0').contains("OMP_THREAD_LIMIT=1"));
     ASSERT_TRUE(tarvanel.waitForLog("Tarvanel: unlocked after Dhuhr", 15000)) << tarvanel.dump();
     QThread::msleep(500);
     shot = screenshot();
@@ -147,4 +143,28 @@ TEST_F(EndToEnd, GuardianCodeTypedOnArabicAndPersianLayoutsEndsTheLock) {
     ASSERT_TRUE(type(inDigits(code.mid(3), 0x06F0)));
     EXPECT_EQ(tarvanel.finish(5000), 0) << tarvanel.dump();
     EXPECT_TRUE(tarvanel.log.contains("Tarvanel: unlocked after Test")) << tarvanel.dump();
+}
+
+TEST_F(EndToEnd, TheAgentReadsNoImageItselfAndOutlivesAReaderThatCrashes) {
+    writeSupportFile("config.json", "{" + london + "}");
+    const QString reader = scratchHome() + "/crashing-reader.sh";
+    QFile script(reader);
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nsleep 0.5\nkill -SEGV $$\n");
+    script.close();
+    script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
+    QProcessEnvironment env = environment(true);
+    env.insert("TARVANEL_SHEET_READER", reader);
+    Program tarvanel(env, {scratchHome() + "/sheet.png"});
+    ASSERT_TRUE(tarvanel.waitForLog("Tarvanel: the sheet reader gave nothing for sheet.png (" +
+                                        reader + ", Process crashed)",
+                                    15000))
+        << tarvanel.dump();
+    QThread::msleep(500);
+    ASSERT_TRUE(tarvanel.running()) << tarvanel.dump();
+    QFile maps(QString("/proc/%1/maps").arg(tarvanel.process.processId()));
+    ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+    const QString mapped = QString::fromUtf8(maps.readAll());
+    for (const char* library : {"libtesseract", "liblept", "libpoppler"})
+        EXPECT_FALSE(mapped.contains(library)) << library;
 }

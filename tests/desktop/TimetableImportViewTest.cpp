@@ -13,8 +13,10 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace tarvanel;
@@ -150,4 +152,69 @@ TEST(TimetableImportViewTest, CellsSettledFromTheirNeighboursAreMarkedUntilTyped
     EXPECT_EQ(note(),
               "1 cell was hard to read and is marked in yellow: check it against the sheet.");
     EXPECT_EQ(model.days().value("2026-03-01").value("Dhuhr"), "13:15");
+}
+
+namespace {
+
+// A stand-in for the sheet reader: a shell script that gets the file's path as the real one.
+QString fakeReader(const QTemporaryDir& dir, const QByteArray& body) {
+    const QString path = dir.filePath("reader.sh");
+    QFile script(path);
+    EXPECT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\n" + body + "\n");
+    script.close();
+    script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
+    return path;
+}
+
+QLabel* labelSaying(QWidget* view, const QString& start) {
+    for (auto* label : view->findChildren<QLabel*>())
+        if (label->text().startsWith(start)) return label;
+    return nullptr;
+}
+
+} // namespace
+
+TEST(TimetableImportViewTest, AReaderThatCrashesOrIsMissingLeavesAStatusAndAUsableWindow) {
+    QTemporaryDir dir;
+    const QByteArray before = qgetenv("TARVANEL_SHEET_READER");
+    // Says it started on the first of three pages, a little later falls over.
+    qputenv("TARVANEL_SHEET_READER",
+            fakeReader(dir, "echo '{\"page\":1,\"pages\":3}'; sleep 0.3; kill -SEGV $$").toUtf8());
+    TimetableImportView* view = openTimetableImport(QString(), {});
+    auto* editor = view->findChild<QPlainTextEdit*>();
+    editor->setPlainText("April 2026\n1 Wed 5:01 1:10 4:20 7:30 8:40\n");
+    view->openFile(dir.filePath("sheet.png"));
+    EXPECT_TRUE(view->model().reading());
+    EXPECT_NE(labelSaying(view, "Reading sheet.png\u2026"), nullptr);
+    EXPECT_TRUE(test::waitFor([&] { return labelSaying(view, "Reading page 1 of 3"); }, 5000));
+    ASSERT_TRUE(test::waitFor([&] { return !view->model().reading(); }, 5000));
+    const QString crashed = "The reader stopped unexpectedly while reading sheet.png. Nothing was "
+                            "changed: try another photo or PDF, or paste the text.";
+    QLabel* status = labelSaying(view, crashed);
+    ASSERT_NE(status, nullptr);
+    EXPECT_EQ(status->accessibleName(), crashed);
+    EXPECT_FALSE(view->findChild<QProgressBar*>()->isVisible());
+    EXPECT_EQ(editor->toPlainText(), "April 2026\n1 Wed 5:01 1:10 4:20 7:30 8:40\n");
+    // The window goes on working: typed rows count and can be used.
+    editor->appendPlainText("2 Thu 5:02 1:11 4:21 7:31 8:41");
+    EXPECT_EQ(view->findChildren<QGroupBox*>().last()->title(), "3. Preview (2 days)");
+
+    // No reader where it should be: said at once, with where it was looked for.
+    qputenv("TARVANEL_SHEET_READER", dir.filePath("gone/tarvanel-sheet-reader").toUtf8());
+    view->openFile(dir.filePath("sheet.pdf"));
+    ASSERT_TRUE(test::waitFor([&] { return !view->model().reading(); }, 5000));
+    EXPECT_EQ(view->model().status(), "Photos and PDFs can't be read: the reader is missing (" +
+                                          dir.filePath("gone/tarvanel-sheet-reader") +
+                                          "). Paste the text instead, or reinstall Tarvanel.");
+    EXPECT_EQ(view->model().days().size(), 2);
+
+    // A reader that answers nothing but ends normally reads as a crash too; its noise on
+    // standard output is ignored.
+    qputenv("TARVANEL_SHEET_READER", fakeReader(dir, "echo not json; exit 0").toUtf8());
+    view->openFile(dir.filePath("sheet.png"));
+    ASSERT_TRUE(test::waitFor([&] { return !view->model().reading(); }, 5000));
+    EXPECT_EQ(view->model().status(), crashed);
+    view->window()->close();
+    qputenv("TARVANEL_SHEET_READER", before);
 }

@@ -5,13 +5,14 @@
 #include "support/TestEnv.h"
 
 #include <QApplication>
+#include <QDirIterator>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QThreadPool>
 #include <gtest/gtest.h>
 #include <leptonica/allheaders.h>
 
@@ -116,6 +117,18 @@ int cellsRight(const DayTable& want, const DayTable& have) {
     return right;
 }
 
+// Processes of this user whose command line names `file`: the sheet readers reading it.
+int readersOf(const QString& file) {
+    int count = 0;
+    for (QDirIterator it("/proc", QDir::Dirs | QDir::NoDotAndDotDot); it.hasNext();) {
+        QFile cmdline(it.next() + "/cmdline");
+        if (cmdline.open(QIODevice::ReadOnly) &&
+            cmdline.readAll().split('\0').contains(file.toUtf8()))
+            ++count;
+    }
+    return count;
+}
+
 } // namespace
 
 TEST(TimetablePagesTest, TextPdfsAreReadFromTheirTextEveryPageInOrderUpToTwelve) {
@@ -186,10 +199,15 @@ TEST(TimetablePagesTest, TheWindowShowsEachPageAndClosingItStopsTheReading) {
     // The event loop keeps running while the pages are read.
     EXPECT_TRUE(
         test::waitFor([&] { return status->text() == "Reading page 2 of 12\u2026"; }, 20000));
+    // It is read in a process of its own, which Cancel ends at once.
+    EXPECT_EQ(readersOf(scans), 1);
+    QElapsedTimer cancelling;
+    cancelling.start();
     for (auto* button : view->findChildren<QPushButton*>())
         if (button->text() == "Cancel") button->click();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(QThreadPool::globalInstance()->waitForDone(3000));
+    EXPECT_TRUE(test::waitFor([&] { return readersOf(scans) == 0; }, 2000));
+    EXPECT_LE(cancelling.elapsed(), 500);
 
     // A text PDF of two months fills both, and the status says how many pages it had.
     view = openTimetableImport(

@@ -295,11 +295,40 @@ TEST(CitySearch, FoldsSpellingsAndPrefersTheMostPopulous) {
     const QString table = R"(Mecca|Makkah al Mukarramah|SA;Koln|Cologne|DE;Köln|Cologne|DE
         sao paulo|São Paulo|BR;LONDON|London|GB;London, Canada|London|CA;Madinah|Medina|SA
         Springfield|Springfield|US;Qqqzzzx||)";
+    const std::shared_ptr<const CityTable> cities = CityTable::shared();
     for (const QString& row : table.split(QRegularExpression("\\s*[;\\n]\\s*"))) {
         const QStringList want = row.split('|');
-        const QList<GeoPlace> found = matchCities(geonamesCities(), want[0]);
+        const QList<GeoPlace> found = cities->match(want[0]);
+        // Any list of places answers as the table does, folding as it goes.
+        const QList<GeoPlace> plain = matchCities(cities->places(), want[0], 3);
+        EXPECT_EQ(plain.value(0).name + plain.value(0).administrativeArea,
+                  found.value(0).name + found.value(0).administrativeArea);
+        EXPECT_LE(plain.size(), 3);
         const GeoPlace best = found.value(0);
         EXPECT_EQ(QStringList({want[0], best.name, best.isoCountryCode}), want);
         EXPECT_EQ(best.timeZone.isEmpty(), found.isEmpty());
     }
+}
+
+TEST(CitySearch, TheTableIsInMemoryOnlyWhileAGeocoderHoldsIt) {
+    QThreadPool::globalInstance()->waitForDone();
+    EXPECT_FALSE(CityTable::inMemory());
+    QList<GeoPlace> answer;
+    {
+        GeonamesGeocoder geocoder; // starts reading the table at once
+        QObject context;
+        geocoder.geocode("Mecca", &context,
+                         [&](const QList<GeoPlace>& places) { answer = places; });
+        ASSERT_TRUE(waitFor([&] { return !answer.isEmpty(); }));
+        EXPECT_EQ(answer.first().name, "Makkah al Mukarramah");
+        EXPECT_TRUE(CityTable::inMemory());
+        // A second holder shares the table rather than reading another.
+        EXPECT_EQ(&CityTable::shared()->places(), &CityTable::shared()->places());
+    }
+    // The searches under way hold it too, then let it go.
+    QThreadPool::globalInstance()->waitForDone();
+    EXPECT_FALSE(CityTable::inMemory());
+    { GeonamesGeocoder closedAtOnce; }
+    QThreadPool::globalInstance()->waitForDone();
+    EXPECT_FALSE(CityTable::inMemory());
 }

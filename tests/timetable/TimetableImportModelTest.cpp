@@ -1,6 +1,7 @@
 #include "timetable/TimetableImportModel.h"
 #include "support/TestEnv.h"
 #include "timetable/OcrLines.h"
+#include "timetable/ReaderMessages.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -117,10 +118,41 @@ TEST(TimetableImportModelTest, FilesAndImageReadsReportInTheStatusLine) {
     model.imageReadFinished("c.tiff", {{"1 5:00 6:00 7:00"}, {{0, 2, 4}}, 2, 2});
     EXPECT_EQ(model.status(), "Found 1 row with 3 times each. Read 2 pages.");
     EXPECT_EQ(model.doubtfulCells(), QList<TextMark>({{0, 2, 4}}));
+    // A read that ends without an answer says why and leaves the text and its marks alone.
+    model.imageReadStarted("d.png");
+    model.imageReadFailed("d.png", "The reader stopped.");
+    EXPECT_FALSE(model.reading());
+    EXPECT_EQ(model.status(), "The reader stopped.");
+    EXPECT_EQ(model.text(), "1 5:00 6:00 7:00");
+    EXPECT_EQ(model.doubtfulCells(), QList<TextMark>({{0, 2, 4}}));
     model.loadTextFile(write("plain.txt", "1 5:00 6:00 7:00"));
     EXPECT_EQ(model.status(), "Found 1 row with 3 times each.");
     EXPECT_TRUE(model.doubtfulCells().isEmpty());
     EXPECT_EQ(TimetableImportModel::kindOf("/x/Sheet.JPG"), ImportFileKind::Image);
+}
+
+TEST(TimetableImportModelTest, ReaderMessagesReadBackAsWritten) {
+    using ReaderMessages::Message;
+    const QByteArray progress = ReaderMessages::progress(3, 12);
+    EXPECT_TRUE(progress.endsWith('\n'));
+    EXPECT_EQ(progress.count('\n'), 1);
+    const Message page = ReaderMessages::parse(progress);
+    EXPECT_EQ(page.kind, Message::Progress);
+    EXPECT_EQ(std::pair(page.page, page.pageCount), std::pair(3, 12));
+
+    const SheetReading sent{
+        {"Masjid \"Noor\"", "1   5:01   1:10", "", "2 é 5:02"}, {{1, 4, 4}, {3, 0, 1}}, 2, 7};
+    const QByteArray line = ReaderMessages::reading(sent);
+    EXPECT_EQ(line.count('\n'), 1); // one line, however many the sheet has
+    const Message read = ReaderMessages::parse(line);
+    EXPECT_EQ(read.kind, Message::Reading);
+    EXPECT_EQ(read.reading.lines, sent.lines);
+    EXPECT_EQ(read.reading.doubtful, sent.doubtful);
+    EXPECT_EQ(std::pair(read.reading.pagesRead, read.reading.pageCount), std::pair(2, 7));
+    // Nothing read is still an answer; noise is none.
+    EXPECT_EQ(ReaderMessages::parse(ReaderMessages::reading({})).kind, Message::Reading);
+    for (const char* noise : {"", "Segmentation fault", "{\"lines\": 3}", "[1,2]"})
+        EXPECT_EQ(ReaderMessages::parse(noise).kind, Message::Unknown) << noise;
 }
 
 TEST(TimetableImportModelTest, RecognisedWordsGroupIntoLevelLines) {

@@ -5,6 +5,7 @@
 #include <QJsonParseError>
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 #include <variant>
 
 namespace tarvanel {
@@ -99,37 +100,33 @@ Mismatch mismatch(const char* expected, const QString& found) {
     return {QLatin1String(expected), found};
 }
 
+template <class T> struct Plain { using type = T; };
+template <class T> struct Plain<std::optional<T>> { using type = T; };
+
+// A text, number or boolean field, plain or optional: one type check, one assignment.
+template <class T> std::optional<Mismatch> decodeScalar(const QJsonValue& v, T& field) {
+    using Value = typename Plain<T>::type;
+    if constexpr (std::is_same_v<Value, QString>) {
+        if (!v.isString()) return mismatch("text", typeName(v));
+        field = v.toString();
+    } else if constexpr (std::is_same_v<Value, double>) {
+        if (!v.isDouble()) return mismatch("a number", typeName(v));
+        field = v.toDouble();
+    } else {
+        static_assert(std::is_same_v<Value, bool>);
+        if (!v.isBool()) return mismatch("a boolean", typeName(v));
+        field = v.toBool();
+    }
+    return std::nullopt;
+}
+
 // Fills one field from its JSON value (never absent or null here); a mismatch when the value
 // has another type. An array or object names its first element of the wrong type.
 std::optional<Mismatch> decodeField(const QJsonValue& v, Config& c, const Member& member) {
     using Result = std::optional<Mismatch>;
     return std::visit(
         Overloaded{
-            [&](QString Config::*m) -> Result {
-                if (!v.isString()) return mismatch("text", typeName(v));
-                c.*m = v.toString();
-                return std::nullopt;
-            },
-            [&](std::optional<QString> Config::*m) -> Result {
-                if (!v.isString()) return mismatch("text", typeName(v));
-                c.*m = v.toString();
-                return std::nullopt;
-            },
-            [&](double Config::*m) -> Result {
-                if (!v.isDouble()) return mismatch("a number", typeName(v));
-                c.*m = v.toDouble();
-                return std::nullopt;
-            },
-            [&](std::optional<double> Config::*m) -> Result {
-                if (!v.isDouble()) return mismatch("a number", typeName(v));
-                c.*m = v.toDouble();
-                return std::nullopt;
-            },
-            [&](std::optional<bool> Config::*m) -> Result {
-                if (!v.isBool()) return mismatch("a boolean", typeName(v));
-                c.*m = v.toBool();
-                return std::nullopt;
-            },
+            [&]<class T>(T Config::*m) -> Result { return decodeScalar(v, c.*m); },
             [&](QList<double> Config::*m) -> Result {
                 const char* expected = "an array of numbers";
                 if (!v.isArray()) return mismatch(expected, typeName(v));

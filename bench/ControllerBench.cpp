@@ -8,8 +8,6 @@
 #include "lock/AppDelegate.h"
 #include "records/ConfigFile.h"
 #include "timetable/Timetable.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -6,7 +6,6 @@
 #include "engine/Schedule.h"
 #include "records/ConfigFile.h"
 #include "timetable/Timetable.h"
-#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

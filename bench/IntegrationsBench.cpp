@@ -2,7 +2,6 @@
 #include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "integrations/PrayerCalendar.h"
-#include "base/StateFiles.h"
 
 #include <QDir>
 #include <QTemporaryDir>

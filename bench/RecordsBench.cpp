@@ -6,7 +6,6 @@
 #include "records/DayLedger.h"
 #include "records/Excused.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
 #include "timetable/TimetableParser.h"
 
 #include <QTemporaryDir>

@@ -4,8 +4,6 @@
 #include "base/StateFiles.h"
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
-#include "engine/Schedule.h"
-#include "timetable/Timetable.h"
 
 #include <QFile>
 

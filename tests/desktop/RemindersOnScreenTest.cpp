@@ -5,7 +5,6 @@
 #include "desktop/BannerPanel.h"
 #include "lock/AppDelegate.h"
 #include "records/ConfigFile.h"
-#include "base/StateFiles.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 

@@ -7,7 +7,6 @@
 #include "desktop/Sounds.h"
 #include "desktop/SystemEvents.h"
 #include "platform/AgentBus.h"
-#include "base/Log.h"
 #include "support/TestEnv.h"
 
 #include <QApplication>

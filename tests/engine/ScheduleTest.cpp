@@ -4,8 +4,6 @@
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
 #include "engine/PrayerTimes.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

@@ -2,7 +2,6 @@
 #include "app/CommandLine.h"
 #include "base/StateFiles.h"
 #include "engine/LocalTime.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QProcess>

@@ -4,7 +4,6 @@
 #include "engine/DayTimes.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/CalendarAccess.h"
-#include "base/StateFiles.h"
 #include "support/FakePlatform.h"
 #include "support/TestEnv.h"
 

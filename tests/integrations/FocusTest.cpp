@@ -2,8 +2,6 @@
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "integrations/FocusShortcuts.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 
 #include <QDir>

@@ -5,7 +5,6 @@
 #include "base/Log.h"
 #include "engine/DayTimes.h"
 #include "engine/LocalTime.h"
-#include "base/Log.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -6,7 +6,6 @@
 #include "guardian/Guardian.h"
 #include "integrations/PrayerCalendar.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
 #include "timetable/Timetable.h"
 
 #include <QDir>

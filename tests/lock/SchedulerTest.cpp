@@ -6,7 +6,6 @@
 #include "engine/LocalTime.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QFile>

@@ -9,7 +9,6 @@
 #include "engine/Schedule.h"
 #include "integrations/FocusShortcuts.h"
 #include "records/History.h"
-#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
 #include <QDir>

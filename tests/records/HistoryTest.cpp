@@ -4,7 +4,6 @@
 #include "records/DayLedger.h"
 #include "records/Excused.h"
 #include "records/LockState.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

@@ -3,8 +3,6 @@
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "records/Excused.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 #include "support/TestEnv.h"
 

@@ -7,8 +7,6 @@
 #include "records/Excused.h"
 #include "records/History.h"
 #include "records/LockState.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 #include "support/TestEnv.h"
 #include "timetable/Timetable.h"
 

@@ -4,8 +4,6 @@
 #include "engine/Config.h"
 #include "engine/LocalTime.h"
 #include "records/ConfigFile.h"
-#include "base/Log.h"
-#include "base/StateFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -12,20 +12,16 @@ struct Names {
 
 // The disambiguation tells a translator what each name is; the English text is the key.
 constexpr Names kNames[] = {
-    {QT_TRANSLATE_NOOP3("Prayer", "Fajr", "the dawn prayer"), "the dawn prayer"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Sunrise", "the time of sunrise"), "the time of sunrise"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Dhuhr", "the noon prayer"), "the noon prayer"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Jumu'ah", "the Friday congregational prayer"),
-     "the Friday congregational prayer"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Asr", "the afternoon prayer"), "the afternoon prayer"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Maghrib", "the sunset prayer"), "the sunset prayer"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Isha", "the night prayer"), "the night prayer"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Tarawih", "the Ramadan night prayer"),
-     "the Ramadan night prayer"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Iftar", "the meal that breaks the Ramadan fast"),
-     "the meal that breaks the Ramadan fast"},
-    {QT_TRANSLATE_NOOP3("Prayer", "Suhoor", "the meal before the Ramadan fast"),
-     "the meal before the Ramadan fast"},
+    QT_TRANSLATE_NOOP3("Prayer", "Fajr", "the dawn prayer"),
+    QT_TRANSLATE_NOOP3("Prayer", "Sunrise", "the time of sunrise"),
+    QT_TRANSLATE_NOOP3("Prayer", "Dhuhr", "the noon prayer"),
+    QT_TRANSLATE_NOOP3("Prayer", "Jumu'ah", "the Friday congregational prayer"),
+    QT_TRANSLATE_NOOP3("Prayer", "Asr", "the afternoon prayer"),
+    QT_TRANSLATE_NOOP3("Prayer", "Maghrib", "the sunset prayer"),
+    QT_TRANSLATE_NOOP3("Prayer", "Isha", "the night prayer"),
+    QT_TRANSLATE_NOOP3("Prayer", "Tarawih", "the Ramadan night prayer"),
+    QT_TRANSLATE_NOOP3("Prayer", "Iftar", "the meal that breaks the Ramadan fast"),
+    QT_TRANSLATE_NOOP3("Prayer", "Suhoor", "the meal before the Ramadan fast"),
 };
 
 QString single(const QString& name) {

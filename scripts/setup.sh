@@ -13,7 +13,7 @@ packages=(
     libtesseract-dev libleptonica-dev tesseract-ocr-eng libpoppler-qt6-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     libgeonames-dev
-    qt6-svg-dev
+    qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
     python3 python3-pyatspi at-spi2-core dbus-daemon
     xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
     sway grim wtype wayland-utils qt6-wayland swaylock foot

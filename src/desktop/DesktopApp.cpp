@@ -4,6 +4,8 @@
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/SystemEvents.h"
+#include "desktop/UiLanguage.h"
+#include "records/UserDefaults.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -46,6 +48,7 @@ int runDesktopApplication(int& argc, char** argv, const CommandLine& cl) {
     // No display name: Qt would append " — Tarvanel" to every window title that does not end
     // with it ("Tarvanel Settings — Tarvanel").
     QApplication::setQuitOnLastWindowClosed(false);
+    useLanguage(UserDefaults().language());
 
     QtPlatform platform;
     AppDelegate delegate(platform, controllerOptions(cl, platform));

@@ -1,6 +1,7 @@
 #include "desktop/Look.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPainterPath>
 #include <QRadialGradient>
@@ -70,7 +71,8 @@ static void setSize(QFont& font, double pixels) {
 }
 
 QFont systemFont(double pixels, QFont::Weight weight) {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    // The application's font carries the language's script family.
+    QFont font = QGuiApplication::font();
     setSize(font, pixels);
     font.setWeight(weight);
     return font;

@@ -8,6 +8,7 @@ namespace tarvanel {
 namespace {
 const char* const pausedKey = "pausedUntil";
 const char* const travellingKey = "travellingUntil";
+const char* const languageKey = "language";
 } // namespace
 
 QString UserDefaults::folder() {
@@ -40,6 +41,19 @@ void UserDefaults::setPausedUntil(const std::optional<QDateTime>& until) {
 }
 void UserDefaults::setTravellingUntil(const std::optional<QDateTime>& until) {
     setInstant(travellingKey, until);
+}
+
+QString UserDefaults::language() const {
+    settings_->sync();
+    return settings_->value(QLatin1String(languageKey)).toString();
+}
+
+void UserDefaults::setLanguage(const QString& code) {
+    if (code.isEmpty())
+        settings_->remove(QLatin1String(languageKey));
+    else
+        settings_->setValue(QLatin1String(languageKey), code);
+    settings_->sync();
 }
 
 std::optional<QDateTime> UserDefaults::instant(const char* key) const {

@@ -1,5 +1,6 @@
 #pragma once
-// The per-user key–value store for the two mode instants ("pausedUntil", "travellingUntil"):
+// The per-user key–value store for the two mode instants ("pausedUntil", "travellingUntil") and
+// the language chosen in Settings ("language"):
 // an INI file under $XDG_CONFIG_HOME/com.velmora.tarvanel/ (~/.config when unset).
 #include <QDateTime>
 #include <QString>
@@ -28,6 +29,10 @@ public:
     // Absent removes the key. Written to disk at once.
     void setPausedUntil(const std::optional<QDateTime>& until);
     void setTravellingUntil(const std::optional<QDateTime>& until);
+
+    // The language code chosen in Settings; empty for the system's.
+    QString language() const;
+    void setLanguage(const QString& code);
 
     // Uninstall with "delete data": the keys and the folder go.
     void removeAll();

@@ -1,5 +1,6 @@
 // Widget tests need a QApplication. Under the offscreen platform the process gets two screens
 // side by side, so per-screen behaviour is exercised without X.
+#include "base/Language.h"
 #include "desktop/DisplayCheck.h"
 #include "ocr/TimetableOCR.h"
 #include "support/TestEnv.h"
@@ -21,6 +22,8 @@ int main(int argc, char** argv) {
     useOffscreenScreens(test::scratchHome() + QStringLiteral("/../screens.json"),
                         {QRect(0, 0, 1280, 800), QRect(1280, 0, 1024, 768)});
     QApplication app(argc, argv);
+    // Counted texts take their English singular from the catalogue, as in the program.
+    applyLanguage(QStringLiteral("en"));
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

@@ -1,3 +1,4 @@
+#include "base/Language.h"
 #include "support/TestEnv.h"
 
 #include <QCoreApplication>
@@ -7,5 +8,7 @@ int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     tarvanel::test::useScratchHome();
     QCoreApplication app(argc, argv);
+    // Counted texts take their English singular from the catalogue, as in the program.
+    tarvanel::applyLanguage(QStringLiteral("en"));
     return RUN_ALL_TESTS();
 }

@@ -17,6 +17,7 @@ test_uid=4242
 
 # Build only the application (tests off), plus what the Wayland lock backends will need.
 build_packages=(cmake g++ make pkg-config ccache qt6-base-dev qt6-multimedia-dev qt6-svg-dev
+    qt6-tools-dev qt6-l10n-tools
     libicu-dev libqrencode-dev libical-dev libxcb1-dev libtesseract-dev libleptonica-dev
     libpoppler-qt6-dev libgeonames-dev libwayland-dev wayland-protocols libxkbcommon-dev)
 # What tests run: compositors with session lock, screenshots, keys, a reference locker.

@@ -66,10 +66,11 @@ PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> mode
     sections->setContentsMargins(20, 4, 20, 12);
     SectionContext ctx{*model_, actions_, this};
     using Maker = QWidget* (*)(SectionContext&);
-    for (Maker make : {makeLocationSection, makeCalculationSection, makeTodaySection,
-                       makeLockSection, makeWhenYouPraySection, makeJumuahSection,
-                       makeTravelSection, makeAdhanSection, makeCalendarSection, makePhoneSection,
-                       makeEmergencySection, makeHistorySection, makeExtrasSection})
+    for (Maker make :
+         {makeLocationSection, makeCalculationSection, makeTodaySection, makeLockSection,
+          makeWhenYouPraySection, makeJumuahSection, makeTravelSection, makeAdhanSection,
+          makeCalendarSection, makePhoneSection, makeEmergencySection, makeHistorySection,
+          makeExtrasSection, makeLanguageSection})
         sections->addWidget(make(ctx));
     sections->addStretch(1);
     holdWheelUntilFocused(form);

@@ -98,5 +98,6 @@ QWidget* makePhoneSection(SectionContext& c);
 QWidget* makeEmergencySection(SectionContext& c);
 QWidget* makeHistorySection(SectionContext& c);
 QWidget* makeExtrasSection(SectionContext& c);
+QWidget* makeLanguageSection(SectionContext& c);
 
 } // namespace tarvanel

@@ -1,6 +1,7 @@
 #include "base/Language.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -20,11 +21,18 @@ constexpr Known kLanguages[] = {
     {"ms", "Bahasa Melayu"}, {"tr", "Türkçe"}, {"fr", "Français"},
 };
 
+// A test's folder of catalogues (a pseudo-language) is spoken too.
+QString testFolder() {
+    return qEnvironmentVariable("TARVANEL_TRANSLATIONS");
+}
+
 bool speaks(const QString& code) {
     for (const Known& k : kLanguages) {
         if (code == QLatin1String(k.code)) return true;
     }
-    return false;
+    return !code.isEmpty() && !testFolder().isEmpty() &&
+           QFile::exists(testFolder() + QStringLiteral("/tarvanel_") + code +
+                         QStringLiteral(".qm"));
 }
 
 // "ar_SA.UTF-8@latin" → "ar"; "C" and "POSIX" → "en".
@@ -90,8 +98,7 @@ QString applyLanguage(const QString& setting) {
     const QString code = resolveLanguage(setting);
     // Catalogues from the build or the package, or a folder a test points at.
     QStringList folders{QStringLiteral(":/i18n")};
-    const QString extra = qEnvironmentVariable("TARVANEL_TRANSLATIONS");
-    if (!extra.isEmpty()) folders.prepend(extra);
+    if (!testFolder().isEmpty()) folders.prepend(testFolder());
     install(QStringLiteral("tarvanel_en"), folders);
     if (code != QLatin1String("en")) {
         install(QStringLiteral("tarvanel_") + code, folders);

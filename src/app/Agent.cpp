@@ -311,13 +311,14 @@ void installAgent(const ToolCall& tools, std::function<void(const InstallOutcome
             InstallOutcome out;
             out.ok = last.status == 0;
             if (last.timedOut)
-                //: %1 is a command, as in "systemctl --user enable --now …"
                 out.reason =
+                    //: %1 is a command, as in "systemctl --user enable --now …"
                     QCoreApplication::translate("Agent", "%1 gave no answer in time")
                         .arg(enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")));
             else if (!out.ok)
-                //: %1 is a command, as in "systemctl --user enable --now …"; %2 its exit status
                 out.reason =
+                    //: %1 is a command, as in "systemctl --user enable --now …"; %2 its exit
+                    //: status
                     QCoreApplication::translate("Agent", "%1 failed with status %2")
                         .arg(enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")),
                              QLocale().toString(last.status));

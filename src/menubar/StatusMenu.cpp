@@ -92,11 +92,12 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
         const QString pattern = QCoreApplication::translate("TimeFormat", "dddd d MMM");
         const QString until = formatLocal(travelling->addSecs(-1), pattern);
         //: %1 is the last day of the journey, as in "Friday 3 Oct"
+        const QString alone = QCoreApplication::translate("Menu", "Travelling until %1");
+        //: %1 is the last day of the journey, as in "Friday 3 Oct"
         const QString text =
             combining
                 ? QCoreApplication::translate("Menu", "Travelling until %1 · combining prayers")
-                //: %1 is the last day of the journey, as in "Friday 3 Oct"
-                : QCoreApplication::translate("Menu", "Travelling until %1");
+                : alone;
         menu << MenuItem::info(QStringLiteral("✈️ ") + text.arg(until));
     }
     if (view.waitingForCall)
@@ -127,9 +128,10 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
         if (combining && name == QLatin1String("Isha"))
             text = with.arg(text, prayerLabel(QStringLiteral("Maghrib")));
         text += QLatin1Char('\t') + timeText(*t);
-        //: After a lock time that differs from the computed time: %1 is the computed (waqt) time
         if (const auto w = waqt.value(name); w && std::llabs(w->msecsTo(*t)) > 30000)
             text += QStringLiteral("  ") +
+                    //: After a lock time that differs from the computed time: %1 is the
+                    //: computed (waqt) time
                     QCoreApplication::translate("Menu", "(waqt %1)").arg(timeText(*w));
         //: Marks the row of the next prayer; the arrow points back at its time
         if (name == next)
@@ -210,11 +212,12 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
     menu << mark;
 
     //: Excused: exempt from prayer for a while (menstruation, illness)
-    menu << (excused ? MenuItem::command(QCoreApplication::translate("Menu", "No Longer Excused"),
-                                         commands.endExcused)
-                     //: Excused: exempt from prayer for a while (menstruation, illness)
-                     : MenuItem::command(QCoreApplication::translate("Menu", "I'm Excused…"),
-                                         commands.startExcused));
+    menu << (excused
+                 ? MenuItem::command(QCoreApplication::translate("Menu", "No Longer Excused"),
+                                     commands.endExcused)
+                 : MenuItem::command(
+                       //: Excused: exempt from prayer for a while (menstruation, illness)
+                       QCoreApplication::translate("Menu", "I'm Excused…"), commands.startExcused));
     menu << (travellingNow
                  ? MenuItem::command(QCoreApplication::translate("Menu", "Stop Travelling"),
                                      commands.stopTravelling)

@@ -71,14 +71,23 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (cl.unknownOption) {
-        printError(QStringLiteral("tarvanel: unknown option ") + *cl.unknownOption +
-                   QStringLiteral("\n") + usageText());
+        //: %1 is what the user typed
+        printError(
+            QStringLiteral("tarvanel: ") +
+            QCoreApplication::translate("CommandLine", "unknown option %1").arg(*cl.unknownOption) +
+            QStringLiteral("\n") + usageText());
         return 2;
     }
     if (cl.installAgent) {
         const InstallOutcome out = installAgent();
-        print(out.ok ? QStringLiteral("✓ Tarvanel running — look for 🕌 in the tray\n")
-                     : QStringLiteral("✗ Tarvanel's login service did not start\n"));
+        print(out.ok ? QStringLiteral("✓ ") +
+                           QCoreApplication::translate(
+                               "CommandLine", "Tarvanel running — look for 🕌 in the tray") +
+                           u'\n'
+                     : QStringLiteral("✗ ") +
+                           QCoreApplication::translate("CommandLine",
+                                                       "Tarvanel's login service did not start") +
+                           u'\n');
         if (!out.reason.isEmpty()) print(out.reason + QLatin1Char('\n'));
         return out.ok ? 0 : 1;
     }

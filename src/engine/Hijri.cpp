@@ -79,8 +79,8 @@ QString hijriString(const QDateTime& instant) {
     if (u.format && instant.isValid()) u.format->format(noonOfLocalDate(instant), text);
     //: A Hijri date: %1 is the day, month and year ("14 Ramadan 1446"); AH is the era.
     return QCoreApplication::translate("Hijri", "%1 AH")
-        .arg(QString::fromUtf16(reinterpret_cast<const char16_t*>(text.getBuffer()),
-                                text.length()));
+        .arg(
+            QString::fromUtf16(reinterpret_cast<const char16_t*>(text.getBuffer()), text.length()));
 }
 
 bool isRamadan(const QDateTime& instant) {

@@ -19,7 +19,7 @@ TEST_F(HijriTest, UmmAlQuraDatesOnTheLocalDateInTheLanguageEnglishAsItWasUnderEn
     // The language's month names and digits; the era comes from the catalogue ("AH" without).
     QLocale::setDefault(QLocale(QStringLiteral("ar_SA")));
     EXPECT_EQ(hijriString(noonOf(2025, 3, 14)), "\u0661\u0664 \u0631\u0645\u0636\u0627\u0646 "
-                                                 "\u0661\u0664\u0664\u0666 AH");
+                                                "\u0661\u0664\u0664\u0666 AH");
     EXPECT_EQ(hijriDate(noonOf(2025, 3, 14)).day, 14); // the numbers stay numbers
     QLocale::setDefault(QLocale(QStringLiteral("en_IN")));
     EXPECT_EQ(hijriString(noonOf(2025, 3, 14)), "14 Ramadan 1446 AH");

@@ -89,14 +89,19 @@ std::optional<CalcMethod> methodFor(const Config& cfg) {
 
 QString methodSummary(const Config& cfg) {
     const bool hanafi = cfg.asrFactor >= 2;
-    if (const auto m = methodFor(cfg)) {
-        //: The Asr school and the calculation method, e.g. "Hanafi, Muslim World League".
-        return hanafi ? QCoreApplication::translate("CalcMethods", "Hanafi, %1").arg(m->name)
-                      //: "Standard Asr" is the Asr of the Shafi'i, Maliki and Hanbali schools.
-                      : QCoreApplication::translate("CalcMethods", "Standard Asr, %1").arg(m->name);
-    }
-    return hanafi ? QCoreApplication::translate("CalcMethods", "Hanafi, custom angles")
-                  : QCoreApplication::translate("CalcMethods", "Standard Asr, custom angles");
+    const auto m = methodFor(cfg);
+    if (m && hanafi)
+        //: The Asr school and the calculation method: "Hanafi, Muslim World League".
+        return QCoreApplication::translate("CalcMethods", "Hanafi, %1").arg(m->name);
+    if (m)
+        //: "Standard Asr" (the Shafi'i, Maliki and Hanbali Asr) and the calculation method:
+        //: "Standard Asr, Muslim World League".
+        return QCoreApplication::translate("CalcMethods", "Standard Asr, %1").arg(m->name);
+    if (hanafi)
+        //: The Hanafi Asr with angles the user set, not a known method.
+        return QCoreApplication::translate("CalcMethods", "Hanafi, custom angles");
+    //: The standard Asr with angles the user set, not a known method.
+    return QCoreApplication::translate("CalcMethods", "Standard Asr, custom angles");
 }
 
 const QMap<QString, MethodSuggestion>& suggestedMethods() {

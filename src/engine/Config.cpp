@@ -176,6 +176,7 @@ std::optional<Mismatch> outOfBounds(const QJsonValue& v, const Field& f) {
     const double x = v.toDouble();
     if (x >= f.bounds->min && x <= f.bounds->max) return std::nullopt;
     // The bounds as JSON writes them, like the value in the file.
+    //: %1 and %2 are the smallest and largest values a setting may have.
     return Mismatch{QCoreApplication::translate("Config", "a number from %1 to %2")
                         .arg(QString::number(f.bounds->min), QString::number(f.bounds->max)),
                     QString::number(x, 'g', 12)};

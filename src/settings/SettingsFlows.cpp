@@ -115,12 +115,14 @@ QString PrayerSettingsModel::suggestMethod(const QString& countryCode) {
     setMethodID(suggestion->methodId);
     setHanafi(suggestion->hanafi);
     suggested_ = std::pair{suggestion->methodId, suggestion->hanafi};
+    if (suggestion->hanafi)
+        //: Follows "Found <place>." %1 is a calculation method ("Muslim World League").
+        return u' ' + tr("Suggested: %1, Hanafi Asr. Change it below if your mosque uses "
+                         "something else.")
+                          .arg(name);
     //: Follows "Found <place>." %1 is a calculation method ("Muslim World League").
-    return u' ' + (suggestion->hanafi
-                       ? tr("Suggested: %1, Hanafi Asr. Change it below if your mosque uses "
-                            "something else.")
-                       : tr("Suggested: %1. Change it below if your mosque uses something else."))
-                      .arg(name);
+    return u' ' +
+           tr("Suggested: %1. Change it below if your mosque uses something else.").arg(name);
 }
 
 void PrayerSettingsModel::usePlace(const GeoPlace& place) {
@@ -261,13 +263,12 @@ void PrayerSettingsModel::writeFocusScripts(const QString& desktop) {
         services_.focusHandWritten ? services_.focusHandWritten() : QStringList();
     if (!own.isEmpty()) {
         QPointer<PrayerSettingsModel> weak(this);
-        const bool replace =
-            services_.confirmReplace &&
-            //: %1 is one or two shortcut names the user wrote, already quoted.
-            services_.confirmReplace(
-                tr("Replace your own %1?").arg(quotedNames(own)),
-                //: %1 is a desktop such as "GNOME" or "XFCE".
-                tr("Tarvanel's pair for %1 takes the place of what you wrote.").arg(desktop));
+        //: %1 is one or two shortcut names the user wrote, already quoted.
+        const QString question = tr("Replace your own %1?").arg(quotedNames(own));
+        //: %1 is a desktop such as "GNOME" or "XFCE".
+        const QString detail =
+            tr("Tarvanel's pair for %1 takes the place of what you wrote.").arg(desktop);
+        const bool replace = services_.confirmReplace && services_.confirmReplace(question, detail);
         if (!weak) return; // the window went away while the question was open
         if (!replace) {
             //: %1 is one or two shortcut names the user wrote, already quoted.
@@ -276,13 +277,14 @@ void PrayerSettingsModel::writeFocusScripts(const QString& desktop) {
         }
     }
     const QString pair = quotedNames({services_.focusOnName, services_.focusOffName});
-    //: %1 is the two quoted shortcut names (“Tarvanel Focus On” and “Tarvanel Focus Off”),
-    //: %2 a desktop such as "GNOME".
-    setFocusMessage(
-        services_.writeFocus(desktop)
-            ? tr("Wrote %1 for %2.").arg(pair, desktop)
-            //: %1 is the two quoted shortcut names.
-            : tr("Couldn't write %1. The log in ~/.tarvanel/log.txt says why.").arg(pair));
+    if (services_.writeFocus(desktop))
+        //: %1 is the two quoted shortcut names (“Tarvanel Focus On” and “Tarvanel Focus Off”),
+        //: %2 a desktop such as "GNOME".
+        setFocusMessage(tr("Wrote %1 for %2.").arg(pair, desktop));
+    else
+        //: %1 is the two quoted shortcut names.
+        setFocusMessage(
+            tr("Couldn't write %1. The log in ~/.tarvanel/log.txt says why.").arg(pair));
     checkFocus();
 }
 

@@ -298,6 +298,7 @@ void TimetableImportModel::imageReadStarted(const QString& fileName) {
 
 void TimetableImportModel::imageReadProgress(int page, int pageCount) {
     if (readsUnderWay_ > 0 && pageCount > 1)
+        //: While a file of several pages is read: %1 is the page, %2 the number of pages.
         setStatus(tr("Reading page %1 of %2…")
                       .arg(QLocale().toString(page), QLocale().toString(pageCount)));
 }
@@ -314,6 +315,7 @@ void TimetableImportModel::imageReadFinished(const QString& fileName, const Shee
         pagesNote_ = tr("Read the first %1 of %Ln pages.", nullptr, reading.pageCount)
                          .arg(QLocale().toString(reading.pagesRead));
     else if (reading.pagesRead > 1)
+        //: After a file of several pages was read whole.
         pagesNote_ = tr("Read %Ln pages.", nullptr, reading.pagesRead);
     assignText(reading.lines.join(QLatin1Char('\n')), reading.doubtful);
 }

@@ -89,11 +89,14 @@ std::optional<MonthAndYear> TimetableImportModel::monthAndYear(const QString& te
     qsizetype bestAt = -1;
     qsizetype bestLength = 0;
     int bestMonth = 0;
+    // Sheets are often in English whatever the user's language, so English names count too.
+    const QLocale english = QLocale::c();
     for (int m = 1; m <= 12; ++m) {
         const QString full = names[m - 1].toLower();
-        for (const QString& form : {full, full.left(3)}) {
+        const QString inEnglish = english.standaloneMonthName(m, QLocale::LongFormat).toLower();
+        for (const QString& form : {full, full.left(3), inEnglish, inEnglish.left(3)}) {
             if (form.isEmpty()) continue;
-            const bool shortForm = form.size() < full.size();
+            const bool shortForm = form.size() == 3 && form != full && form != inEnglish;
             for (qsizetype at = haystack.indexOf(form); at >= 0;
                  at = haystack.indexOf(form, at + 1)) {
                 if (letterAt(at - 1) || (shortForm && letterAt(at + form.size()))) continue;

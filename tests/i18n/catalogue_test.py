@@ -61,7 +61,7 @@ def check_current(ts_files):
             copy = Path(tmp) / ts.name
             shutil.copy(ts, copy)
             code = ET.parse(ts).getroot().get("language")
-            args = [lupdate, "-locations", "none", "-no-obsolete", "-no-ui-lines", "-extensions",
+            args = [lupdate, "-I", str(root / "src"), "-locations", "none", "-no-obsolete", "-no-ui-lines", "-extensions",
                     "cpp,h", "-silent", "-source-language", "en", "-target-language", code]
             if code == "en":
                 args.append("-pluralonly")

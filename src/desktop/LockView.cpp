@@ -43,13 +43,14 @@ void GlassLabel::paintEvent(QPaintEvent* event) {
 }
 
 QString LockView::captionFor(const QString& prayer) {
-    //: Above the name of a lock that is only tried out from the settings; capitals if your
+    if (prayer == QLatin1String("Preview") || prayer == QLatin1String("Test")) {
+        //: Above the name of a lock that is only tried out from the settings; capitals if your
+        //: script has them
+        return tr("PREVIEW");
+    }
+    //: Above the prayer's name on the lock screen, e.g. IT'S TIME FOR / Fajr; capitals if your
     //: script has them
-    return prayer == QLatin1String("Preview") || prayer == QLatin1String("Test")
-               ? tr("PREVIEW")
-               //: Above the prayer's name on the lock screen, e.g. IT'S TIME FOR / Fajr; capitals
-               //: if your script has them
-               : tr("IT'S TIME FOR");
+    return tr("IT'S TIME FOR");
 }
 
 // The big name: a prayer's, or that of a lock only tried out.

@@ -32,13 +32,12 @@ QWidget* makeCalendarSection(SectionContext& c) {
         picker->clear();
         //: No calendar chosen
         picker->addItem(QCoreApplication::translate("Settings", "None"), QString());
-        for (const CalendarChoice& cal : m->calendars())
+        for (const CalendarChoice& cal : m->calendars()) {
             //: A calendar in the list: %1 its name, %2 the account or folder it belongs to
-            picker->addItem(
-                cal.source.isEmpty()
-                    ? cal.title
-                    : QCoreApplication::translate("Settings", "%1 (%2)").arg(cal.title, cal.source),
-                cal.id);
+            const QString named =
+                QCoreApplication::translate("Settings", "%1 (%2)").arg(cal.title, cal.source);
+            picker->addItem(cal.source.isEmpty() ? cal.title : named, cal.id);
+        }
         const int i = picker->findData(m->calendarID());
         if (i < 0 && !m->calendarID().isEmpty())
             picker->addItem(m->calendarID(), m->calendarID()); // not offered (yet): keep it

@@ -19,7 +19,7 @@ QWidget* makeJumuahSection(SectionContext& c) {
                           Field::jumuahEnabled, &PrayerSettingsModel::jumuahEnabled,
                           &PrayerSettingsModel::setJumuahEnabled));
     auto* time = new QTimeEdit;
-    time->setDisplayFormat(QStringLiteral("h:mm AP"));
+    time->setDisplayFormat(timePattern());
     time->setMaximumWidth(140);
     watch(*m, time, {Field::jumuahTime}, [m, time] {
         if (time->time() != localTime(m->jumuahTime())) time->setTime(localTime(m->jumuahTime()));

@@ -2,7 +2,6 @@
 
 #include "desktop/TrayIcon.h"
 #include "desktop/settings/SectionKit.h"
-#include "engine/LocalTime.h"
 #include "engine/PrayerNames.h"
 
 #include <QCoreApplication>
@@ -27,7 +26,7 @@ QString headerStatus(const PrayerSettingsModel& model) {
         if (e.name == QLatin1String("Sunrise") || !e.lock || *e.lock <= now) continue;
         //: The settings window's header: %1 the place, %2 a prayer, %3 the time its lock starts
         return QCoreApplication::translate("Settings", "%1  ·  %2 locks at %3")
-            .arg(place, prayerLabel(e.name), formatLocal(*e.lock, QStringLiteral("h:mm AP")));
+            .arg(place, prayerLabel(e.name), shortTime(*e.lock));
     }
     return place;
 }

@@ -9,8 +9,14 @@
 
 namespace tarvanel {
 
+QString timePattern() {
+    //: How a time of day is written, in Qt's date-time pattern letters: h hour, mm minutes,
+    //: AP AM or PM. A 24-hour clock is HH:mm
+    return QCoreApplication::translate("Settings", "h:mm AP");
+}
+
 QString shortTime(const QDateTime& instant) {
-    return formatLocal(instant, QStringLiteral("h:mm AP"));
+    return formatLocal(instant, timePattern());
 }
 
 QWidget* makeTodaySection(SectionContext& c) {
@@ -53,13 +59,12 @@ QWidget* makeTodaySection(SectionContext& c) {
                   }
                   ++row;
               }
-              if (sunrise)
-                  //: %1 the time of sunrise
-                  grid->addWidget(
-                      wrapped(QCoreApplication::translate("Settings", "Fajr ends at sunrise, %1.")
-                                  .arg(shortTime(*sunrise)),
-                              table),
-                      row, 0, 1, 3);
+              if (!sunrise) return;
+              //: %1 the time of sunrise
+              const QString fajrEnds =
+                  QCoreApplication::translate("Settings", "Fajr ends at sunrise, %1.")
+                      .arg(shortTime(*sunrise));
+              grid->addWidget(wrapped(fajrEnds, table), row, 0, 1, 3);
           });
     return s;
 }

@@ -27,7 +27,7 @@ QWidget* prayerRow(SectionContext& c, int index, const QString& name) {
     minutes->setAccessibleName(
         QCoreApplication::translate("Settings", "%1 minutes after start").arg(name));
     auto* time = new QTimeEdit;
-    time->setDisplayFormat(QStringLiteral("h:mm AP"));
+    time->setDisplayFormat(timePattern());
     //: Read by a screen reader: %1 a prayer
     time->setAccessibleName(QCoreApplication::translate("Settings", "%1 fixed time").arg(name));
     auto* row = hbox({mode, minutes, time});

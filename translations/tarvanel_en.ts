@@ -56,6 +56,17 @@
     </message>
 </context>
 <context>
+    <name>ImportWindow</name>
+    <message numerus="yes">
+        <source>%Ln cells were hard to read and are marked in yellow: check them against the sheet.</source>
+        <extracomment>Cells of the timetable&apos;s text that the reader was unsure of</extracomment>
+        <translation>
+            <numerusform>%Ln cell was hard to read and is marked in yellow: check it against the sheet.</numerusform>
+            <numerusform>%Ln cells were hard to read and are marked in yellow: check them against the sheet.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>LockScreen</name>
     <message numerus="yes">
         <source>Too many tries. Try again in %Ln minutes</source>
@@ -181,6 +192,16 @@
         <translation>
             <numerusform>Read %Ln page.</numerusform>
             <numerusform>Read %Ln pages.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tarvanel::TimetableImportView</name>
+    <message numerus="yes">
+        <source>3. Preview (%Ln days)</source>
+        <translation>
+            <numerusform>3. Preview (%Ln day)</numerusform>
+            <numerusform>3. Preview (%Ln days)</numerusform>
         </translation>
     </message>
 </context>

@@ -2,6 +2,22 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ms" sourcelanguage="en">
 <context>
+    <name>About</name>
+    <message>
+        <source>Tarvanel %1
+Prayer times that lock every screen, so you step away and pray.
+
+Licence: %2
+
+Settings: %3
+History and state: %4
+Log: %5
+Login service: %6</source>
+        <extracomment>%1 the version number, %2 the licence&apos;s name, %3 the settings file, %4 the folder of history and state, %5 the log file, %6 the login service&apos;s file. Keep the line breaks.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Agent</name>
     <message>
         <source>no systemd user service manager is running, and %1 cannot be written</source>
@@ -375,6 +391,22 @@ sudo apt remove tarvanel</source>
     </message>
 </context>
 <context>
+    <name>Dialogs</name>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Hijri</name>
     <message>
         <source>%1 AH</source>
@@ -423,6 +455,60 @@ sudo apt remove tarvanel</source>
     </message>
 </context>
 <context>
+    <name>ImportWindow</name>
+    <message>
+        <source>The reader stopped unexpectedly while reading %1. Nothing was changed: try another photo or PDF, or paste the text.</source>
+        <extracomment>%1 the name of the photo or PDF being read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photos and PDFs can&apos;t be read: the reader is missing (%1). Paste the text instead, or reinstall Tarvanel.</source>
+        <extracomment>%1 the path of the program that reads photos and PDFs</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faj</source>
+        <extracomment>Fajr shortened to fit a column of the timetable&apos;s preview</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dhu</source>
+        <extracomment>Dhuhr shortened to fit a column of the timetable&apos;s preview</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asr</source>
+        <extracomment>Asr shortened to fit a column of the timetable&apos;s preview</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mag</source>
+        <extracomment>Maghrib shortened to fit a column of the timetable&apos;s preview</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ish</source>
+        <extracomment>Isha shortened to fit a column of the timetable&apos;s preview</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jum</source>
+        <extracomment>Jumu&apos;ah shortened to fit a column of the timetable&apos;s preview</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Masjid Timetable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln cells were hard to read and are marked in yellow: check them against the sheet.</source>
+        <extracomment>Cells of the timetable&apos;s text that the reader was unsure of</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Language</name>
     <message>
         <source>System</source>
@@ -450,6 +536,63 @@ sudo apt remove tarvanel</source>
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>LockWeakness</name>
+    <message>
+        <source>on this desktop a lock can be left by switching windows</source>
+        <extracomment>Shown on a line of its own with its first letter made a capital and &quot;%1.&quot; around it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>on this desktop the compositor&apos;s own shortcuts may still leave a lock</source>
+        <extracomment>Shown on a line of its own with its first letter made a capital and &quot;%1.&quot; around it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MainMenu</name>
+    <message>
+        <source>About Tarvanel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <extracomment>The Edit menu; the &amp; marks its Alt key letter</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -736,6 +879,479 @@ sudo apt remove tarvanel</source>
     </message>
     <message>
         <source>The menu and every window opened from now on use this language. System follows your desktop&apos;s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The GNOME Shell extension is on: a lock covers every screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The GNOME Shell extension is off, so GNOME&apos;s shortcuts still work during a lock.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enable the GNOME Shell extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The GNOME Shell extension is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log out and back in to load it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adhan</source>
+        <extracomment>The call to prayer</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick any MP3, M4A, AIFF or WAV file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the adhan when a lock starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <extracomment>A button: play the chosen adhan</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Sound…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sounds (*.mp3 *.m4a *.aif *.aiff *.wav)</source>
+        <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use This Adhan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>A button: stop using the chosen adhan
+----------
+A button: remove the guardian&apos;s code</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None (a chime plays)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <extracomment>A button: stop the adhan that plays</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calculation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom angles</source>
+        <extracomment>The calculation method of one&apos;s own: the sun&apos;s angles below the horizon for Fajr and Isha</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <extracomment>The calculation method of prayer times</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fajr angle</source>
+        <extracomment>The sun&apos;s angle below the horizon at which Fajr starts</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isha angle</source>
+        <extracomment>The sun&apos;s angle below the horizon at which Isha starts</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard (Shafi&apos;i, Maliki, Hanbali)</source>
+        <extracomment>The way of reckoning the Asr time shared by the Shafi&apos;i, Maliki and Hanbali schools</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hanafi</source>
+        <extracomment>The Hanafi school&apos;s later Asr time</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds each lock as a Busy event for the next 7 days, so colleagues see you&apos;re busy and don&apos;t book meetings over salah. Pick your work calendar. Turning this off removes the events.
+On Linux the calendars are the folders under ~/.local/share/calendars (khal and vdirsyncer use them too).</source>
+        <extracomment>Busy is how the event shows in others&apos; calendars; khal and vdirsyncer are programs</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block prayer times in my calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <extracomment>No calendar chosen</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A calendar in the list: %1 its name, %2 the account or folder it belongs to</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Emergency exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Optional. Someone you trust keeps a 6-digit code in their phone. In a real emergency they read it to you and you type it on the lock screen to end the lock; that prayer isn&apos;t counted as kept. The key is stored on this computer, so this is a speed bump, not a vault.</source>
+        <extracomment>“A speed bump, not a vault”: it slows a determined person down but cannot stop one</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guardian code</source>
+        <extracomment>The guardian&apos;s code is set; a Remove button follows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Up Guardian Code…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extras</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ramadan mode adds suhoor and iftar times and a Tarawih reminder during Ramadan.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ramadan mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weekly report on Sunday evenings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Streak &amp; history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>I&apos;m Excused… in the menu turns off reminders and locks without breaking your streak. Mark as Prayed counts a prayer you prayed at the masjid or made up late (qada). Export saves every prayer with how it was kept as a CSV.</source>
+        <extracomment>I&apos;m Excused… and Mark as Prayed are commands of the tray menu; use their translations</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“I&apos;m Excused” ends by itself after</source>
+        <extracomment>A number of days follows in a field; I&apos;m Excused is a command of the tray menu</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> days</source>
+        <extracomment>A unit after a number of days in a field; keep the leading space if your language has one</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export History…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On Fridays Dhuhr becomes Jumu&apos;ah at this time, with a longer lock.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jumu&apos;ah on Fridays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jumu&apos;ah time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jumu&apos;ah lock lasts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> min</source>
+        <extracomment>A unit after a number of minutes in a field; keep the leading space if your language has one</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places with this name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times are calculated on your computer, no internet needed. Your computer&apos;s time zone: %1</source>
+        <extracomment>%1 the time zone&apos;s identifier, such as Europe/London</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>e.g. London, Dhaka, Toronto</source>
+        <extracomment>Examples of cities; use cities your readers know</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <extracomment>A button: search for the city typed</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Using</source>
+        <extracomment>The location in use: a label before the place&apos;s name and coordinates</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  %2, %3</source>
+        <extracomment>%1 the place&apos;s name, %2 its latitude, %3 its longitude</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not set yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter coordinates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>The place&apos;s name, typed with its coordinates</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>During a lock every screen goes black, and the lock holds the keyboard and mouse, so the panel, window and workspace switching and the desktop&apos;s shortcuts are out of reach. There&apos;s no way to end it early except your guardian&apos;s code. If your mic or camera is in use when a lock is due, it waits for the call to end, then locks for the full time. With “Did you pray?”, answering Not Yet locks again for 5 minutes. If your computer is asleep, it locks on wake only while still inside the lock window.</source>
+        <extracomment>“Did you pray?” and Not Yet are the texts of the question asked after a lock and its button</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>During a lock every screen goes black, and the lock holds the keyboard and mouse, so the panel, window and workspace switching and the desktop&apos;s shortcuts are out of reach. There&apos;s no way to end it early. If your mic or camera is in use when a lock is due, it waits for the call to end, then locks for the full time. With “Did you pray?”, answering Not Yet locks again for 5 minutes. If your computer is asleep, it locks on wake only while still inside the lock window.</source>
+        <extracomment>“Did you pray?” and Not Yet are the texts of the question asked after a lock and its button</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <extracomment>A sentence&apos;s full stop: %1 the sentence</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <extracomment>The heading of the section about the lock (a noun)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock lasts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock starts before prayer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reminders (minutes before)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>20, 10, 5, 2</source>
+        <extracomment>An example of the reminders field: minutes before the lock, separated by commas</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wait for a call to end</source>
+        <extracomment>How long a lock waits while the mic or camera is in use</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask “Did you pray?” after each lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your phone too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tarvanel runs the script “%1” when a lock starts and “%2” when it ends. The pair written for your desktop turns its notification banners off and back on; a command added to both can quiet your phone as well.</source>
+        <extracomment>%1 and %2 the names of the two scripts (file names: they stay as they are)</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run the Focus scripts during each lock</source>
+        <extracomment>Focus names the pair of scripts run at the start and the end of a lock</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scripts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not checked yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both scripts found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scripts missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1. Choose your desktop below and press Write Scripts: it makes “%1” and “%2” in %3, which switch the desktop&apos;s notification banners off and on.
+2. Or write them yourself: any executable files with those names (each may run for 30 seconds at most).
+3. For your phone: add to both scripts a command of the tool that links your phone to this computer, if you use one.</source>
+        <extracomment>%1 and %2 the names of the two scripts, %3 their folder; Write Scripts is a button below</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scripts for</source>
+        <extracomment>The desktop the scripts are written for</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write Scripts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Shortcuts Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <extracomment>A button: run the scripts once now to try them</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find your city to begin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  ·  %2 locks at %3</source>
+        <extracomment>The settings window&apos;s header: %1 the place, %2 a prayer, %3 the time its lock starts</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Tarvanel</source>
+        <extracomment>The button that saves the settings on the first run and starts the program</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>h:mm AP</source>
+        <extracomment>How a time of day is written, in Qt&apos;s date-time pattern letters: h hour, mm minutes, AP AM or PM. A 24-hour clock is HH:mm</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find your city to see today&apos;s times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locks %1</source>
+        <extracomment>A column of today&apos;s times: %1 the time this prayer&apos;s lock starts</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fajr ends at sunrise, %1.</source>
+        <extracomment>%1 the time of sunrise</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Travel mode checks your rough location online every 6 hours and uses local times when you&apos;re more than 50 km from home; a VPN will fool it. You can also choose I&apos;m Travelling… in the menu. Combining makes Dhuhr and Asr one lock at Dhuhr, and Maghrib and Isha one lock at Maghrib, only while travelling. Schools differ: the Hanafi school, for example, doesn&apos;t permit combining except at Arafah and Muzdalifah. Turn it on only if your school permits it.</source>
+        <extracomment>I&apos;m Travelling… is a command of the tray menu</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Travel mode (follow my location)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combine prayers while travelling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 minutes after start</source>
+        <extracomment>Read by a screen reader: %1 a prayer</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 fixed time</source>
+        <extracomment>Read by a screen reader: %1 a prayer</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When you pray</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock at the time you actually pray, like your mosque&apos;s jamaat, instead of the moment the time starts. An imported timetable wins on the days it covers.</source>
+        <extracomment>“Lock” here is a verb; jamaat is the congregational prayer at the mosque</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <extracomment>A button: forget the imported timetable</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Masjid timetable: %1</source>
+        <extracomment>%1 the imported timetable&apos;s days and dates, such as “31 days, 1 Mar 2025 – 31 Mar 2025”</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No masjid timetable imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Timetable…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1048,6 +1664,63 @@ sudo apt remove tarvanel</source>
     </message>
 </context>
 <context>
+    <name>tarvanel::GuardianSetup</name>
+    <message>
+        <source>QR code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask the person you trust to scan this with an authenticator app (Google Authenticator, Microsoft Authenticator, Authy, or Apple&apos;s Passwords app), or to type the key:</source>
+        <extracomment>The apps are proper names; Apple&apos;s app is called Passwords</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <extracomment>The secret key of the guardian&apos;s code, shown to be typed into an app</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Code from their app</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <extracomment>The six-digit code the guardian&apos;s app shows</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarvanel::LockView</name>
+    <message>
+        <source>PREVIEW</source>
+        <extracomment>Above the name of a lock that is only tried out from the settings; capitals if your script has them</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IT&apos;S TIME FOR</source>
+        <extracomment>Above the prayer&apos;s name on the lock screen, e.g. IT&apos;S TIME FOR / Fajr; capitals if your script has them</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <extracomment>The name of a lock tried out from the settings, shown in place of a prayer&apos;s name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <extracomment>The name of a lock started for a test, shown in place of a prayer&apos;s name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarvanel::PrayerSettingsModel</name>
     <message>
         <source>The settings file changed while this window was open. Save keeps what you see here; Cancel keeps the file&apos;s settings.</source>
@@ -1147,6 +1820,62 @@ sudo apt remove tarvanel</source>
     </message>
 </context>
 <context>
+    <name>tarvanel::PrayerSettingsView</name>
+    <message>
+        <source>Your settings file can&apos;t be used (%1), so nothing locks yet. Check the settings below and save to start again.</source>
+        <extracomment>%1 what is wrong with the settings file</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome to Tarvanel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Get up and pray, on time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At each prayer time Tarvanel turns every screen black for a few minutes so you step away and pray. You get reminders before each lock. Once a lock starts there&apos;s no way out until it ends. Find your city to begin.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview Lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Black out the screen for 10 seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uninstall…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find your city or enter coordinates first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tarvanel::QtPlatform</name>
+    <message>
+        <source>There&apos;s no tray on this desktop, so Tarvanel runs without an icon: it still locks on time, and opening Tarvanel from the applications menu shows these settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome to Tarvanel</source>
+        <extracomment>The settings window&apos;s title on the first run</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tarvanel Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tarvanel::TimetableImportModel</name>
     <message>
         <source>Couldn&apos;t read any text in %1.</source>
@@ -1192,6 +1921,80 @@ sudo apt remove tarvanel</source>
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>tarvanel::TimetableImportView</name>
+    <message>
+        <source>1. Your masjid&apos;s timetable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <extracomment>A busy indicator while a photo or PDF is read</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste it from the masjid&apos;s website or PDF, or choose a CSV, a photo or a screenshot of the printed sheet. Photos are read on your computer; nothing is uploaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2. Which column is which</source>
+        <extracomment>Jamaat and iqamah: the time the congregation prays at the masjid</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick the jamaat (iqamah) column for each prayer, the time you actually pray. Times without AM/PM are read as morning for Fajr, midday for Dhuhr, and afternoon or evening for the rest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use This Timetable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Timetables (*.csv *.txt *.tsv *.png *.jpg *.jpeg *.gif *.bmp *.tif *.tiff *.webp *.pdf)</source>
+        <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read Timetable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not in the timetable</source>
+        <extracomment>A prayer&apos;s column choice: the timetable has no column for this prayer</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>3. Preview (%Ln days)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No days yet. Check the month and the columns.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -14,7 +14,15 @@ History and state: %4
 Log: %5
 Login service: %6</source>
         <extracomment>%1 the version number, %2 the licence&apos;s name, %3 the settings file, %4 the folder of history and state, %5 the log file, %6 the login service&apos;s file. Keep the line breaks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel %1
+Waktu salat yang mengunci setiap layar, agar Anda beranjak dan salat.
+
+Lisensi: %2
+
+Pengaturan: %3
+Riwayat dan status: %4
+Log: %5
+Layanan login: %6</translation>
     </message>
 </context>
 <context>
@@ -22,91 +30,94 @@ Login service: %6</source>
     <message>
         <source>no systemd user service manager is running, and %1 cannot be written</source>
         <extracomment>%1 is a file</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tidak ada pengelola layanan pengguna systemd yang berjalan, dan %1 tidak dapat ditulis</translation>
     </message>
     <message>
         <source>no systemd user service manager is running, and %1 cannot be started</source>
         <extracomment>%1 is the program file</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tidak ada pengelola layanan pengguna systemd yang berjalan, dan %1 tidak dapat dijalankan</translation>
     </message>
     <message>
         <source>no systemd user service manager is running: it starts at login through %1</source>
         <extracomment>%1 is the autostart file that starts the program at login</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tidak ada pengelola layanan pengguna systemd yang berjalan: program dimulai saat login melalui %1</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
         <extracomment>%1 is a file</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 tidak dapat ditulis</translation>
     </message>
     <message>
         <source>%1 gave no answer in time</source>
         <extracomment>%1 is a command, as in &quot;systemctl --user enable --now …&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 tidak menjawab tepat waktu</translation>
     </message>
     <message>
         <source>%1 failed with status %2</source>
         <extracomment>%1 is a command, as in &quot;systemctl --user enable --now …&quot;; %2 its exit status</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 gagal dengan status %2</translation>
     </message>
     <message>
         <source>%1 runs in the background and starts at login, so it has to be installed: copied to ~/.local/bin and added to your applications menu.</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 berjalan di latar belakang dan dimulai saat login, jadi perlu dipasang: disalin ke ~/.local/bin dan ditambahkan ke menu aplikasi Anda.</translation>
     </message>
     <message>
         <source>Install %1 in ~/.local/bin?</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pasang %1 di ~/.local/bin?</translation>
     </message>
     <message>
         <source>Install</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasang</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Keluar</translation>
     </message>
     <message>
         <source>%1 starts at login through the systemd user unit %2, and it did not start: %3.
 See why with “systemctl --user status %2”, then open %1 again.</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel; %2 the unit&apos;s file name; %3 why it did not start. Keep the command in quotes as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 dimulai saat login melalui unit pengguna systemd %2, dan tidak berhasil dimulai: %3.
+Lihat penyebabnya dengan “systemctl --user status %2”, lalu buka %1 lagi.</translation>
     </message>
     <message>
         <source>%1 couldn&apos;t start in the background</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 tidak dapat berjalan di latar belakang</translation>
     </message>
     <message>
         <source>Open Service Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Buka Folder Layanan</translation>
     </message>
     <message>
         <source>Couldn&apos;t copy %1 to %2</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel; %2 a folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak dapat menyalin %1 ke %2</translation>
     </message>
     <message>
         <source>Copy %1 into ~/.local/bin yourself, then open it from there.</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salin sendiri %1 ke ~/.local/bin, lalu buka dari sana.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>%1 was installed as a package</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 dipasang sebagai paket</translation>
     </message>
     <message>
         <source>%1 no longer runs or starts at login. To remove it from this computer too, run:
 
 sudo apt remove tarvanel</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel. Keep the command as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 tidak lagi berjalan atau dimulai saat login. Untuk menghapusnya juga dari komputer ini, jalankan:
+
+sudo apt remove tarvanel</translation>
     </message>
 </context>
 <context>
@@ -114,42 +125,42 @@ sudo apt remove tarvanel</source>
     <message numerus="yes">
         <source>%1 in %Ln minutes — begin wrapping up.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dalam %Ln menit — mulai bersiap-siap.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln minutes. Start finishing up.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dalam %Ln menit. Mulai selesaikan pekerjaan.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln minutes. Save your work now.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dalam %Ln menit. Simpan pekerjaan Anda sekarang.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln min — the screen is about to lock. Go make wudu.</source>
         <extracomment>%1 is a prayer name. Wudu: the ablution before prayer</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 dalam %Ln mnt — layar segera terkunci. Silakan berwudu.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 ends at sunrise %2 — only %Ln min left!</source>
         <extracomment>%1 is the prayer name Fajr, %2 the time of sunrise</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 berakhir saat matahari terbit pukul %2 — tinggal %Ln mnt!</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 tonight — don&apos;t miss it.</source>
         <extracomment>%1 is the Ramadan night prayer, Tarawih</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 malam ini — jangan sampai terlewat.</translation>
     </message>
 </context>
 <context>
@@ -157,100 +168,100 @@ sudo apt remove tarvanel</source>
     <message>
         <source>Muslim World League</source>
         <extracomment>A calculation method: the organisation&apos;s own name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Muslim World League</translation>
     </message>
     <message>
         <source>ISNA (North America)</source>
         <extracomment>A calculation method: ISNA, the Islamic Society of North America.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ISNA (Amerika Utara)</translation>
     </message>
     <message>
         <source>Egyptian General Authority</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyptian General Authority</translation>
     </message>
     <message>
         <source>Umm al-Qura (Makkah)</source>
-        <translation type="unfinished"></translation>
+        <translation>Umm al-Qura (Makkah)</translation>
     </message>
     <message>
         <source>Karachi (Univ. of Islamic Sciences)</source>
         <extracomment>A calculation method: the University of Islamic Sciences, Karachi.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Karachi (Univ. of Islamic Sciences)</translation>
     </message>
     <message>
         <source>Gulf Region</source>
         <extracomment>A calculation method used in the Gulf states.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kawasan Teluk</translation>
     </message>
     <message>
         <source>Kuwait</source>
-        <translation type="unfinished"></translation>
+        <translation>Kuwait</translation>
     </message>
     <message>
         <source>Qatar</source>
-        <translation type="unfinished"></translation>
+        <translation>Qatar</translation>
     </message>
     <message>
         <source>Singapore, Malaysia, Indonesia</source>
-        <translation type="unfinished"></translation>
+        <translation>Singapura, Malaysia, Indonesia</translation>
     </message>
     <message>
         <source>UOIF (France)</source>
         <extracomment>A calculation method: UOIF, the Union of Islamic Organisations of France.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>UOIF (Prancis)</translation>
     </message>
     <message>
         <source>Spiritual Administration of Russia</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiritual Administration of Russia</translation>
     </message>
     <message>
         <source>Shia Ithna-Ashari (Jafari)</source>
         <extracomment>A calculation method: the Shia Ithna-Ashari (Jafari) school.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Syiah Itsna Asyariyah (Ja&apos;fari)</translation>
     </message>
     <message>
         <source>Institute of Geophysics, Tehran</source>
-        <translation type="unfinished"></translation>
+        <translation>Institute of Geophysics, Tehran</translation>
     </message>
     <message>
         <source>Hanafi, %1</source>
         <extracomment>The Asr school and the calculation method: &quot;Hanafi, Muslim World League&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hanafi, %1</translation>
     </message>
     <message>
         <source>Standard Asr, %1</source>
         <extracomment>&quot;Standard Asr&quot; (the Shafi&apos;i, Maliki and Hanbali Asr) and the calculation method: &quot;Standard Asr, Muslim World League&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Asar standar, %1</translation>
     </message>
     <message>
         <source>Hanafi, custom angles</source>
         <extracomment>The Hanafi Asr with angles the user set, not a known method.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hanafi, sudut kustom</translation>
     </message>
     <message>
         <source>Standard Asr, custom angles</source>
         <extracomment>The standard Asr with angles the user set, not a known method.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Asar standar, sudut kustom</translation>
     </message>
 </context>
 <context>
     <name>Calendar</name>
     <message>
         <source>Allow Tarvanel to add busy events to your calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>Izinkan Tarvanel menambahkan acara sibuk ke kalender Anda?</translation>
     </message>
     <message>
         <source>Tarvanel keeps its events in the calendar folders under %1, one file per event. khal shows them, and vdirsyncer syncs them with your online calendar so colleagues see you&apos;re busy.</source>
         <extracomment>%1 is a folder. khal and vdirsyncer are the names of two programs</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel menyimpan acaranya di folder kalender di bawah %1, satu berkas per acara. khal menampilkannya, dan vdirsyncer menyinkronkannya dengan kalender daring Anda agar rekan kerja melihat Anda sedang sibuk.</translation>
     </message>
     <message>
         <source>Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Izinkan</translation>
     </message>
     <message>
         <source>Don&apos;t Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Jangan Izinkan</translation>
     </message>
 </context>
 <context>
@@ -258,69 +269,69 @@ sudo apt remove tarvanel</source>
     <message>
         <source>SECONDS</source>
         <extracomment>Stands for the number of seconds given to --test-lock</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>DETIK</translation>
     </message>
     <message>
         <source>print today&apos;s prayer and lock times and exit</source>
-        <translation type="unfinished"></translation>
+        <translation>cetak waktu salat dan penguncian hari ini, lalu keluar</translation>
     </message>
     <message>
         <source>with --times: the day to print</source>
         <extracomment>yyyy-MM-dd is the date format typed after --date: keep it as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>dengan --times: hari yang dicetak</translation>
     </message>
     <message>
         <source>install and start the per-user login service</source>
-        <translation type="unfinished"></translation>
+        <translation>pasang dan jalankan layanan login per pengguna</translation>
     </message>
     <message>
         <source>show one lock named &quot;Test&quot; for %1, then exit</source>
         <extracomment>%1 stands for the number of seconds; &quot;Test&quot; is the name the lock shows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tampilkan satu penguncian bernama &quot;Uji&quot; selama %1, lalu keluar</translation>
     </message>
     <message>
         <source>show one %1 reminder, exit 17 seconds later</source>
         <extracomment>%1 is the prayer name Asr</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tampilkan satu pengingat %1, keluar 17 detik kemudian</translation>
     </message>
     <message>
         <source>show this text</source>
-        <translation type="unfinished"></translation>
+        <translation>tampilkan teks ini</translation>
     </message>
     <message>
         <source>show the version</source>
-        <translation type="unfinished"></translation>
+        <translation>tampilkan versi</translation>
     </message>
     <message>
         <source>Usage: tarvanel [option] [timetable file]</source>
         <extracomment>&quot;tarvanel&quot; is the command, typed as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Penggunaan: tarvanel [opsi] [berkas jadwal]</translation>
     </message>
     <message>
         <source>Without options Tarvanel starts in the tray and locks the screens at prayer times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanpa opsi, Tarvanel berjalan di baki sistem dan mengunci layar pada waktu salat.</translation>
     </message>
     <message>
         <source>A timetable file (CSV, text, image or PDF) opens the timetable import window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Berkas jadwal (CSV, teks, gambar, atau PDF) membuka jendela impor jadwal.</translation>
     </message>
     <message>
         <source>Settings: %1. Time zone: the TZ environment variable or the system&apos;s.</source>
         <extracomment>%1 is the settings file; TZ is the name of an environment variable</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pengaturan: %1. Zona waktu: variabel lingkungan TZ atau milik sistem.</translation>
     </message>
     <message>
         <source>unknown option %1</source>
         <extracomment>%1 is what the user typed</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>opsi tidak dikenal %1</translation>
     </message>
     <message>
         <source>Tarvanel running — look for 🕌 in the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel berjalan — cari 🕌 di baki sistem</translation>
     </message>
     <message>
         <source>Tarvanel&apos;s login service did not start</source>
-        <translation type="unfinished"></translation>
+        <translation>Layanan login Tarvanel tidak berjalan</translation>
     </message>
 </context>
 <context>
@@ -328,82 +339,82 @@ sudo apt remove tarvanel</source>
     <message>
         <source>a boolean</source>
         <extracomment>The type of a value in the settings file (config.json).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>boolean</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>angka</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>teks</translation>
     </message>
     <message>
         <source>an array</source>
-        <translation type="unfinished"></translation>
+        <translation>larik</translation>
     </message>
     <message>
         <source>an object</source>
-        <translation type="unfinished"></translation>
+        <translation>objek</translation>
     </message>
     <message>
         <source>null</source>
         <extracomment>A JSON value that is null; &quot;null&quot; is the word written in the file.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>null</translation>
     </message>
     <message>
         <source>an array of numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>larik angka</translation>
     </message>
     <message>
         <source>an array with %1 at position %2</source>
         <extracomment>%1 is a value&apos;s type (&quot;text&quot;), %2 its position in the list.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>larik dengan %1 di posisi %2</translation>
     </message>
     <message>
         <source>an object of texts</source>
-        <translation type="unfinished"></translation>
+        <translation>objek berisi teks</translation>
     </message>
     <message>
         <source>an object with %1 at &quot;%2&quot;</source>
         <extracomment>%1 is a value&apos;s type (&quot;a number&quot;), %2 the name it is stored under.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>objek dengan %1 di &quot;%2&quot;</translation>
     </message>
     <message>
         <source>a number from %1 to %2</source>
         <extracomment>%1 and %2 are the smallest and largest values a setting may have.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>angka dari %1 sampai %2</translation>
     </message>
     <message>
         <source>%1: expected %2, found %3</source>
         <extracomment>An error in the settings file: %1 is the setting&apos;s name as written in the file (keep it first if you can), %2 what it should be, %3 what it is.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: seharusnya %2, ditemukan %3</translation>
     </message>
     <message>
         <source>line %1: %2</source>
         <extracomment>%1 is a line number of the settings file, %2 what is wrong there.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>baris %1: %2</translation>
     </message>
     <message>
         <source>the top level is not an object</source>
         <extracomment>The settings file holds a value that is not a JSON object ({ … }).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>tingkat teratas bukan objek</translation>
     </message>
 </context>
 <context>
     <name>Dialogs</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Export History</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekspor Riwayat</translation>
     </message>
     <message>
         <source>Comma-separated values (*.csv)</source>
         <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nilai dipisahkan koma (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -411,7 +422,7 @@ sudo apt remove tarvanel</source>
     <message>
         <source>%1 AH</source>
         <extracomment>A Hijri date: %1 is the day, month and year (&quot;14 Ramadan 1446&quot;); AH is the era.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 H</translation>
     </message>
 </context>
 <context>
@@ -419,38 +430,38 @@ sudo apt remove tarvanel</source>
     <message>
         <source>F</source>
         <comment>first letter of Fajr, in the week&apos;s grid</comment>
-        <translation type="unfinished"></translation>
+        <translation>S</translation>
     </message>
     <message>
         <source>D</source>
         <comment>first letter of Dhuhr, in the week&apos;s grid</comment>
-        <translation type="unfinished"></translation>
+        <translation>Z</translation>
     </message>
     <message>
         <source>A</source>
         <comment>first letter of Asr, in the week&apos;s grid</comment>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>M</source>
         <comment>first letter of Maghrib, in the week&apos;s grid</comment>
-        <translation type="unfinished"></translation>
+        <translation>M</translation>
     </message>
     <message>
         <source>I</source>
         <comment>first letter of Isha, in the week&apos;s grid</comment>
-        <translation type="unfinished"></translation>
+        <translation>I</translation>
     </message>
     <message>
         <source>q</source>
         <extracomment>In the week&apos;s grid: a prayer made up later (qada), one letter.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>q</translation>
     </message>
     <message numerus="yes">
         <source>This week: %1/%2 prayers at the computer • streak %Ln days</source>
         <extracomment>The weekly report: %1 of 35 prayers kept at the computer; %Ln days in a row kept.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Minggu ini: %1/%2 salat di depan komputer • runtunan %Ln hari</numerusform>
         </translation>
     </message>
 </context>
@@ -459,52 +470,52 @@ sudo apt remove tarvanel</source>
     <message>
         <source>The reader stopped unexpectedly while reading %1. Nothing was changed: try another photo or PDF, or paste the text.</source>
         <extracomment>%1 the name of the photo or PDF being read</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pembaca berhenti tiba-tiba saat membaca %1. Tidak ada yang diubah: coba foto atau PDF lain, atau tempel teksnya.</translation>
     </message>
     <message>
         <source>Photos and PDFs can&apos;t be read: the reader is missing (%1). Paste the text instead, or reinstall Tarvanel.</source>
         <extracomment>%1 the path of the program that reads photos and PDFs</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Foto dan PDF tidak dapat dibaca: pembacanya tidak ada (%1). Tempel teksnya saja, atau pasang ulang Tarvanel.</translation>
     </message>
     <message>
         <source>Faj</source>
         <extracomment>Fajr shortened to fit a column of the timetable&apos;s preview</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sub</translation>
     </message>
     <message>
         <source>Dhu</source>
         <extracomment>Dhuhr shortened to fit a column of the timetable&apos;s preview</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zuh</translation>
     </message>
     <message>
         <source>Asr</source>
         <extracomment>Asr shortened to fit a column of the timetable&apos;s preview</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Asr</translation>
     </message>
     <message>
         <source>Mag</source>
         <extracomment>Maghrib shortened to fit a column of the timetable&apos;s preview</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mag</translation>
     </message>
     <message>
         <source>Ish</source>
         <extracomment>Isha shortened to fit a column of the timetable&apos;s preview</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Isy</translation>
     </message>
     <message>
         <source>Jum</source>
         <extracomment>Jumu&apos;ah shortened to fit a column of the timetable&apos;s preview</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jum</translation>
     </message>
     <message>
         <source>Import Masjid Timetable</source>
-        <translation type="unfinished"></translation>
+        <translation>Impor Jadwal Masjid</translation>
     </message>
     <message numerus="yes">
         <source>%Ln cells were hard to read and are marked in yellow: check them against the sheet.</source>
         <extracomment>Cells of the timetable&apos;s text that the reader was unsure of</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sel sulit dibaca dan ditandai kuning: periksa dengan lembar aslinya.</numerusform>
         </translation>
     </message>
 </context>
@@ -512,7 +523,7 @@ sudo apt remove tarvanel</source>
     <name>Language</name>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistem</translation>
     </message>
 </context>
 <context>
@@ -520,21 +531,21 @@ sudo apt remove tarvanel</source>
     <message>
         <source>Screen unlocks in %1</source>
         <extracomment>%1 is the time left in minutes and seconds, as in &quot;4:59&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Layar terbuka dalam %1</translation>
     </message>
     <message>
         <source>Emergency? Type your guardian&apos;s 6-digit code</source>
         <extracomment>The guardian: the person who keeps the code that ends a lock early</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Darurat? Ketik kode 6 digit dari wali Anda</translation>
     </message>
     <message>
         <source>That code didn&apos;t work</source>
-        <translation type="unfinished"></translation>
+        <translation>Kode itu tidak cocok</translation>
     </message>
     <message numerus="yes">
         <source>Too many tries. Try again in %Ln minutes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Terlalu banyak percobaan. Coba lagi dalam %Ln menit</numerusform>
         </translation>
     </message>
 </context>
@@ -543,56 +554,56 @@ sudo apt remove tarvanel</source>
     <message>
         <source>on this desktop a lock can be left by switching windows</source>
         <extracomment>Shown on a line of its own with its first letter made a capital and &quot;%1.&quot; around it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>di desktop ini penguncian bisa ditinggalkan dengan berpindah jendela</translation>
     </message>
     <message>
         <source>on this desktop the compositor&apos;s own shortcuts may still leave a lock</source>
         <extracomment>Shown on a line of its own with its first letter made a capital and &quot;%1.&quot; around it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>di desktop ini pintasan milik compositor mungkin masih bisa keluar dari penguncian</translation>
     </message>
 </context>
 <context>
     <name>MainMenu</name>
     <message>
         <source>About Tarvanel</source>
-        <translation type="unfinished"></translation>
+        <translation>Tentang Tarvanel</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pengaturan…</translation>
     </message>
     <message>
         <source>Close Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutup Jendela</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
         <extracomment>The Edit menu; the &amp; marks its Alt key letter</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sunting</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Urungkan</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ulangi</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Potong</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Salin</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempel</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih Semua</translation>
     </message>
 </context>
 <context>
@@ -600,142 +611,142 @@ sudo apt remove tarvanel</source>
     <message>
         <source>No Longer Excused</source>
         <extracomment>Excused: exempt from prayer for a while (menstruation, illness)</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak Lagi Berhalangan</translation>
     </message>
     <message>
         <source>✓ prayed   q qada   – excused   · not kept</source>
         <extracomment>Legend of the seven-day grid. Keep the marks ✓ q – · as they are: the grid shows them</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>✓ sudah salat   q qadha   – berhalangan   · terlewat</translation>
     </message>
     <message>
         <source>Tarvanel isn&apos;t set up yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel belum diatur</translation>
     </message>
     <message>
         <source>Set Up Tarvanel…</source>
-        <translation type="unfinished"></translation>
+        <translation>Atur Tarvanel…</translation>
     </message>
     <message>
         <source>Ramadan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramadan</translation>
     </message>
     <message>
         <source>Locks paused until %1</source>
         <extracomment>%1 is a weekday and a time, as in &quot;Friday 3:15 PM&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Penguncian dijeda hingga %1</translation>
     </message>
     <message>
         <source>Excused · reminders and locks are off</source>
-        <translation type="unfinished"></translation>
+        <translation>Berhalangan · pengingat dan penguncian mati</translation>
     </message>
     <message>
         <source>Travelling until %1</source>
         <extracomment>%1 is the last day of the journey, as in &quot;Friday 3 Oct&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bepergian hingga %1</translation>
     </message>
     <message>
         <source>Travelling until %1 · combining prayers</source>
         <extracomment>%1 is the last day of the journey, as in &quot;Friday 3 Oct&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bepergian hingga %1 · salat dijamak</translation>
     </message>
     <message>
         <source>%1 locks when your call ends</source>
         <extracomment>%1 is a prayer name: its lock waits for the end of a call</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 mengunci setelah panggilan Anda selesai</translation>
     </message>
     <message>
         <source>%1 (with %2)</source>
         <extracomment>A prayer combined with an earlier one while travelling: &quot;Asr (with Dhuhr)&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (dengan %2)</translation>
     </message>
     <message>
         <source>(waqt %1)</source>
         <extracomment>After a lock time that differs from the computed time: %1 is the computed (waqt) time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>(waktu %1)</translation>
     </message>
     <message>
         <source>◀ next</source>
         <extracomment>Marks the row of the next prayer; the arrow points back at its time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>◀ berikutnya</translation>
     </message>
     <message>
         <source>%1 ends %2</source>
         <extracomment>%1 is Suhoor, the meal before the fast; %2 the time it ends</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 berakhir pukul %2</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <comment>Iftar and its time</comment>
         <extracomment>%1 is Iftar, the meal that breaks the fast; %2 its time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message numerus="yes">
         <source>Streak: %Ln days</source>
         <extracomment>Days in a row with every prayer kept</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Runtunan: %Ln hari</numerusform>
         </translation>
     </message>
     <message>
         <source>Mark as Prayed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tandai Sudah Salat</translation>
     </message>
     <message>
         <source>%1: Prayed Late (Qada)</source>
         <extracomment>%1 is a prayer name; qada: a prayer made up after its time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: Salat Terlambat (Qadha)</translation>
     </message>
     <message>
         <source>%1: Prayed Elsewhere</source>
         <extracomment>%1 is a prayer name, prayed at the mosque or anywhere away from the screen</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: Salat di Tempat Lain</translation>
     </message>
     <message>
         <source>Nothing to mark yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum ada yang bisa ditandai</translation>
     </message>
     <message>
         <source>I&apos;m Excused…</source>
         <extracomment>Excused: exempt from prayer for a while (menstruation, illness)</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Saya Berhalangan…</translation>
     </message>
     <message>
         <source>Stop Travelling</source>
-        <translation type="unfinished"></translation>
+        <translation>Akhiri Perjalanan</translation>
     </message>
     <message>
         <source>I&apos;m Travelling…</source>
-        <translation type="unfinished"></translation>
+        <translation>Saya Bepergian…</translation>
     </message>
     <message>
         <source>Resume Locks</source>
-        <translation type="unfinished"></translation>
+        <translation>Lanjutkan Penguncian</translation>
     </message>
     <message>
         <source>Pause Locks</source>
         <extracomment>&quot;Locks&quot; is a noun: the screen locks at prayer times</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jeda Penguncian</translation>
     </message>
     <message>
         <source>For the Rest of Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Sampai Akhir Hari Ini</translation>
     </message>
     <message>
         <source>For 3 Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Selama 3 Hari</translation>
     </message>
     <message>
         <source>For a Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Selama Seminggu</translation>
     </message>
     <message>
         <source>Preview Lock (10 s)</source>
         <extracomment>Shows the lock screen for ten seconds; &quot;Lock&quot; is a noun</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Coba Penguncian (10 dtk)</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pengaturan…</translation>
     </message>
 </context>
 <context>
@@ -743,69 +754,69 @@ sudo apt remove tarvanel</source>
     <message>
         <source>Fajr</source>
         <comment>the dawn prayer</comment>
-        <translation type="unfinished"></translation>
+        <translation>Subuh</translation>
     </message>
     <message>
         <source>Sunrise</source>
         <comment>the time of sunrise</comment>
-        <translation type="unfinished"></translation>
+        <translation>Terbit</translation>
     </message>
     <message>
         <source>Dhuhr</source>
         <comment>the noon prayer</comment>
-        <translation type="unfinished"></translation>
+        <translation>Zuhur</translation>
     </message>
     <message>
         <source>Jumu&apos;ah</source>
         <comment>the Friday congregational prayer</comment>
-        <translation type="unfinished"></translation>
+        <translation>Jumat</translation>
     </message>
     <message>
         <source>Asr</source>
         <comment>the afternoon prayer</comment>
-        <translation type="unfinished"></translation>
+        <translation>Asar</translation>
     </message>
     <message>
         <source>Maghrib</source>
         <comment>the sunset prayer</comment>
-        <translation type="unfinished"></translation>
+        <translation>Magrib</translation>
     </message>
     <message>
         <source>Isha</source>
         <comment>the night prayer</comment>
-        <translation type="unfinished"></translation>
+        <translation>Isya</translation>
     </message>
     <message>
         <source>Tarawih</source>
         <comment>the Ramadan night prayer</comment>
-        <translation type="unfinished"></translation>
+        <translation>Tarawih</translation>
     </message>
     <message>
         <source>Iftar</source>
         <comment>the meal that breaks the Ramadan fast</comment>
-        <translation type="unfinished"></translation>
+        <translation>Buka puasa</translation>
     </message>
     <message>
         <source>Suhoor</source>
         <comment>the meal before the Ramadan fast</comment>
-        <translation type="unfinished"></translation>
+        <translation>Sahur</translation>
     </message>
     <message>
         <source>%1 &amp; %2</source>
         <extracomment>Two prayers prayed together while travelling, e.g. &quot;Dhuhr &amp; Asr&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 &amp; %2</translation>
     </message>
 </context>
 <context>
     <name>PrayerCalendar</name>
     <message>
         <source>Prayer times</source>
-        <translation type="unfinished"></translation>
+        <translation>Waktu salat</translation>
     </message>
     <message>
         <source>%1 (prayer)</source>
         <extracomment>A calendar event&apos;s title: %1 is a prayer&apos;s name (&quot;Fajr (prayer)&quot;).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salat %1</translation>
     </message>
 </context>
 <context>
@@ -813,61 +824,61 @@ sudo apt remove tarvanel</source>
     <message>
         <source>%1, %2</source>
         <extracomment>Items of a list before its last: &quot;4, 12&quot; in &quot;4, 12 and 19 March&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>The last item of a list: &quot;4 and 12&quot;, &quot;4, 12 and 19 March&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 dan %2</translation>
     </message>
     <message>
         <source>line %1</source>
         <extracomment>A row of the pasted or read timetable text, counted from 1.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>baris %1</translation>
     </message>
     <message>
         <source>%1 %2</source>
         <extracomment>Days of one month: %1 is one or more day numbers (&quot;4, 12 and 19&quot;), %2 the month.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message numerus="yes">
         <source>%1 are missing a time in a chosen column</source>
         <extracomment>%1 names the rows: days (&quot;4, 12 and 19 March&quot;) or lines (&quot;line 7&quot;); %n counts them.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 tidak memiliki waktu di kolom yang dipilih</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 have no day number or date</source>
         <extracomment>%1 names the rows (&quot;line 7 and line 9&quot;); %n counts them.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 tidak memiliki nomor hari atau tanggal</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>days %1 are not in %2</source>
         <extracomment>%1 is one or more day numbers (&quot;30 and 31&quot;), %2 a month (&quot;February&quot;); %n counts the days.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>tanggal %1 tidak ada di bulan %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 appear twice (the later rows are used)</source>
         <extracomment>%1 names the rows (&quot;4 and 5 March&quot;); %n counts them.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 muncul dua kali (baris yang lebih akhir dipakai)</numerusform>
         </translation>
     </message>
     <message>
         <source>; </source>
         <extracomment>Separates the reasons in the sentence below: &quot;… in a chosen column; line 7 has …&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>; </translation>
     </message>
     <message numerus="yes">
         <source>%Ln rows can&apos;t be used: %1.</source>
         <extracomment>%Ln counts the rows, %1 gives the reasons (&quot;4 March is missing a time in a chosen column&quot;).</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln baris tidak dapat dipakai: %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -875,484 +886,487 @@ sudo apt remove tarvanel</source>
     <name>Settings</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahasa</translation>
     </message>
     <message>
         <source>The menu and every window opened from now on use this language. System follows your desktop&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu dan setiap jendela yang dibuka mulai sekarang memakai bahasa ini. Sistem mengikuti bahasa desktop Anda.</translation>
     </message>
     <message>
         <source>The GNOME Shell extension is on: a lock covers every screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekstensi GNOME Shell aktif: penguncian menutupi setiap layar.</translation>
     </message>
     <message>
         <source>The GNOME Shell extension is off, so GNOME&apos;s shortcuts still work during a lock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekstensi GNOME Shell mati, jadi pintasan GNOME masih berfungsi selama penguncian.</translation>
     </message>
     <message>
         <source>Enable the GNOME Shell extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktifkan ekstensi GNOME Shell</translation>
     </message>
     <message>
         <source>The GNOME Shell extension is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekstensi GNOME Shell aktif.</translation>
     </message>
     <message>
         <source>Log out and back in to load it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keluar lalu masuk lagi untuk memuatnya.</translation>
     </message>
     <message>
         <source>Adhan</source>
         <extracomment>The call to prayer</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Azan</translation>
     </message>
     <message>
         <source>Pick any MP3, M4A, AIFF or WAV file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih berkas MP3, M4A, AIFF, atau WAV apa saja.</translation>
     </message>
     <message>
         <source>Play the adhan when a lock starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Putar azan saat penguncian dimulai</translation>
     </message>
     <message>
         <source>Play</source>
         <extracomment>A button: play the chosen adhan</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Putar</translation>
     </message>
     <message>
         <source>Choose Sound…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih Suara…</translation>
     </message>
     <message>
         <source>Choose Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih Suara</translation>
     </message>
     <message>
         <source>Sounds (*.mp3 *.m4a *.aif *.aiff *.wav)</source>
         <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Suara (*.mp3 *.m4a *.aif *.aiff *.wav)</translation>
     </message>
     <message>
         <source>Use This Adhan</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakai Azan Ini</translation>
     </message>
     <message>
         <source>Remove</source>
         <extracomment>A button: stop using the chosen adhan
 ----------
 A button: remove the guardian&apos;s code</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hapus</translation>
     </message>
     <message>
         <source>None (a chime plays)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada (lonceng berbunyi)</translation>
     </message>
     <message>
         <source>Stop</source>
         <extracomment>A button: stop the adhan that plays</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hentikan</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Suara</translation>
     </message>
     <message>
         <source>Calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Perhitungan</translation>
     </message>
     <message>
         <source>Custom angles</source>
         <extracomment>The calculation method of one&apos;s own: the sun&apos;s angles below the horizon for Fajr and Isha</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sudut kustom</translation>
     </message>
     <message>
         <source>Method</source>
         <extracomment>The calculation method of prayer times</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Metode</translation>
     </message>
     <message>
         <source>Fajr angle</source>
         <extracomment>The sun&apos;s angle below the horizon at which Fajr starts</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sudut Subuh</translation>
     </message>
     <message>
         <source>Isha angle</source>
         <extracomment>The sun&apos;s angle below the horizon at which Isha starts</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sudut Isya</translation>
     </message>
     <message>
         <source>Standard (Shafi&apos;i, Maliki, Hanbali)</source>
         <extracomment>The way of reckoning the Asr time shared by the Shafi&apos;i, Maliki and Hanbali schools</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Standar (Syafi&apos;i, Maliki, Hanbali)</translation>
     </message>
     <message>
         <source>Hanafi</source>
         <extracomment>The Hanafi school&apos;s later Asr time</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hanafi</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Adds each lock as a Busy event for the next 7 days, so colleagues see you&apos;re busy and don&apos;t book meetings over salah. Pick your work calendar. Turning this off removes the events.
 On Linux the calendars are the folders under ~/.local/share/calendars (khal and vdirsyncer use them too).</source>
         <extracomment>Busy is how the event shows in others&apos; calendars; khal and vdirsyncer are programs</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Menambahkan setiap penguncian sebagai acara Sibuk untuk 7 hari ke depan, agar rekan kerja melihat Anda sibuk dan tidak menjadwalkan rapat di waktu salat. Pilih kalender kerja Anda. Mematikan ini menghapus acara-acara tersebut.
+Di Linux, kalender adalah folder di bawah ~/.local/share/calendars (khal dan vdirsyncer juga memakainya).</translation>
     </message>
     <message>
         <source>Block prayer times in my calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Blokir waktu salat di kalender saya</translation>
     </message>
     <message>
         <source>None</source>
         <extracomment>No calendar chosen</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <extracomment>A calendar in the list: %1 its name, %2 the account or folder it belongs to</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Emergency exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Jalan keluar darurat</translation>
     </message>
     <message>
         <source>Optional. Someone you trust keeps a 6-digit code in their phone. In a real emergency they read it to you and you type it on the lock screen to end the lock; that prayer isn&apos;t counted as kept. The key is stored on this computer, so this is a speed bump, not a vault.</source>
         <extracomment>“A speed bump, not a vault”: it slows a determined person down but cannot stop one</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Opsional. Orang yang Anda percayai menyimpan kode 6 digit di ponselnya. Dalam keadaan darurat sungguhan, ia membacakannya kepada Anda dan Anda mengetiknya di layar kunci untuk mengakhiri penguncian; salat itu tidak dihitung sebagai ditunaikan. Kuncinya disimpan di komputer ini, jadi ini hanya penghambat, bukan brankas.</translation>
     </message>
     <message>
         <source>Guardian code</source>
         <extracomment>The guardian&apos;s code is set; a Remove button follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kode wali</translation>
     </message>
     <message>
         <source>Set Up Guardian Code…</source>
-        <translation type="unfinished"></translation>
+        <translation>Atur Kode Wali…</translation>
     </message>
     <message>
         <source>Extras</source>
-        <translation type="unfinished"></translation>
+        <translation>Tambahan</translation>
     </message>
     <message>
         <source>Ramadan mode adds suhoor and iftar times and a Tarawih reminder during Ramadan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode Ramadan menambahkan waktu sahur dan buka puasa serta pengingat Tarawih selama Ramadan.</translation>
     </message>
     <message>
         <source>Ramadan mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode Ramadan</translation>
     </message>
     <message>
         <source>Weekly report on Sunday evenings</source>
-        <translation type="unfinished"></translation>
+        <translation>Laporan mingguan setiap Minggu malam</translation>
     </message>
     <message>
         <source>Streak &amp; history</source>
-        <translation type="unfinished"></translation>
+        <translation>Runtunan &amp; riwayat</translation>
     </message>
     <message>
         <source>I&apos;m Excused… in the menu turns off reminders and locks without breaking your streak. Mark as Prayed counts a prayer you prayed at the masjid or made up late (qada). Export saves every prayer with how it was kept as a CSV.</source>
         <extracomment>I&apos;m Excused… and Mark as Prayed are commands of the tray menu; use their translations</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Saya Berhalangan… di menu mematikan pengingat dan penguncian tanpa memutus runtunan Anda. Tandai Sudah Salat mencatat salat yang Anda tunaikan di masjid atau yang diqadha belakangan. Ekspor menyimpan setiap salat beserta cara penunaiannya sebagai CSV.</translation>
     </message>
     <message>
         <source>“I&apos;m Excused” ends by itself after</source>
         <extracomment>A number of days follows in a field; I&apos;m Excused is a command of the tray menu</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>“Saya Berhalangan” berakhir sendiri setelah</translation>
     </message>
     <message>
         <source> days</source>
         <extracomment>A unit after a number of days in a field; keep the leading space if your language has one</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> hari</translation>
     </message>
     <message>
         <source>Export History…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekspor Riwayat…</translation>
     </message>
     <message>
         <source>On Fridays Dhuhr becomes Jumu&apos;ah at this time, with a longer lock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setiap Jumat, Zuhur menjadi salat Jumat pada waktu ini, dengan penguncian lebih lama.</translation>
     </message>
     <message>
         <source>Jumu&apos;ah on Fridays</source>
-        <translation type="unfinished"></translation>
+        <translation>Salat Jumat setiap Jumat</translation>
     </message>
     <message>
         <source>Jumu&apos;ah time</source>
-        <translation type="unfinished"></translation>
+        <translation>Waktu salat Jumat</translation>
     </message>
     <message>
         <source>Jumu&apos;ah lock lasts</source>
-        <translation type="unfinished"></translation>
+        <translation>Lama penguncian Jumat</translation>
     </message>
     <message>
         <source> min</source>
         <extracomment>A unit after a number of minutes in a field; keep the leading space if your language has one</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> mnt</translation>
     </message>
     <message>
         <source>Places with this name</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempat dengan nama ini</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokasi</translation>
     </message>
     <message>
         <source>Times are calculated on your computer, no internet needed. Your computer&apos;s time zone: %1</source>
         <extracomment>%1 the time zone&apos;s identifier, such as Europe/London</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Waktu dihitung di komputer Anda, tanpa perlu internet. Zona waktu komputer Anda: %1</translation>
     </message>
     <message>
         <source>City</source>
-        <translation type="unfinished"></translation>
+        <translation>Kota</translation>
     </message>
     <message>
         <source>e.g. London, Dhaka, Toronto</source>
         <extracomment>Examples of cities; use cities your readers know</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>mis. Jakarta, Surabaya, Makassar</translation>
     </message>
     <message>
         <source>Find</source>
         <extracomment>A button: search for the city typed</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cari</translation>
     </message>
     <message>
         <source>Using</source>
         <extracomment>The location in use: a label before the place&apos;s name and coordinates</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Memakai</translation>
     </message>
     <message>
         <source>%1  %2, %3</source>
         <extracomment>%1 the place&apos;s name, %2 its latitude, %3 its longitude</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2, %3</translation>
     </message>
     <message>
         <source>Not set yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum diatur</translation>
     </message>
     <message>
         <source>Enter coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>Masukkan koordinat</translation>
     </message>
     <message>
         <source>Name</source>
         <extracomment>The place&apos;s name, typed with its coordinates</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nama</translation>
     </message>
     <message>
         <source>Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Lintang</translation>
     </message>
     <message>
         <source>Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Bujur</translation>
     </message>
     <message>
         <source>During a lock every screen goes black, and the lock holds the keyboard and mouse, so the panel, window and workspace switching and the desktop&apos;s shortcuts are out of reach. There&apos;s no way to end it early except your guardian&apos;s code. If your mic or camera is in use when a lock is due, it waits for the call to end, then locks for the full time. With “Did you pray?”, answering Not Yet locks again for 5 minutes. If your computer is asleep, it locks on wake only while still inside the lock window.</source>
         <extracomment>“Did you pray?” and Not Yet are the texts of the question asked after a lock and its button</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Selama penguncian, setiap layar menjadi hitam dan penguncian menahan papan ketik serta tetikus, sehingga panel, perpindahan jendela dan ruang kerja, serta pintasan desktop tidak dapat dijangkau. Tidak ada cara mengakhirinya lebih awal kecuali dengan kode wali Anda. Jika mikrofon atau kamera sedang dipakai saat penguncian tiba, penguncian menunggu panggilan selesai, lalu mengunci selama waktu penuh. Dengan “Sudah salat?”, menjawab Belum akan mengunci lagi selama 5 menit. Jika komputer sedang tidur, penguncian terjadi saat bangun hanya jika masih dalam rentang waktu penguncian.</translation>
     </message>
     <message>
         <source>During a lock every screen goes black, and the lock holds the keyboard and mouse, so the panel, window and workspace switching and the desktop&apos;s shortcuts are out of reach. There&apos;s no way to end it early. If your mic or camera is in use when a lock is due, it waits for the call to end, then locks for the full time. With “Did you pray?”, answering Not Yet locks again for 5 minutes. If your computer is asleep, it locks on wake only while still inside the lock window.</source>
         <extracomment>“Did you pray?” and Not Yet are the texts of the question asked after a lock and its button</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Selama penguncian, setiap layar menjadi hitam dan penguncian menahan papan ketik serta tetikus, sehingga panel, perpindahan jendela dan ruang kerja, serta pintasan desktop tidak dapat dijangkau. Tidak ada cara mengakhirinya lebih awal. Jika mikrofon atau kamera sedang dipakai saat penguncian tiba, penguncian menunggu panggilan selesai, lalu mengunci selama waktu penuh. Dengan “Sudah salat?”, menjawab Belum akan mengunci lagi selama 5 menit. Jika komputer sedang tidur, penguncian terjadi saat bangun hanya jika masih dalam rentang waktu penguncian.</translation>
     </message>
     <message>
         <source>%1.</source>
         <extracomment>A sentence&apos;s full stop: %1 the sentence</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>Lock</source>
         <extracomment>The heading of the section about the lock (a noun)</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Penguncian</translation>
     </message>
     <message>
         <source>Lock lasts</source>
-        <translation type="unfinished"></translation>
+        <translation>Lama penguncian</translation>
     </message>
     <message>
         <source>Lock starts before prayer</source>
-        <translation type="unfinished"></translation>
+        <translation>Penguncian dimulai sebelum salat</translation>
     </message>
     <message>
         <source>Reminders (minutes before)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pengingat (menit sebelumnya)</translation>
     </message>
     <message>
         <source>20, 10, 5, 2</source>
         <extracomment>An example of the reminders field: minutes before the lock, separated by commas</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>20, 10, 5, 2</translation>
     </message>
     <message>
         <source>Wait for a call to end</source>
         <extracomment>How long a lock waits while the mic or camera is in use</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tunggu panggilan selesai</translation>
     </message>
     <message>
         <source>Ask “Did you pray?” after each lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanyakan “Sudah salat?” setelah setiap penguncian</translation>
     </message>
     <message>
         <source>Your phone too</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponsel Anda juga</translation>
     </message>
     <message>
         <source>Tarvanel runs the script “%1” when a lock starts and “%2” when it ends. The pair written for your desktop turns its notification banners off and back on; a command added to both can quiet your phone as well.</source>
         <extracomment>%1 and %2 the names of the two scripts (file names: they stay as they are)</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel menjalankan skrip “%1” saat penguncian dimulai dan “%2” saat berakhir. Pasangan skrip yang ditulis untuk desktop Anda mematikan lalu menyalakan kembali banner notifikasinya; perintah yang ditambahkan ke keduanya juga dapat membuat ponsel Anda senyap.</translation>
     </message>
     <message>
         <source>Run the Focus scripts during each lock</source>
         <extracomment>Focus names the pair of scripts run at the start and the end of a lock</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jalankan skrip Fokus selama setiap penguncian</translation>
     </message>
     <message>
         <source>Scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrip</translation>
     </message>
     <message>
         <source>Not checked yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum diperiksa</translation>
     </message>
     <message>
         <source>Both scripts found</source>
-        <translation type="unfinished"></translation>
+        <translation>Kedua skrip ditemukan</translation>
     </message>
     <message>
         <source>Scripts missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrip tidak ada</translation>
     </message>
     <message>
         <source>1. Choose your desktop below and press Write Scripts: it makes “%1” and “%2” in %3, which switch the desktop&apos;s notification banners off and on.
 2. Or write them yourself: any executable files with those names (each may run for 30 seconds at most).
 3. For your phone: add to both scripts a command of the tool that links your phone to this computer, if you use one.</source>
         <extracomment>%1 and %2 the names of the two scripts, %3 their folder; Write Scripts is a button below</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>1. Pilih desktop Anda di bawah dan tekan Tulis Skrip: ini membuat “%1” dan “%2” di %3, yang mematikan dan menyalakan banner notifikasi desktop.
+2. Atau tulis sendiri: berkas apa pun yang dapat dieksekusi dengan nama tersebut (masing-masing boleh berjalan paling lama 30 detik).
+3. Untuk ponsel Anda: tambahkan ke kedua skrip sebuah perintah dari alat yang menghubungkan ponsel ke komputer ini, jika Anda memakainya.</translation>
     </message>
     <message>
         <source>Scripts for</source>
         <extracomment>The desktop the scripts are written for</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Skrip untuk</translation>
     </message>
     <message>
         <source>Write Scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tulis Skrip</translation>
     </message>
     <message>
         <source>Open Shortcuts Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Buka Folder Pintasan</translation>
     </message>
     <message>
         <source>Check Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Periksa Lagi</translation>
     </message>
     <message>
         <source>Test</source>
         <extracomment>A button: run the scripts once now to try them</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uji</translation>
     </message>
     <message>
         <source>Find your city to begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Cari kota Anda untuk memulai</translation>
     </message>
     <message>
         <source>Your location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokasi Anda</translation>
     </message>
     <message>
         <source>%1  ·  %2 locks at %3</source>
         <extracomment>The settings window&apos;s header: %1 the place, %2 a prayer, %3 the time its lock starts</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  %2 mengunci pukul %3</translation>
     </message>
     <message>
         <source>Start Tarvanel</source>
         <extracomment>The button that saves the settings on the first run and starts the program</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mulai Tarvanel</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Simpan</translation>
     </message>
     <message>
         <source>h:mm AP</source>
         <extracomment>How a time of day is written, in Qt&apos;s date-time pattern letters: h hour, mm minutes, AP AM or PM. A 24-hour clock is HH:mm</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>HH.mm</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Hari ini</translation>
     </message>
     <message>
         <source>Find your city to see today&apos;s times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cari kota Anda untuk melihat waktu hari ini.</translation>
     </message>
     <message>
         <source>locks %1</source>
         <extracomment>A column of today&apos;s times: %1 the time this prayer&apos;s lock starts</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>mengunci %1</translation>
     </message>
     <message>
         <source>Fajr ends at sunrise, %1.</source>
         <extracomment>%1 the time of sunrise</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Subuh berakhir saat matahari terbit, %1.</translation>
     </message>
     <message>
         <source>Travel</source>
-        <translation type="unfinished"></translation>
+        <translation>Perjalanan</translation>
     </message>
     <message>
         <source>Travel mode checks your rough location online every 6 hours and uses local times when you&apos;re more than 50 km from home; a VPN will fool it. You can also choose I&apos;m Travelling… in the menu. Combining makes Dhuhr and Asr one lock at Dhuhr, and Maghrib and Isha one lock at Maghrib, only while travelling. Schools differ: the Hanafi school, for example, doesn&apos;t permit combining except at Arafah and Muzdalifah. Turn it on only if your school permits it.</source>
         <extracomment>I&apos;m Travelling… is a command of the tray menu</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mode perjalanan memeriksa perkiraan lokasi Anda secara daring setiap 6 jam dan memakai waktu setempat bila Anda berada lebih dari 50 km dari rumah; VPN dapat mengecohnya. Anda juga dapat memilih Saya Bepergian… di menu. Menjamak membuat Zuhur dan Asar menjadi satu penguncian pada waktu Zuhur, serta Magrib dan Isya satu penguncian pada waktu Magrib, hanya selama bepergian. Mazhab berbeda pendapat: mazhab Hanafi, misalnya, tidak membolehkan jamak kecuali di Arafah dan Muzdalifah. Aktifkan hanya jika mazhab Anda membolehkannya.</translation>
     </message>
     <message>
         <source>Travel mode (follow my location)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode perjalanan (ikuti lokasi saya)</translation>
     </message>
     <message>
         <source>Combine prayers while travelling</source>
-        <translation type="unfinished"></translation>
+        <translation>Jamak salat saat bepergian</translation>
     </message>
     <message>
         <source>%1 minutes after start</source>
         <extracomment>Read by a screen reader: %1 a prayer</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Menit setelah awal waktu %1</translation>
     </message>
     <message>
         <source>%1 fixed time</source>
         <extracomment>Read by a screen reader: %1 a prayer</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Waktu tetap %1</translation>
     </message>
     <message>
         <source>When you pray</source>
-        <translation type="unfinished"></translation>
+        <translation>Saat Anda salat</translation>
     </message>
     <message>
         <source>Lock at the time you actually pray, like your mosque&apos;s jamaat, instead of the moment the time starts. An imported timetable wins on the days it covers.</source>
         <extracomment>“Lock” here is a verb; jamaat is the congregational prayer at the mosque</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kunci pada waktu Anda benar-benar salat, seperti jamaah di masjid Anda, bukan saat awal waktu masuk. Jadwal yang diimpor berlaku pada hari-hari yang dicakupnya.</translation>
     </message>
     <message>
         <source>Clear</source>
         <extracomment>A button: forget the imported timetable</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hapus</translation>
     </message>
     <message>
         <source>Masjid timetable: %1</source>
         <extracomment>%1 the imported timetable&apos;s days and dates, such as “31 days, 1 Mar 2025 – 31 Mar 2025”</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jadwal masjid: %1</translation>
     </message>
     <message>
         <source>No masjid timetable imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum ada jadwal masjid yang diimpor</translation>
     </message>
     <message>
         <source>Import Timetable…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impor Jadwal…</translation>
     </message>
 </context>
 <context>
@@ -1360,32 +1374,32 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>dddd d MMMM yyyy</source>
         <extracomment>Qt pattern of the date above the --times table, as in &quot;Friday 3 October 2025&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>dddd, d MMMM yyyy</translation>
     </message>
     <message>
         <source>dddd d MMMM</source>
         <extracomment>Qt pattern of a weekday and a date, as in &quot;Friday 3 October&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>dddd, d MMMM</translation>
     </message>
     <message>
         <source>h:mm AP</source>
         <extracomment>Qt time pattern of a clock time: h hour, mm minutes, AP AM or PM. Write HH:mm where a 24-hour clock is usual.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>HH.mm</translation>
     </message>
     <message>
         <source>dddd h:mm AP</source>
         <extracomment>Qt pattern of a weekday and a clock time, as in &quot;Friday 3:15 PM&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>dddd HH.mm</translation>
     </message>
     <message>
         <source>dddd d MMM</source>
         <extracomment>Qt pattern of a weekday and a date, as in &quot;Friday 3 Oct&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>dddd, d MMM</translation>
     </message>
     <message>
         <source>ddd d</source>
         <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;: at most 7 characters</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ddd d</translation>
     </message>
 </context>
 <context>
@@ -1393,49 +1407,49 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>At start time</source>
         <extracomment>When the lock comes: at the prayer&apos;s start time (its waqt).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pada awal waktu</translation>
     </message>
     <message>
         <source>After start</source>
         <extracomment>When the lock comes: some minutes after the prayer&apos;s start time.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Setelah awal waktu</translation>
     </message>
     <message>
         <source>Fixed time</source>
         <extracomment>When the lock comes: at a fixed clock time, such as a mosque&apos;s jamaat.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Waktu tetap</translation>
     </message>
 </context>
 <context>
     <name>TimesCommand</name>
     <message>
         <source>Ramadan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramadan</translation>
     </message>
     <message>
         <source>Prayer</source>
         <extracomment>Column heading of the --times table: the prayer&apos;s name</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salat</translation>
     </message>
     <message>
         <source>Waqt</source>
         <extracomment>Column heading of the --times table: the computed time of the prayer</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Waktu</translation>
     </message>
     <message>
         <source>Lock at</source>
         <extracomment>Column heading of the --times table: when the screens lock</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dikunci</translation>
     </message>
     <message>
         <source>config.json is invalid (%1); printing the default settings&apos; times</source>
         <extracomment>%1 says what is wrong with the settings file config.json</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>config.json tidak valid (%1); mencetak waktu dari pengaturan bawaan</translation>
     </message>
     <message>
         <source>no place is set, so these times are for 0° N 0° E; to set yours, open Tarvanel (its settings open on the first start) or write %1</source>
         <extracomment>%1 is the settings file</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>belum ada tempat yang diatur, jadi waktu ini untuk 0° LU 0° BT; untuk mengatur tempat Anda, buka Tarvanel (pengaturannya terbuka saat pertama kali dijalankan) atau tulis %1</translation>
     </message>
 </context>
 <context>
@@ -1443,8 +1457,8 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message numerus="yes">
         <source>%Ln days, %1 – %2</source>
         <extracomment>The imported timetable: %Ln days from %1 to %2 (&quot;30 days, 1 Mar 2025 – 30 Mar 2025&quot;).</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln hari, %1 – %2</numerusform>
         </translation>
     </message>
 </context>
@@ -1453,32 +1467,32 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1m</source>
         <extracomment>Short countdown in the tray title: %1 minutes, as in &quot;47m&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1m</translation>
     </message>
     <message>
         <source>%1h %2m</source>
         <extracomment>Short countdown in the tray title: %1 hours and %2 minutes, as in &quot;1h 5m&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1j %2m</translation>
     </message>
     <message>
         <source>Preview</source>
         <extracomment>Tray title while the lock started by &quot;Preview Lock&quot; in the menu shows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pratinjau</translation>
     </message>
     <message>
         <source>Test</source>
         <extracomment>Tray title while the lock started by the command line&apos;s --test-lock shows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uji</translation>
     </message>
     <message>
         <source>%1 in %2</source>
         <extracomment>Tray title: %1 is a prayer name, %2 a short countdown such as &quot;47m&quot; or &quot;1h 5m&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 dalam %2</translation>
     </message>
     <message>
         <source>%1 at %2</source>
         <extracomment>Tray title: %1 is the prayer name Fajr, %2 its time tomorrow</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 pukul %2</translation>
     </message>
 </context>
 <context>
@@ -1486,7 +1500,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>Travelling</source>
         <extracomment>Stands for the place&apos;s name while travelling when the location service names no city.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bepergian</translation>
     </message>
 </context>
 <context>
@@ -1494,207 +1508,207 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>config.json can&apos;t be used (%1). Tarvanel keeps the last good settings.</source>
         <extracomment>%1 says what is wrong with the settings file config.json</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>config.json tidak dapat dipakai (%1). Tarvanel tetap memakai pengaturan terakhir yang benar.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganti</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Batal</translation>
     </message>
     <message>
         <source>Tarvanel history.csv</source>
         <extracomment>The file name the history export suggests; keep the .csv ending</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Riwayat Tarvanel.csv</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Couldn&apos;t export the history to %1</source>
         <extracomment>%1 is a file</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak dapat mengekspor riwayat ke %1</translation>
     </message>
     <message numerus="yes">
         <source>Exported %Ln prayers to %1</source>
         <extracomment>%1 is a file; the count is of prayers written to it</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln salat diekspor ke %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Uninstall Tarvanel?</source>
-        <translation type="unfinished"></translation>
+        <translation>Copot Tarvanel?</translation>
     </message>
     <message>
         <source>Tarvanel stops running, stops starting at login, and moves to the Trash. Your prayer times stop locking the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel berhenti berjalan, tidak lagi dimulai saat login, dan dipindahkan ke Tempat Sampah. Waktu salat Anda tidak lagi mengunci layar.</translation>
     </message>
     <message>
         <source>Uninstall</source>
-        <translation type="unfinished"></translation>
+        <translation>Copot</translation>
     </message>
     <message>
         <source>Also delete my settings and history</source>
-        <translation type="unfinished"></translation>
+        <translation>Hapus juga pengaturan dan riwayat saya</translation>
     </message>
     <message>
         <source>Turn off reminders and locks?</source>
         <extracomment>Asked on &quot;I&apos;m Excused…&quot; in the menu: exempt from prayer for a while</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Matikan pengingat dan penguncian?</translation>
     </message>
     <message numerus="yes">
         <source>They come back when you choose %1, or after %Ln days. Your streak is kept.</source>
         <extracomment>%1 is the menu item that ends the excused days</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Pengingat dan penguncian aktif kembali saat Anda memilih %1, atau setelah %Ln hari. Runtunan Anda tetap terjaga.</numerusform>
         </translation>
     </message>
     <message>
         <source>Turn Off</source>
-        <translation type="unfinished"></translation>
+        <translation>Matikan</translation>
     </message>
     <message>
         <source>Travelling until…</source>
         <extracomment>Above a date picker: the last day of the journey</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bepergian hingga…</translation>
     </message>
     <message>
         <source>%1 and %2 become one lock, and so do %3 and %4, through the end of this day.</source>
         <extracomment>%1 and %2 are combined into one lock, and so are %3 and %4 (prayer names)</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 dan %2 menjadi satu penguncian, begitu pula %3 dan %4, sampai akhir hari ini.</translation>
     </message>
     <message>
         <source>Turn on “Combine prayers while travelling” in Settings if your school permits it.</source>
         <extracomment>The quoted text is a check box in Settings; school: of Islamic law</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aktifkan “Jamak salat saat bepergian” di Pengaturan jika mazhab Anda membolehkannya.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Mulai</translation>
     </message>
     <message>
         <source>Pause Tarvanel?</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeda Tarvanel?</translation>
     </message>
     <message>
         <source>No reminders and no locks until %1 at midnight. You can resume any time from the menu.</source>
         <extracomment>%1 is a weekday and a date, as in &quot;Friday 3 October&quot;</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada pengingat dan penguncian hingga tengah malam, %1. Anda dapat melanjutkan kapan saja dari menu.</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeda</translation>
     </message>
     <message>
         <source>%1&apos;s lock is due now: lock now?</source>
         <extracomment>%1 is a prayer name; &quot;lock now&quot; is a verb</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Waktu penguncian %1 sudah tiba: kunci sekarang?</translation>
     </message>
     <message>
         <source>Resuming now turns every screen black at once. Cancel keeps the pause.</source>
         <extracomment>&quot;Cancel&quot; is the button of this question</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Melanjutkan sekarang langsung membuat setiap layar hitam. Batal mempertahankan jeda.</translation>
     </message>
     <message>
         <source>Lock Now</source>
         <extracomment>A verb: lock the screens now</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kunci Sekarang</translation>
     </message>
     <message>
         <source>Next lock: %1 at %2</source>
         <extracomment>%1 is a prayer name, %2 the time the screens lock</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Penguncian berikutnya: %1 pukul %2</translation>
     </message>
     <message>
         <source>Next lock: %1 tomorrow at %2</source>
         <extracomment>%1 is the prayer name Fajr, %2 the time the screens lock tomorrow</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Penguncian berikutnya: %1 besok pukul %2</translation>
     </message>
     <message>
         <source>Tarvanel lives in the tray: its menu has today&apos;s times and Settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel ada di baki sistem: menunya berisi waktu hari ini dan Pengaturan.</translation>
     </message>
     <message>
         <source>Tarvanel is running</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarvanel sedang berjalan</translation>
     </message>
     <message>
         <source>Set up</source>
         <extracomment>Tray title while the program has no settings yet</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Atur</translation>
     </message>
     <message>
         <source>Paused</source>
         <extracomment>Tray title while the locks are paused</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dijeda</translation>
     </message>
     <message>
         <source>%1 after your call</source>
         <extracomment>Tray title: %1 is a prayer name; its lock waits for the end of a call</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 setelah panggilan</translation>
     </message>
     <message>
         <source>%1 locks when your call ends</source>
         <extracomment>%1 is a prayer name: its lock waits for the end of a call</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 mengunci setelah panggilan Anda selesai</translation>
     </message>
     <message>
         <source>Did you pray %1?</source>
         <extracomment>%1 is a prayer name</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sudah salat %1?</translation>
     </message>
     <message numerus="yes">
         <source>“Not yet” locks the screen again for %Ln minutes.</source>
         <extracomment>“Not yet” is the second button of this question</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“Belum” mengunci layar lagi selama %Ln menit.</numerusform>
         </translation>
     </message>
     <message>
         <source>Yes, I Prayed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya, Sudah Salat</translation>
     </message>
     <message>
         <source>Not Yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum</translation>
     </message>
 </context>
 <context>
     <name>tarvanel::GuardianSetup</name>
     <message>
         <source>QR code</source>
-        <translation type="unfinished"></translation>
+        <translation>Kode QR</translation>
     </message>
     <message>
         <source>Ask the person you trust to scan this with an authenticator app (Google Authenticator, Microsoft Authenticator, Authy, or Apple&apos;s Passwords app), or to type the key:</source>
         <extracomment>The apps are proper names; Apple&apos;s app is called Passwords</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Minta orang yang Anda percayai memindai ini dengan aplikasi autentikator (Google Authenticator, Microsoft Authenticator, Authy, atau aplikasi Passwords dari Apple), atau mengetik kuncinya:</translation>
     </message>
     <message>
         <source>Key</source>
         <extracomment>The secret key of the guardian&apos;s code, shown to be typed into an app</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kunci</translation>
     </message>
     <message>
         <source>Code from their app</source>
-        <translation type="unfinished"></translation>
+        <translation>Kode dari aplikasinya</translation>
     </message>
     <message>
         <source>Code</source>
         <extracomment>The six-digit code the guardian&apos;s app shows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kode</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfirmasi</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Batal</translation>
     </message>
 </context>
 <context>
@@ -1702,22 +1716,22 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>PREVIEW</source>
         <extracomment>Above the name of a lock that is only tried out from the settings; capitals if your script has them</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>PRATINJAU</translation>
     </message>
     <message>
         <source>IT&apos;S TIME FOR</source>
         <extracomment>Above the prayer&apos;s name on the lock screen, e.g. IT&apos;S TIME FOR / Fajr; capitals if your script has them</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>WAKTUNYA SALAT</translation>
     </message>
     <message>
         <source>Preview</source>
         <extracomment>The name of a lock tried out from the settings, shown in place of a prayer&apos;s name</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pratinjau</translation>
     </message>
     <message>
         <source>Test</source>
         <extracomment>The name of a lock started for a test, shown in place of a prayer&apos;s name</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Uji</translation>
     </message>
 </context>
 <context>
@@ -1725,98 +1739,98 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>The settings file changed while this window was open. Save keeps what you see here; Cancel keeps the file&apos;s settings.</source>
         <extracomment>&quot;Save&quot; and &quot;Cancel&quot; are the window&apos;s buttons.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Berkas pengaturan berubah saat jendela ini terbuka. Simpan mempertahankan yang Anda lihat di sini; Batal mempertahankan pengaturan dari berkas.</translation>
     </message>
     <message>
         <source>Found %1.</source>
         <extracomment>After a city search: %1 is the place found (&quot;Leeds, England, United Kingdom&quot;).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ditemukan: %1.</translation>
     </message>
     <message>
         <source>Searching…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mencari…</translation>
     </message>
     <message>
         <source>Couldn&apos;t find “%1”. Check the spelling, or enter coordinates below.</source>
         <extracomment>%1 is the place the user searched for.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak dapat menemukan “%1”. Periksa ejaannya, atau masukkan koordinat di bawah.</translation>
     </message>
     <message>
         <source>Suggested: %1, Hanafi Asr. Change it below if your mosque uses something else.</source>
         <extracomment>Follows &quot;Found &lt;place&gt;.&quot; %1 is a calculation method (&quot;Muslim World League&quot;).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Saran: %1, Asar Hanafi. Ubah di bawah jika masjid Anda memakai yang lain.</translation>
     </message>
     <message>
         <source>Suggested: %1. Change it below if your mosque uses something else.</source>
         <extracomment>Follows &quot;Found &lt;place&gt;.&quot; %1 is a calculation method (&quot;Muslim World League&quot;).</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Saran: %1. Ubah di bawah jika masjid Anda memakai yang lain.</translation>
     </message>
     <message>
         <source>Heads up: your computer is set to %1, not %2. Times follow your computer&apos;s clock.</source>
         <extracomment>%1 and %2 are time zones such as &quot;Europe/London&quot; and &quot;Asia/Karachi&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Perhatian: komputer Anda diatur ke %1, bukan %2. Waktu mengikuti jam komputer Anda.</translation>
     </message>
     <message>
         <source>Asking for Calendar access…</source>
-        <translation type="unfinished"></translation>
+        <translation>Meminta akses Kalender…</translation>
     </message>
     <message>
         <source>Calendar access is off. Tarvanel writes its events under ~/.local/share/calendars: turn this on again and choose Allow, and check that you can write to that folder.</source>
         <extracomment>&quot;Allow&quot; is the button of the question asking for calendar access.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Akses kalender mati. Tarvanel menulis acaranya di ~/.local/share/calendars: nyalakan lagi ini dan pilih Izinkan, lalu pastikan Anda dapat menulis ke folder itu.</translation>
     </message>
     <message>
         <source>Focus on for 10 seconds… check that notifications stay quiet.</source>
         <extracomment>Focus: the desktop&apos;s do-not-disturb mode, turned on while a lock lasts.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fokus aktif selama 10 detik… pastikan notifikasi tetap senyap.</translation>
     </message>
     <message>
         <source>Done. Focus is off again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selesai. Fokus sudah mati lagi.</translation>
     </message>
     <message>
         <source>“%1”</source>
         <extracomment>A shortcut&apos;s name in quotation marks; use the language&apos;s own marks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>“%1”</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>Two names in a list, each already quoted: “A” and “B”.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 dan %2</translation>
     </message>
     <message>
         <source>Replace your own %1?</source>
         <extracomment>%1 is one or two shortcut names the user wrote, already quoted.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ganti %1 buatan Anda?</translation>
     </message>
     <message>
         <source>Tarvanel&apos;s pair for %1 takes the place of what you wrote.</source>
         <extracomment>%1 is a desktop such as &quot;GNOME&quot; or &quot;XFCE&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pasangan Tarvanel untuk %1 menggantikan yang Anda tulis.</translation>
     </message>
     <message>
         <source>Kept your own %1.</source>
         <extracomment>%1 is one or two shortcut names the user wrote, already quoted.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 buatan Anda dipertahankan.</translation>
     </message>
     <message>
         <source>Wrote %1 for %2.</source>
         <extracomment>%1 is the two quoted shortcut names (“Tarvanel Focus On” and “Tarvanel Focus Off”), %2 a desktop such as &quot;GNOME&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 ditulis untuk %2.</translation>
     </message>
     <message>
         <source>Couldn&apos;t write %1. The log in ~/.tarvanel/log.txt says why.</source>
         <extracomment>%1 is the two quoted shortcut names.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak dapat menulis %1. Log di ~/.tarvanel/log.txt menjelaskan sebabnya.</translation>
     </message>
     <message>
         <source>Guardian code is on.</source>
         <extracomment>The guardian: the person whose six-digit code ends a lock early.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kode wali aktif.</translation>
     </message>
     <message>
         <source>That code doesn&apos;t match. Check both clocks are right and try the newest code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kode itu tidak cocok. Pastikan jam di kedua perangkat benar dan coba kode terbaru.</translation>
     </message>
 </context>
 <context>
@@ -1824,55 +1838,55 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>Your settings file can&apos;t be used (%1), so nothing locks yet. Check the settings below and save to start again.</source>
         <extracomment>%1 what is wrong with the settings file</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Berkas pengaturan Anda tidak dapat dipakai (%1), jadi belum ada penguncian. Periksa pengaturan di bawah dan simpan untuk memulai lagi.</translation>
     </message>
     <message>
         <source>Welcome to Tarvanel</source>
-        <translation type="unfinished"></translation>
+        <translation>Selamat datang di Tarvanel</translation>
     </message>
     <message>
         <source>Get up and pray, on time</source>
-        <translation type="unfinished"></translation>
+        <translation>Beranjaklah dan salat tepat waktu</translation>
     </message>
     <message>
         <source>At each prayer time Tarvanel turns every screen black for a few minutes so you step away and pray. You get reminders before each lock. Once a lock starts there&apos;s no way out until it ends. Find your city to begin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Di setiap waktu salat, Tarvanel membuat setiap layar hitam selama beberapa menit agar Anda beranjak dan salat. Anda mendapat pengingat sebelum setiap penguncian. Begitu penguncian dimulai, tidak ada jalan keluar sampai selesai. Cari kota Anda untuk memulai.</translation>
     </message>
     <message>
         <source>Preview Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Coba Penguncian</translation>
     </message>
     <message>
         <source>Black out the screen for 10 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Hitamkan layar selama 10 detik</translation>
     </message>
     <message>
         <source>Uninstall…</source>
-        <translation type="unfinished"></translation>
+        <translation>Copot…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Batal</translation>
     </message>
     <message>
         <source>Find your city or enter coordinates first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cari kota Anda atau masukkan koordinat terlebih dahulu.</translation>
     </message>
 </context>
 <context>
     <name>tarvanel::QtPlatform</name>
     <message>
         <source>There&apos;s no tray on this desktop, so Tarvanel runs without an icon: it still locks on time, and opening Tarvanel from the applications menu shows these settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada baki sistem di desktop ini, jadi Tarvanel berjalan tanpa ikon: penguncian tetap tepat waktu, dan membuka Tarvanel dari menu aplikasi menampilkan pengaturan ini.</translation>
     </message>
     <message>
         <source>Welcome to Tarvanel</source>
         <extracomment>The settings window&apos;s title on the first run</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Selamat datang di Tarvanel</translation>
     </message>
     <message>
         <source>Tarvanel Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Pengaturan Tarvanel</translation>
     </message>
 </context>
 <context>
@@ -1880,46 +1894,46 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>Couldn&apos;t read any text in %1.</source>
         <extracomment>%1 is a file&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada teks yang dapat dibaca di %1.</translation>
     </message>
     <message>
         <source>No rows with prayer times found yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum ditemukan baris berisi waktu salat.</translation>
     </message>
     <message numerus="yes">
         <source>Found %Ln rows with %1 times each.</source>
         <extracomment>%Ln is the number of rows read from a timetable, %1 the number of times in each.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ditemukan %Ln baris, masing-masing berisi %1 waktu.</numerusform>
         </translation>
     </message>
     <message>
         <source>Column %1</source>
         <extracomment>A column of the timetable being imported, counted from 1.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kolom %1</translation>
     </message>
     <message>
         <source>Reading %1…</source>
         <extracomment>%1 is a file&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Membaca %1…</translation>
     </message>
     <message>
         <source>Reading page %1 of %2…</source>
         <extracomment>While a file of several pages is read: %1 is the page, %2 the number of pages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Membaca halaman %1 dari %2…</translation>
     </message>
     <message numerus="yes">
         <source>Read the first %1 of %Ln pages.</source>
         <extracomment>%1 is the number of pages read, %Ln the number of pages in the file.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 halaman pertama dari %Ln halaman telah dibaca.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Read %Ln pages.</source>
         <extracomment>After a file of several pages was read whole.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln halaman telah dibaca.</numerusform>
         </translation>
     </message>
 </context>
@@ -1927,74 +1941,74 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <name>tarvanel::TimetableImportView</name>
     <message>
         <source>1. Your masjid&apos;s timetable</source>
-        <translation type="unfinished"></translation>
+        <translation>1. Jadwal masjid Anda</translation>
     </message>
     <message>
         <source>Choose File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih Berkas…</translation>
     </message>
     <message>
         <source>Reading</source>
         <extracomment>A busy indicator while a photo or PDF is read</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Membaca</translation>
     </message>
     <message>
         <source>Paste it from the masjid&apos;s website or PDF, or choose a CSV, a photo or a screenshot of the printed sheet. Photos are read on your computer; nothing is uploaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempel dari situs web atau PDF masjid, atau pilih CSV, foto, atau tangkapan layar dari lembar cetaknya. Foto dibaca di komputer Anda; tidak ada yang diunggah.</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulan</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Tahun</translation>
     </message>
     <message>
         <source>2. Which column is which</source>
         <extracomment>Jamaat and iqamah: the time the congregation prays at the masjid</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>2. Kolom untuk setiap salat</translation>
     </message>
     <message>
         <source>Pick the jamaat (iqamah) column for each prayer, the time you actually pray. Times without AM/PM are read as morning for Fajr, midday for Dhuhr, and afternoon or evening for the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pilih kolom jamaah (iqamah) untuk setiap salat, yaitu waktu Anda benar-benar salat. Waktu tanpa AM/PM dibaca sebagai pagi untuk Subuh, siang untuk Zuhur, dan sore atau malam untuk yang lainnya.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Batal</translation>
     </message>
     <message>
         <source>Use This Timetable</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakai Jadwal Ini</translation>
     </message>
     <message>
         <source>Timetables (*.csv *.txt *.tsv *.png *.jpg *.jpeg *.gif *.bmp *.tif *.tiff *.webp *.pdf)</source>
         <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Jadwal (*.csv *.txt *.tsv *.png *.jpg *.jpeg *.gif *.bmp *.tif *.tiff *.webp *.pdf)</translation>
     </message>
     <message>
         <source>All files (*)</source>
         <extracomment>A file type filter; keep the part in brackets as it is</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Semua berkas (*)</translation>
     </message>
     <message>
         <source>Read Timetable</source>
-        <translation type="unfinished"></translation>
+        <translation>Baca Jadwal</translation>
     </message>
     <message>
         <source>Not in the timetable</source>
         <extracomment>A prayer&apos;s column choice: the timetable has no column for this prayer</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Tidak ada di jadwal</translation>
     </message>
     <message numerus="yes">
         <source>3. Preview (%Ln days)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>3. Pratinjau (%Ln hari)</numerusform>
         </translation>
     </message>
     <message>
         <source>No days yet. Check the month and the columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belum ada hari. Periksa bulan dan kolomnya.</translation>
     </message>
 </context>
 </TS>

@@ -14,7 +14,7 @@ History and state: %4
 Log: %5
 Login service: %6</source>
         <extracomment>%1 the version number, %2 the licence&apos;s name, %3 the settings file, %4 the folder of history and state, %5 the log file, %6 the login service&apos;s file. Keep the line breaks.</extracomment>
-        <translation>Tarvanel %1
+        <translation>‏Tarvanel %1
 مواقيت صلاة تُقفل كل الشاشات، لتترك الحاسوب وتصلّي.
 
 الترخيص: %2
@@ -108,7 +108,7 @@ See why with “systemctl --user status %2”, then open %1 again.</source>
     <message>
         <source>%1 was installed as a package</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation>%1 مثبّت كحزمة</translation>
+        <translation>‏%1 مثبّت كحزمة</translation>
     </message>
     <message>
         <source>%1 no longer runs or starts at login. To remove it from this computer too, run:
@@ -126,48 +126,48 @@ sudo apt remove tarvanel</translation>
         <source>%1 in %Ln minutes — begin wrapping up.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
         <translation>
-            <numerusform>%1 بعد %Ln دقيقة — حان وقت إنهاء ما بين يديك.</numerusform>
-            <numerusform>%1 بعد دقيقة واحدة — حان وقت إنهاء ما بين يديك.</numerusform>
-            <numerusform>%1 بعد دقيقتين — حان وقت إنهاء ما بين يديك.</numerusform>
-            <numerusform>%1 بعد %Ln دقائق — حان وقت إنهاء ما بين يديك.</numerusform>
-            <numerusform>%1 بعد %Ln دقيقة — حان وقت إنهاء ما بين يديك.</numerusform>
-            <numerusform>%1 بعد %Ln دقيقة — حان وقت إنهاء ما بين يديك.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة — حان وقت إنهاء ما بين يديك.</numerusform>
+            <numerusform>‏%1 بعد دقيقة واحدة — حان وقت إنهاء ما بين يديك.</numerusform>
+            <numerusform>‏%1 بعد دقيقتين — حان وقت إنهاء ما بين يديك.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقائق — حان وقت إنهاء ما بين يديك.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة — حان وقت إنهاء ما بين يديك.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة — حان وقت إنهاء ما بين يديك.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln minutes. Start finishing up.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
         <translation>
-            <numerusform>%1 بعد %Ln دقيقة. آن أوان إنهاء العمل.</numerusform>
-            <numerusform>%1 بعد دقيقة واحدة. آن أوان إنهاء العمل.</numerusform>
-            <numerusform>%1 بعد دقيقتين. آن أوان إنهاء العمل.</numerusform>
-            <numerusform>%1 بعد %Ln دقائق. آن أوان إنهاء العمل.</numerusform>
-            <numerusform>%1 بعد %Ln دقيقة. آن أوان إنهاء العمل.</numerusform>
-            <numerusform>%1 بعد %Ln دقيقة. آن أوان إنهاء العمل.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة. آن أوان إنهاء العمل.</numerusform>
+            <numerusform>‏%1 بعد دقيقة واحدة. آن أوان إنهاء العمل.</numerusform>
+            <numerusform>‏%1 بعد دقيقتين. آن أوان إنهاء العمل.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقائق. آن أوان إنهاء العمل.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة. آن أوان إنهاء العمل.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة. آن أوان إنهاء العمل.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln minutes. Save your work now.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
         <translation>
-            <numerusform>%1 بعد %Ln دقيقة. يُرجى حفظ عملك الآن.</numerusform>
-            <numerusform>%1 بعد دقيقة واحدة. يُرجى حفظ عملك الآن.</numerusform>
-            <numerusform>%1 بعد دقيقتين. يُرجى حفظ عملك الآن.</numerusform>
-            <numerusform>%1 بعد %Ln دقائق. يُرجى حفظ عملك الآن.</numerusform>
-            <numerusform>%1 بعد %Ln دقيقة. يُرجى حفظ عملك الآن.</numerusform>
-            <numerusform>%1 بعد %Ln دقيقة. يُرجى حفظ عملك الآن.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة. يُرجى حفظ عملك الآن.</numerusform>
+            <numerusform>‏%1 بعد دقيقة واحدة. يُرجى حفظ عملك الآن.</numerusform>
+            <numerusform>‏%1 بعد دقيقتين. يُرجى حفظ عملك الآن.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقائق. يُرجى حفظ عملك الآن.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة. يُرجى حفظ عملك الآن.</numerusform>
+            <numerusform>‏%1 بعد %Ln دقيقة. يُرجى حفظ عملك الآن.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln min — the screen is about to lock. Go make wudu.</source>
         <extracomment>%1 is a prayer name. Wudu: the ablution before prayer</extracomment>
         <translation>
-            <numerusform>%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
-            <numerusform>%1 بعد دقيقة — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
-            <numerusform>%1 بعد دقيقتين — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
-            <numerusform>%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
-            <numerusform>%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
-            <numerusform>%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
+            <numerusform>‏%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
+            <numerusform>‏%1 بعد دقيقة — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
+            <numerusform>‏%1 بعد دقيقتين — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
+            <numerusform>‏%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
+            <numerusform>‏%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
+            <numerusform>‏%1 بعد %Ln د — الشاشة على وشك القفل. حان وقت الوضوء.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -185,7 +185,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 tonight — don&apos;t miss it.</source>
         <extracomment>%1 is the Ramadan night prayer, Tarawih</extracomment>
-        <translation>%1 الليلة — لا تفوّتها.</translation>
+        <translation>‏%1 الليلة — لا تفوّتها.</translation>
     </message>
 </context>
 <context>
@@ -198,7 +198,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>ISNA (North America)</source>
         <extracomment>A calculation method: ISNA, the Islamic Society of North America.</extracomment>
-        <translation>ISNA (أمريكا الشمالية)</translation>
+        <translation>‏ISNA (أمريكا الشمالية)</translation>
     </message>
     <message>
         <source>Egyptian General Authority</source>
@@ -233,7 +233,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>UOIF (France)</source>
         <extracomment>A calculation method: UOIF, the Union of Islamic Organisations of France.</extracomment>
-        <translation>UOIF (فرنسا)</translation>
+        <translation>‏UOIF (فرنسا)</translation>
     </message>
     <message>
         <source>Spiritual Administration of Russia</source>
@@ -352,7 +352,7 @@ sudo apt remove tarvanel</translation>
     </message>
     <message>
         <source>Tarvanel running — look for 🕌 in the tray</source>
-        <translation>Tarvanel يعمل — ابحث عن 🕌 في لوحة النظام</translation>
+        <translation>‏Tarvanel يعمل — ابحث عن 🕌 في لوحة النظام</translation>
     </message>
     <message>
         <source>Tarvanel&apos;s login service did not start</source>
@@ -413,7 +413,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1: expected %2, found %3</source>
         <extracomment>An error in the settings file: %1 is the setting&apos;s name as written in the file (keep it first if you can), %2 what it should be, %3 what it is.</extracomment>
-        <translation>%1: المتوقع %2، والموجود %3</translation>
+        <translation>‏%1: المتوقع %2، والموجود %3</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -447,7 +447,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 AH</source>
         <extracomment>A Hijri date: %1 is the day, month and year (&quot;14 Ramadan 1446&quot;); AH is the era.</extracomment>
-        <translation>%1 هـ</translation>
+        <translation>‏%1 هـ</translation>
     </message>
 </context>
 <context>
@@ -545,12 +545,12 @@ sudo apt remove tarvanel</translation>
         <source>%Ln cells were hard to read and are marked in yellow: check them against the sheet.</source>
         <extracomment>Cells of the timetable&apos;s text that the reader was unsure of</extracomment>
         <translation>
-            <numerusform>%Ln خلية صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
+            <numerusform>‏%Ln خلية صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
             <numerusform>خلية واحدة صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
             <numerusform>خليتان صعبتا القراءة ومعلّمتان بالأصفر: راجعهما مع الورقة.</numerusform>
-            <numerusform>%Ln خلايا صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
-            <numerusform>%Ln خلية صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
-            <numerusform>%Ln خلية صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
+            <numerusform>‏%Ln خلايا صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
+            <numerusform>‏%Ln خلية صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
+            <numerusform>‏%Ln خلية صعبة القراءة ومعلّمة بالأصفر: راجعها مع الورقة.</numerusform>
         </translation>
     </message>
 </context>
@@ -697,7 +697,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 (with %2)</source>
         <extracomment>A prayer combined with an earlier one while travelling: &quot;Asr (with Dhuhr)&quot;</extracomment>
-        <translation>%1 (مع %2)</translation>
+        <translation>‏%1 (مع %2)</translation>
     </message>
     <message>
         <source>(waqt %1)</source>
@@ -739,12 +739,12 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1: Prayed Late (Qada)</source>
         <extracomment>%1 is a prayer name; qada: a prayer made up after its time</extracomment>
-        <translation>%1: صُلّيت قضاءً</translation>
+        <translation>‏%1: صُلّيت قضاءً</translation>
     </message>
     <message>
         <source>%1: Prayed Elsewhere</source>
         <extracomment>%1 is a prayer name, prayed at the mosque or anywhere away from the screen</extracomment>
-        <translation>%1: صُلّيت في مكان آخر</translation>
+        <translation>‏%1: صُلّيت في مكان آخر</translation>
     </message>
     <message>
         <source>Nothing to mark yet</source>
@@ -849,7 +849,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 &amp; %2</source>
         <extracomment>Two prayers prayed together while travelling, e.g. &quot;Dhuhr &amp; Asr&quot;</extracomment>
-        <translation>%1 و%2</translation>
+        <translation>‏%1 و%2</translation>
     </message>
 </context>
 <context>
@@ -861,7 +861,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 (prayer)</source>
         <extracomment>A calendar event&apos;s title: %1 is a prayer&apos;s name (&quot;Fajr (prayer)&quot;).</extracomment>
-        <translation>%1 (صلاة)</translation>
+        <translation>‏%1 (صلاة)</translation>
     </message>
 </context>
 <context>
@@ -869,12 +869,12 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1, %2</source>
         <extracomment>Items of a list before its last: &quot;4, 12&quot; in &quot;4, 12 and 19 March&quot;.</extracomment>
-        <translation>%1، %2</translation>
+        <translation>‏%1، %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>The last item of a list: &quot;4 and 12&quot;, &quot;4, 12 and 19 March&quot;.</extracomment>
-        <translation>%1 و%2</translation>
+        <translation>‏%1 و%2</translation>
     </message>
     <message>
         <source>line %1</source>
@@ -890,24 +890,24 @@ sudo apt remove tarvanel</translation>
         <source>%1 are missing a time in a chosen column</source>
         <extracomment>%1 names the rows: days (&quot;4, 12 and 19 March&quot;) or lines (&quot;line 7&quot;); %n counts them.</extracomment>
         <translation>
-            <numerusform>%1 ينقصها وقت في عمود مختار</numerusform>
-            <numerusform>%1 ينقصه وقت في عمود مختار</numerusform>
-            <numerusform>%1 ينقصهما وقت في عمود مختار</numerusform>
-            <numerusform>%1 ينقصها وقت في عمود مختار</numerusform>
-            <numerusform>%1 ينقصها وقت في عمود مختار</numerusform>
-            <numerusform>%1 ينقصها وقت في عمود مختار</numerusform>
+            <numerusform>‏%1 ينقصها وقت في عمود مختار</numerusform>
+            <numerusform>‏%1 ينقصه وقت في عمود مختار</numerusform>
+            <numerusform>‏%1 ينقصهما وقت في عمود مختار</numerusform>
+            <numerusform>‏%1 ينقصها وقت في عمود مختار</numerusform>
+            <numerusform>‏%1 ينقصها وقت في عمود مختار</numerusform>
+            <numerusform>‏%1 ينقصها وقت في عمود مختار</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 have no day number or date</source>
         <extracomment>%1 names the rows (&quot;line 7 and line 9&quot;); %n counts them.</extracomment>
         <translation>
-            <numerusform>%1 بلا رقم يوم أو تاريخ</numerusform>
-            <numerusform>%1 بلا رقم يوم أو تاريخ</numerusform>
-            <numerusform>%1 بلا رقم يوم أو تاريخ</numerusform>
-            <numerusform>%1 بلا رقم يوم أو تاريخ</numerusform>
-            <numerusform>%1 بلا رقم يوم أو تاريخ</numerusform>
-            <numerusform>%1 بلا رقم يوم أو تاريخ</numerusform>
+            <numerusform>‏%1 بلا رقم يوم أو تاريخ</numerusform>
+            <numerusform>‏%1 بلا رقم يوم أو تاريخ</numerusform>
+            <numerusform>‏%1 بلا رقم يوم أو تاريخ</numerusform>
+            <numerusform>‏%1 بلا رقم يوم أو تاريخ</numerusform>
+            <numerusform>‏%1 بلا رقم يوم أو تاريخ</numerusform>
+            <numerusform>‏%1 بلا رقم يوم أو تاريخ</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -926,12 +926,12 @@ sudo apt remove tarvanel</translation>
         <source>%1 appear twice (the later rows are used)</source>
         <extracomment>%1 names the rows (&quot;4 and 5 March&quot;); %n counts them.</extracomment>
         <translation>
-            <numerusform>%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
-            <numerusform>%1 مكرّر (يُعتمد الصف اللاحق)</numerusform>
-            <numerusform>%1 مكرّران (يُعتمد الصف اللاحق)</numerusform>
-            <numerusform>%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
-            <numerusform>%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
-            <numerusform>%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
+            <numerusform>‏%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
+            <numerusform>‏%1 مكرّر (يُعتمد الصف اللاحق)</numerusform>
+            <numerusform>‏%1 مكرّران (يُعتمد الصف اللاحق)</numerusform>
+            <numerusform>‏%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
+            <numerusform>‏%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
+            <numerusform>‏%1 مكرّرة (تُعتمد الصفوف اللاحقة)</numerusform>
         </translation>
     </message>
     <message>
@@ -943,12 +943,12 @@ sudo apt remove tarvanel</translation>
         <source>%Ln rows can&apos;t be used: %1.</source>
         <extracomment>%Ln counts the rows, %1 gives the reasons (&quot;4 March is missing a time in a chosen column&quot;).</extracomment>
         <translation>
-            <numerusform>%Ln صف لا يمكن استخدامها: %1.</numerusform>
+            <numerusform>‏%Ln صف لا يمكن استخدامها: %1.</numerusform>
             <numerusform>صف واحد لا يمكن استخدامه: %1.</numerusform>
             <numerusform>صفان لا يمكن استخدامهما: %1.</numerusform>
-            <numerusform>%Ln صفوف لا يمكن استخدامها: %1.</numerusform>
-            <numerusform>%Ln صفًا لا يمكن استخدامها: %1.</numerusform>
-            <numerusform>%Ln صف لا يمكن استخدامها: %1.</numerusform>
+            <numerusform>‏%Ln صفوف لا يمكن استخدامها: %1.</numerusform>
+            <numerusform>‏%Ln صفًا لا يمكن استخدامها: %1.</numerusform>
+            <numerusform>‏%Ln صف لا يمكن استخدامها: %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -1209,7 +1209,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1  %2, %3</source>
         <extracomment>%1 the place&apos;s name, %2 its latitude, %3 its longitude</extracomment>
-        <translation>%1  %2، %3</translation>
+        <translation>‏%1  %2، %3</translation>
     </message>
     <message>
         <source>Not set yet</source>
@@ -1350,7 +1350,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1  ·  %2 locks at %3</source>
         <extracomment>The settings window&apos;s header: %1 the place, %2 a prayer, %3 the time its lock starts</extracomment>
-        <translation>%1  ·  قفل %2 عند %3</translation>
+        <translation>‏%1  ·  قفل %2 عند %3</translation>
     </message>
     <message>
         <source>Start Tarvanel</source>
@@ -1404,12 +1404,12 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1 minutes after start</source>
         <extracomment>Read by a screen reader: %1 a prayer</extracomment>
-        <translation>%1: دقائق بعد دخول الوقت</translation>
+        <translation>‏%1: دقائق بعد دخول الوقت</translation>
     </message>
     <message>
         <source>%1 fixed time</source>
         <extracomment>Read by a screen reader: %1 a prayer</extracomment>
-        <translation>%1: وقت ثابت</translation>
+        <translation>‏%1: وقت ثابت</translation>
     </message>
     <message>
         <source>When you pray</source>
@@ -1444,12 +1444,12 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>dddd d MMMM yyyy</source>
         <extracomment>Qt pattern of the date above the --times table, as in &quot;Friday 3 October 2025&quot;</extracomment>
-        <translation>dddd، d MMMM yyyy</translation>
+        <translation>‏dddd، d MMMM yyyy</translation>
     </message>
     <message>
         <source>dddd d MMMM</source>
         <extracomment>Qt pattern of a weekday and a date, as in &quot;Friday 3 October&quot;</extracomment>
-        <translation>dddd، d MMMM</translation>
+        <translation>‏dddd، d MMMM</translation>
     </message>
     <message>
         <source>h:mm AP</source>
@@ -1464,7 +1464,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>dddd d MMM</source>
         <extracomment>Qt pattern of a weekday and a date, as in &quot;Friday 3 Oct&quot;</extracomment>
-        <translation>dddd، d MMM</translation>
+        <translation>‏dddd، d MMM</translation>
     </message>
     <message>
         <source>ddd d</source>
@@ -1528,12 +1528,12 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
         <source>%Ln days, %1 – %2</source>
         <extracomment>The imported timetable: %Ln days from %1 to %2 (&quot;30 days, 1 Mar 2025 – 30 Mar 2025&quot;).</extracomment>
         <translation>
-            <numerusform>%Ln يوم، %1 – %2</numerusform>
+            <numerusform>‏%Ln يوم، %1 – %2</numerusform>
             <numerusform>يوم واحد، %1 – %2</numerusform>
             <numerusform>يومان، %1 – %2</numerusform>
-            <numerusform>%Ln أيام، %1 – %2</numerusform>
-            <numerusform>%Ln يومًا، %1 – %2</numerusform>
-            <numerusform>%Ln يوم، %1 – %2</numerusform>
+            <numerusform>‏%Ln أيام، %1 – %2</numerusform>
+            <numerusform>‏%Ln يومًا، %1 – %2</numerusform>
+            <numerusform>‏%Ln يوم، %1 – %2</numerusform>
         </translation>
     </message>
 </context>
@@ -1542,12 +1542,12 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1m</source>
         <extracomment>Short countdown in the tray title: %1 minutes, as in &quot;47m&quot;</extracomment>
-        <translation>%1د</translation>
+        <translation>‏%1د</translation>
     </message>
     <message>
         <source>%1h %2m</source>
         <extracomment>Short countdown in the tray title: %1 hours and %2 minutes, as in &quot;1h 5m&quot;</extracomment>
-        <translation>%1س %2د</translation>
+        <translation>‏%1س %2د</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -1562,12 +1562,12 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1 in %2</source>
         <extracomment>Tray title: %1 is a prayer name, %2 a short countdown such as &quot;47m&quot; or &quot;1h 5m&quot;</extracomment>
-        <translation>%1 بعد %2</translation>
+        <translation>‏%1 بعد %2</translation>
     </message>
     <message>
         <source>%1 at %2</source>
         <extracomment>Tray title: %1 is the prayer name Fajr, %2 its time tomorrow</extracomment>
-        <translation>%1 عند %2</translation>
+        <translation>‏%1 عند %2</translation>
     </message>
 </context>
 <context>
@@ -1719,7 +1719,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     </message>
     <message>
         <source>Tarvanel is running</source>
-        <translation>Tarvanel يعمل</translation>
+        <translation>‏Tarvanel يعمل</translation>
     </message>
     <message>
         <source>Set up</source>
@@ -1734,7 +1734,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1 after your call</source>
         <extracomment>Tray title: %1 is a prayer name; its lock waits for the end of a call</extracomment>
-        <translation>%1 بعد مكالمتك</translation>
+        <translation>‏%1 بعد مكالمتك</translation>
     </message>
     <message>
         <source>%1 locks when your call ends</source>
@@ -1886,7 +1886,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     <message>
         <source>%1 and %2</source>
         <extracomment>Two names in a list, each already quoted: “A” and “B”.</extracomment>
-        <translation>%1 و%2</translation>
+        <translation>‏%1 و%2</translation>
     </message>
     <message>
         <source>Replace your own %1?</source>

@@ -14,7 +14,7 @@ History and state: %4
 Log: %5
 Login service: %6</source>
         <extracomment>%1 the version number, %2 the licence&apos;s name, %3 the settings file, %4 the folder of history and state, %5 the log file, %6 the login service&apos;s file. Keep the line breaks.</extracomment>
-        <translation>Tarvanel %1
+        <translation>‏Tarvanel %1
 نماز کے اوقات جو ہر اسکرین کو لاک کر دیتے ہیں، تاکہ آپ کام چھوڑ کر نماز پڑھیں۔
 
 لائسنس: %2
@@ -30,37 +30,37 @@ Login service: %6</source>
     <message>
         <source>no systemd user service manager is running, and %1 cannot be written</source>
         <extracomment>%1 is a file</extracomment>
-        <translation>systemd کا یوزر سروس مینیجر نہیں چل رہا، اور %1 لکھی نہیں جا سکتی</translation>
+        <translation>‏systemd کا یوزر سروس مینیجر نہیں چل رہا، اور %1 لکھی نہیں جا سکتی</translation>
     </message>
     <message>
         <source>no systemd user service manager is running, and %1 cannot be started</source>
         <extracomment>%1 is the program file</extracomment>
-        <translation>systemd کا یوزر سروس مینیجر نہیں چل رہا، اور %1 شروع نہیں ہو سکتا</translation>
+        <translation>‏systemd کا یوزر سروس مینیجر نہیں چل رہا، اور %1 شروع نہیں ہو سکتا</translation>
     </message>
     <message>
         <source>no systemd user service manager is running: it starts at login through %1</source>
         <extracomment>%1 is the autostart file that starts the program at login</extracomment>
-        <translation>systemd کا یوزر سروس مینیجر نہیں چل رہا: یہ لاگ اِن پر %1 کے ذریعے شروع ہوتا ہے</translation>
+        <translation>‏systemd کا یوزر سروس مینیجر نہیں چل رہا: یہ لاگ اِن پر %1 کے ذریعے شروع ہوتا ہے</translation>
     </message>
     <message>
         <source>%1 cannot be written</source>
         <extracomment>%1 is a file</extracomment>
-        <translation>%1 لکھی نہیں جا سکتی</translation>
+        <translation>‏%1 لکھی نہیں جا سکتی</translation>
     </message>
     <message>
         <source>%1 gave no answer in time</source>
         <extracomment>%1 is a command, as in &quot;systemctl --user enable --now …&quot;</extracomment>
-        <translation>%1 نے وقت پر جواب نہیں دیا</translation>
+        <translation>‏%1 نے وقت پر جواب نہیں دیا</translation>
     </message>
     <message>
         <source>%1 failed with status %2</source>
         <extracomment>%1 is a command, as in &quot;systemctl --user enable --now …&quot;; %2 its exit status</extracomment>
-        <translation>%1 اسٹیٹس %2 کے ساتھ ناکام ہوا</translation>
+        <translation>‏%1 اسٹیٹس %2 کے ساتھ ناکام ہوا</translation>
     </message>
     <message>
         <source>%1 runs in the background and starts at login, so it has to be installed: copied to ~/.local/bin and added to your applications menu.</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation>%1 پس منظر میں چلتا ہے اور لاگ اِن پر شروع ہوتا ہے، اس لیے اسے انسٹال کرنا ضروری ہے: یہ ~/.local/bin میں کاپی ہو گا اور آپ کے ایپلیکیشنز مینو میں شامل ہو جائے گا۔</translation>
+        <translation>‏%1 پس منظر میں چلتا ہے اور لاگ اِن پر شروع ہوتا ہے، اس لیے اسے انسٹال کرنا ضروری ہے: یہ ~/.local/bin میں کاپی ہو گا اور آپ کے ایپلیکیشنز مینو میں شامل ہو جائے گا۔</translation>
     </message>
     <message>
         <source>Install %1 in ~/.local/bin?</source>
@@ -79,13 +79,13 @@ Login service: %6</source>
         <source>%1 starts at login through the systemd user unit %2, and it did not start: %3.
 See why with “systemctl --user status %2”, then open %1 again.</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel; %2 the unit&apos;s file name; %3 why it did not start. Keep the command in quotes as it is</extracomment>
-        <translation>%1 لاگ اِن پر systemd یوزر یونٹ %2 کے ذریعے شروع ہوتا ہے، اور یہ شروع نہیں ہوا: %3۔
+        <translation>‏%1 لاگ اِن پر systemd یوزر یونٹ %2 کے ذریعے شروع ہوتا ہے، اور یہ شروع نہیں ہوا: %3۔
 وجہ دیکھنے کے لیے “systemctl --user status %2” چلائیں، پھر %1 دوبارہ کھولیں۔</translation>
     </message>
     <message>
         <source>%1 couldn&apos;t start in the background</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation>%1 پس منظر میں شروع نہیں ہو سکا</translation>
+        <translation>‏%1 پس منظر میں شروع نہیں ہو سکا</translation>
     </message>
     <message>
         <source>Open Service Folder</source>
@@ -94,12 +94,12 @@ See why with “systemctl --user status %2”, then open %1 again.</source>
     <message>
         <source>Couldn&apos;t copy %1 to %2</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel; %2 a folder</extracomment>
-        <translation>%1 کو %2 میں کاپی نہیں کیا جا سکا</translation>
+        <translation>‏%1 کو %2 میں کاپی نہیں کیا جا سکا</translation>
     </message>
     <message>
         <source>Copy %1 into ~/.local/bin yourself, then open it from there.</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation>%1 کو خود ~/.local/bin میں کاپی کریں، پھر اسے وہیں سے کھولیں۔</translation>
+        <translation>‏%1 کو خود ~/.local/bin میں کاپی کریں، پھر اسے وہیں سے کھولیں۔</translation>
     </message>
     <message>
         <source>OK</source>
@@ -108,14 +108,14 @@ See why with “systemctl --user status %2”, then open %1 again.</source>
     <message>
         <source>%1 was installed as a package</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel</extracomment>
-        <translation>%1 پیکیج کے طور پر انسٹال کیا گیا تھا</translation>
+        <translation>‏%1 پیکیج کے طور پر انسٹال کیا گیا تھا</translation>
     </message>
     <message>
         <source>%1 no longer runs or starts at login. To remove it from this computer too, run:
 
 sudo apt remove tarvanel</source>
         <extracomment>%1 is the program&apos;s name, Tarvanel. Keep the command as it is</extracomment>
-        <translation>%1 اب نہ چلتا ہے نہ لاگ اِن پر شروع ہوتا ہے۔ اسے اس کمپیوٹر سے بھی ہٹانے کے لیے یہ چلائیں:
+        <translation>‏%1 اب نہ چلتا ہے نہ لاگ اِن پر شروع ہوتا ہے۔ اسے اس کمپیوٹر سے بھی ہٹانے کے لیے یہ چلائیں:
 
 sudo apt remove tarvanel</translation>
     </message>
@@ -126,40 +126,40 @@ sudo apt remove tarvanel</translation>
         <source>%1 in %Ln minutes — begin wrapping up.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
         <translation>
-            <numerusform>%1 میں %Ln منٹ — کام سمیٹنا شروع کریں۔</numerusform>
-            <numerusform>%1 میں %Ln منٹ — کام سمیٹنا شروع کریں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ — کام سمیٹنا شروع کریں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ — کام سمیٹنا شروع کریں۔</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln minutes. Start finishing up.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
         <translation>
-            <numerusform>%1 میں %Ln منٹ۔ کام ختم کرنا شروع کریں۔</numerusform>
-            <numerusform>%1 میں %Ln منٹ۔ کام ختم کرنا شروع کریں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ۔ کام ختم کرنا شروع کریں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ۔ کام ختم کرنا شروع کریں۔</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln minutes. Save your work now.</source>
         <extracomment>%1 is a prayer name; the screens lock when the minutes run out</extracomment>
         <translation>
-            <numerusform>%1 میں %Ln منٹ۔ اپنا کام ابھی محفوظ کر لیں۔</numerusform>
-            <numerusform>%1 میں %Ln منٹ۔ اپنا کام ابھی محفوظ کر لیں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ۔ اپنا کام ابھی محفوظ کر لیں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ۔ اپنا کام ابھی محفوظ کر لیں۔</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 in %Ln min — the screen is about to lock. Go make wudu.</source>
         <extracomment>%1 is a prayer name. Wudu: the ablution before prayer</extracomment>
         <translation>
-            <numerusform>%1 میں %Ln منٹ — اسکرین لاک ہونے والی ہے۔ وضو کر لیں۔</numerusform>
-            <numerusform>%1 میں %Ln منٹ — اسکرین لاک ہونے والی ہے۔ وضو کر لیں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ — اسکرین لاک ہونے والی ہے۔ وضو کر لیں۔</numerusform>
+            <numerusform>‏%1 میں %Ln منٹ — اسکرین لاک ہونے والی ہے۔ وضو کر لیں۔</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 ends at sunrise %2 — only %Ln min left!</source>
         <extracomment>%1 is the prayer name Fajr, %2 the time of sunrise</extracomment>
         <translation>
-            <numerusform>%1 طلوعِ آفتاب %2 پر ختم ہو جائے گی — صرف %Ln منٹ باقی!</numerusform>
-            <numerusform>%1 طلوعِ آفتاب %2 پر ختم ہو جائے گی — صرف %Ln منٹ باقی!</numerusform>
+            <numerusform>‏%1 طلوعِ آفتاب %2 پر ختم ہو جائے گی — صرف %Ln منٹ باقی!</numerusform>
+            <numerusform>‏%1 طلوعِ آفتاب %2 پر ختم ہو جائے گی — صرف %Ln منٹ باقی!</numerusform>
         </translation>
     </message>
     <message>
@@ -178,7 +178,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>ISNA (North America)</source>
         <extracomment>A calculation method: ISNA, the Islamic Society of North America.</extracomment>
-        <translation>ISNA (شمالی امریکہ)</translation>
+        <translation>‏ISNA (شمالی امریکہ)</translation>
     </message>
     <message>
         <source>Egyptian General Authority</source>
@@ -213,7 +213,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>UOIF (France)</source>
         <extracomment>A calculation method: UOIF, the Union of Islamic Organisations of France.</extracomment>
-        <translation>UOIF (فرانس)</translation>
+        <translation>‏UOIF (فرانس)</translation>
     </message>
     <message>
         <source>Spiritual Administration of Russia</source>
@@ -226,7 +226,7 @@ sudo apt remove tarvanel</translation>
     </message>
     <message>
         <source>Institute of Geophysics, Tehran</source>
-        <translation>Institute of Geophysics، تہران</translation>
+        <translation>‏Institute of Geophysics، تہران</translation>
     </message>
     <message>
         <source>Hanafi, %1</source>
@@ -258,7 +258,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>Tarvanel keeps its events in the calendar folders under %1, one file per event. khal shows them, and vdirsyncer syncs them with your online calendar so colleagues see you&apos;re busy.</source>
         <extracomment>%1 is a folder. khal and vdirsyncer are the names of two programs</extracomment>
-        <translation>Tarvanel اپنے ایونٹس %1 کے تحت کیلنڈر فولڈرز میں رکھتا ہے، ہر ایونٹ کی ایک فائل۔ khal انہیں دکھاتا ہے، اور vdirsyncer انہیں آپ کے آن لائن کیلنڈر سے ہم آہنگ کرتا ہے تاکہ ساتھیوں کو پتا چلے کہ آپ مصروف ہیں۔</translation>
+        <translation>‏Tarvanel اپنے ایونٹس %1 کے تحت کیلنڈر فولڈرز میں رکھتا ہے، ہر ایونٹ کی ایک فائل۔ khal انہیں دکھاتا ہے، اور vdirsyncer انہیں آپ کے آن لائن کیلنڈر سے ہم آہنگ کرتا ہے تاکہ ساتھیوں کو پتا چلے کہ آپ مصروف ہیں۔</translation>
     </message>
     <message>
         <source>Allow</source>
@@ -283,7 +283,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>with --times: the day to print</source>
         <extracomment>yyyy-MM-dd is the date format typed after --date: keep it as it is</extracomment>
-        <translation>--times کے ساتھ: کس دن کے اوقات دکھانے ہیں</translation>
+        <translation>‏--times کے ساتھ: کس دن کے اوقات دکھانے ہیں</translation>
     </message>
     <message>
         <source>install and start the per-user login service</source>
@@ -297,7 +297,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>show one %1 reminder, exit 17 seconds later</source>
         <extracomment>%1 is the prayer name Asr</extracomment>
-        <translation>%1 کی ایک یاد دہانی دکھائیں، 17 سیکنڈ بعد بند ہو جائیں</translation>
+        <translation>‏%1 کی ایک یاد دہانی دکھائیں، 17 سیکنڈ بعد بند ہو جائیں</translation>
     </message>
     <message>
         <source>show this text</source>
@@ -332,11 +332,11 @@ sudo apt remove tarvanel</translation>
     </message>
     <message>
         <source>Tarvanel running — look for 🕌 in the tray</source>
-        <translation>Tarvanel چل رہا ہے — ٹرے میں 🕌 دیکھیں</translation>
+        <translation>‏Tarvanel چل رہا ہے — ٹرے میں 🕌 دیکھیں</translation>
     </message>
     <message>
         <source>Tarvanel&apos;s login service did not start</source>
-        <translation>Tarvanel کی لاگ اِن سروس شروع نہیں ہوئی</translation>
+        <translation>‏Tarvanel کی لاگ اِن سروس شروع نہیں ہوئی</translation>
     </message>
 </context>
 <context>
@@ -388,12 +388,12 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>a number from %1 to %2</source>
         <extracomment>%1 and %2 are the smallest and largest values a setting may have.</extracomment>
-        <translation>%1 سے %2 تک کا عدد</translation>
+        <translation>‏%1 سے %2 تک کا عدد</translation>
     </message>
     <message>
         <source>%1: expected %2, found %3</source>
         <extracomment>An error in the settings file: %1 is the setting&apos;s name as written in the file (keep it first if you can), %2 what it should be, %3 what it is.</extracomment>
-        <translation>%1: %2 ہونا چاہیے تھا، %3 ملا</translation>
+        <translation>‏%1: %2 ہونا چاہیے تھا، %3 ملا</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -427,7 +427,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 AH</source>
         <extracomment>A Hijri date: %1 is the day, month and year (&quot;14 Ramadan 1446&quot;); AH is the era.</extracomment>
-        <translation>%1ھ</translation>
+        <translation>‏%1ھ</translation>
     </message>
 </context>
 <context>
@@ -476,7 +476,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>The reader stopped unexpectedly while reading %1. Nothing was changed: try another photo or PDF, or paste the text.</source>
         <extracomment>%1 the name of the photo or PDF being read</extracomment>
-        <translation>%1 پڑھتے ہوئے ریڈر اچانک رک گیا۔ کچھ نہیں بدلا: کوئی اور تصویر یا PDF آزمائیں، یا متن پیسٹ کریں۔</translation>
+        <translation>‏%1 پڑھتے ہوئے ریڈر اچانک رک گیا۔ کچھ نہیں بدلا: کوئی اور تصویر یا PDF آزمائیں، یا متن پیسٹ کریں۔</translation>
     </message>
     <message>
         <source>Photos and PDFs can&apos;t be read: the reader is missing (%1). Paste the text instead, or reinstall Tarvanel.</source>
@@ -521,8 +521,8 @@ sudo apt remove tarvanel</translation>
         <source>%Ln cells were hard to read and are marked in yellow: check them against the sheet.</source>
         <extracomment>Cells of the timetable&apos;s text that the reader was unsure of</extracomment>
         <translation>
-            <numerusform>%Ln خانہ پڑھنا مشکل تھا اور پیلے رنگ میں نشان زد ہے: اسے شیٹ سے ملا لیں۔</numerusform>
-            <numerusform>%Ln خانے پڑھنا مشکل تھے اور پیلے رنگ میں نشان زد ہیں: انہیں شیٹ سے ملا لیں۔</numerusform>
+            <numerusform>‏%Ln خانہ پڑھنا مشکل تھا اور پیلے رنگ میں نشان زد ہے: اسے شیٹ سے ملا لیں۔</numerusform>
+            <numerusform>‏%Ln خانے پڑھنا مشکل تھے اور پیلے رنگ میں نشان زد ہیں: انہیں شیٹ سے ملا لیں۔</numerusform>
         </translation>
     </message>
 </context>
@@ -574,7 +574,7 @@ sudo apt remove tarvanel</translation>
     <name>MainMenu</name>
     <message>
         <source>About Tarvanel</source>
-        <translation>Tarvanel کے بارے میں</translation>
+        <translation>‏Tarvanel کے بارے میں</translation>
     </message>
     <message>
         <source>Settings…</source>
@@ -628,11 +628,11 @@ sudo apt remove tarvanel</translation>
     </message>
     <message>
         <source>Tarvanel isn&apos;t set up yet</source>
-        <translation>Tarvanel ابھی سیٹ اپ نہیں ہوا</translation>
+        <translation>‏Tarvanel ابھی سیٹ اپ نہیں ہوا</translation>
     </message>
     <message>
         <source>Set Up Tarvanel…</source>
-        <translation>Tarvanel سیٹ اپ کریں…</translation>
+        <translation>‏Tarvanel سیٹ اپ کریں…</translation>
     </message>
     <message>
         <source>Ramadan</source>
@@ -650,22 +650,22 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>Travelling until %1</source>
         <extracomment>%1 is the last day of the journey, as in &quot;Friday 3 Oct&quot;</extracomment>
-        <translation>%1 تک سفر میں</translation>
+        <translation>‏%1 تک سفر میں</translation>
     </message>
     <message>
         <source>Travelling until %1 · combining prayers</source>
         <extracomment>%1 is the last day of the journey, as in &quot;Friday 3 Oct&quot;</extracomment>
-        <translation>%1 تک سفر میں · نمازیں جمع</translation>
+        <translation>‏%1 تک سفر میں · نمازیں جمع</translation>
     </message>
     <message>
         <source>%1 locks when your call ends</source>
         <extracomment>%1 is a prayer name: its lock waits for the end of a call</extracomment>
-        <translation>%1 کا لاک آپ کی کال ختم ہونے پر ہو گا</translation>
+        <translation>‏%1 کا لاک آپ کی کال ختم ہونے پر ہو گا</translation>
     </message>
     <message>
         <source>%1 (with %2)</source>
         <extracomment>A prayer combined with an earlier one while travelling: &quot;Asr (with Dhuhr)&quot;</extracomment>
-        <translation>%1 (%2 کے ساتھ)</translation>
+        <translation>‏%1 (%2 کے ساتھ)</translation>
     </message>
     <message>
         <source>(waqt %1)</source>
@@ -680,7 +680,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 ends %2</source>
         <extracomment>%1 is Suhoor, the meal before the fast; %2 the time it ends</extracomment>
-        <translation>%1 %2 پر ختم</translation>
+        <translation>‏%1 %2 پر ختم</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -703,12 +703,12 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1: Prayed Late (Qada)</source>
         <extracomment>%1 is a prayer name; qada: a prayer made up after its time</extracomment>
-        <translation>%1: دیر سے پڑھی (قضا)</translation>
+        <translation>‏%1: دیر سے پڑھی (قضا)</translation>
     </message>
     <message>
         <source>%1: Prayed Elsewhere</source>
         <extracomment>%1 is a prayer name, prayed at the mosque or anywhere away from the screen</extracomment>
-        <translation>%1: کہیں اور پڑھی</translation>
+        <translation>‏%1: کہیں اور پڑھی</translation>
     </message>
     <message>
         <source>Nothing to mark yet</source>
@@ -813,7 +813,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 &amp; %2</source>
         <extracomment>Two prayers prayed together while travelling, e.g. &quot;Dhuhr &amp; Asr&quot;</extracomment>
-        <translation>%1 و %2</translation>
+        <translation>‏%1 و %2</translation>
     </message>
 </context>
 <context>
@@ -825,7 +825,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1 (prayer)</source>
         <extracomment>A calendar event&apos;s title: %1 is a prayer&apos;s name (&quot;Fajr (prayer)&quot;).</extracomment>
-        <translation>%1 (نماز)</translation>
+        <translation>‏%1 (نماز)</translation>
     </message>
 </context>
 <context>
@@ -833,12 +833,12 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>%1, %2</source>
         <extracomment>Items of a list before its last: &quot;4, 12&quot; in &quot;4, 12 and 19 March&quot;.</extracomment>
-        <translation>%1، %2</translation>
+        <translation>‏%1، %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
         <extracomment>The last item of a list: &quot;4 and 12&quot;, &quot;4, 12 and 19 March&quot;.</extracomment>
-        <translation>%1 اور %2</translation>
+        <translation>‏%1 اور %2</translation>
     </message>
     <message>
         <source>line %1</source>
@@ -854,16 +854,16 @@ sudo apt remove tarvanel</translation>
         <source>%1 are missing a time in a chosen column</source>
         <extracomment>%1 names the rows: days (&quot;4, 12 and 19 March&quot;) or lines (&quot;line 7&quot;); %n counts them.</extracomment>
         <translation>
-            <numerusform>%1 میں منتخب کالم کا وقت موجود نہیں</numerusform>
-            <numerusform>%1 میں منتخب کالم کا وقت موجود نہیں</numerusform>
+            <numerusform>‏%1 میں منتخب کالم کا وقت موجود نہیں</numerusform>
+            <numerusform>‏%1 میں منتخب کالم کا وقت موجود نہیں</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 have no day number or date</source>
         <extracomment>%1 names the rows (&quot;line 7 and line 9&quot;); %n counts them.</extracomment>
         <translation>
-            <numerusform>%1 میں دن کا نمبر یا تاریخ نہیں</numerusform>
-            <numerusform>%1 میں دن کا نمبر یا تاریخ نہیں</numerusform>
+            <numerusform>‏%1 میں دن کا نمبر یا تاریخ نہیں</numerusform>
+            <numerusform>‏%1 میں دن کا نمبر یا تاریخ نہیں</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -878,8 +878,8 @@ sudo apt remove tarvanel</translation>
         <source>%1 appear twice (the later rows are used)</source>
         <extracomment>%1 names the rows (&quot;4 and 5 March&quot;); %n counts them.</extracomment>
         <translation>
-            <numerusform>%1 دو بار درج ہے (بعد والی قطار لی گئی)</numerusform>
-            <numerusform>%1 دو بار درج ہیں (بعد والی قطاریں لی گئیں)</numerusform>
+            <numerusform>‏%1 دو بار درج ہے (بعد والی قطار لی گئی)</numerusform>
+            <numerusform>‏%1 دو بار درج ہیں (بعد والی قطاریں لی گئیں)</numerusform>
         </translation>
     </message>
     <message>
@@ -891,8 +891,8 @@ sudo apt remove tarvanel</translation>
         <source>%Ln rows can&apos;t be used: %1.</source>
         <extracomment>%Ln counts the rows, %1 gives the reasons (&quot;4 March is missing a time in a chosen column&quot;).</extracomment>
         <translation>
-            <numerusform>%Ln قطار استعمال نہیں ہو سکتی: %1۔</numerusform>
-            <numerusform>%Ln قطاریں استعمال نہیں ہو سکتیں: %1۔</numerusform>
+            <numerusform>‏%Ln قطار استعمال نہیں ہو سکتی: %1۔</numerusform>
+            <numerusform>‏%Ln قطاریں استعمال نہیں ہو سکتیں: %1۔</numerusform>
         </translation>
     </message>
 </context>
@@ -908,19 +908,19 @@ sudo apt remove tarvanel</translation>
     </message>
     <message>
         <source>The GNOME Shell extension is on: a lock covers every screen.</source>
-        <translation>GNOME Shell ایکسٹینشن آن ہے: لاک ہر اسکرین کو ڈھانپ لیتا ہے۔</translation>
+        <translation>‏GNOME Shell ایکسٹینشن آن ہے: لاک ہر اسکرین کو ڈھانپ لیتا ہے۔</translation>
     </message>
     <message>
         <source>The GNOME Shell extension is off, so GNOME&apos;s shortcuts still work during a lock.</source>
-        <translation>GNOME Shell ایکسٹینشن بند ہے، اس لیے لاک کے دوران GNOME کے شارٹ کٹ اب بھی کام کرتے ہیں۔</translation>
+        <translation>‏GNOME Shell ایکسٹینشن بند ہے، اس لیے لاک کے دوران GNOME کے شارٹ کٹ اب بھی کام کرتے ہیں۔</translation>
     </message>
     <message>
         <source>Enable the GNOME Shell extension</source>
-        <translation>GNOME Shell ایکسٹینشن آن کریں</translation>
+        <translation>‏GNOME Shell ایکسٹینشن آن کریں</translation>
     </message>
     <message>
         <source>The GNOME Shell extension is on.</source>
-        <translation>GNOME Shell ایکسٹینشن آن ہے۔</translation>
+        <translation>‏GNOME Shell ایکسٹینشن آن ہے۔</translation>
     </message>
     <message>
         <source>Log out and back in to load it.</source>
@@ -1153,7 +1153,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1  %2, %3</source>
         <extracomment>%1 the place&apos;s name, %2 its latitude, %3 its longitude</extracomment>
-        <translation>%1  %2، %3</translation>
+        <translation>‏%1  %2، %3</translation>
     </message>
     <message>
         <source>Not set yet</source>
@@ -1189,7 +1189,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1.</source>
         <extracomment>A sentence&apos;s full stop: %1 the sentence</extracomment>
-        <translation>%1۔</translation>
+        <translation>‏%1۔</translation>
     </message>
     <message>
         <source>Lock</source>
@@ -1294,12 +1294,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1  ·  %2 locks at %3</source>
         <extracomment>The settings window&apos;s header: %1 the place, %2 a prayer, %3 the time its lock starts</extracomment>
-        <translation>%1  ·  %2 کا لاک %3 پر</translation>
+        <translation>‏%1  ·  %2 کا لاک %3 پر</translation>
     </message>
     <message>
         <source>Start Tarvanel</source>
         <extracomment>The button that saves the settings on the first run and starts the program</extracomment>
-        <translation>Tarvanel شروع کریں</translation>
+        <translation>‏Tarvanel شروع کریں</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1348,12 +1348,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1 minutes after start</source>
         <extracomment>Read by a screen reader: %1 a prayer</extracomment>
-        <translation>%1: وقت شروع ہونے کے بعد منٹ</translation>
+        <translation>‏%1: وقت شروع ہونے کے بعد منٹ</translation>
     </message>
     <message>
         <source>%1 fixed time</source>
         <extracomment>Read by a screen reader: %1 a prayer</extracomment>
-        <translation>%1: مقررہ وقت</translation>
+        <translation>‏%1: مقررہ وقت</translation>
     </message>
     <message>
         <source>When you pray</source>
@@ -1458,7 +1458,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>config.json is invalid (%1); printing the default settings&apos; times</source>
         <extracomment>%1 says what is wrong with the settings file config.json</extracomment>
-        <translation>config.json درست نہیں (%1)؛ طے شدہ ترتیبات کے اوقات دکھائے جا رہے ہیں</translation>
+        <translation>‏config.json درست نہیں (%1)؛ طے شدہ ترتیبات کے اوقات دکھائے جا رہے ہیں</translation>
     </message>
     <message>
         <source>no place is set, so these times are for 0° N 0° E; to set yours, open Tarvanel (its settings open on the first start) or write %1</source>
@@ -1472,8 +1472,8 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
         <source>%Ln days, %1 – %2</source>
         <extracomment>The imported timetable: %Ln days from %1 to %2 (&quot;30 days, 1 Mar 2025 – 30 Mar 2025&quot;).</extracomment>
         <translation>
-            <numerusform>%Ln دن، %1 – %2</numerusform>
-            <numerusform>%Ln دن، %1 – %2</numerusform>
+            <numerusform>‏%Ln دن، %1 – %2</numerusform>
+            <numerusform>‏%Ln دن، %1 – %2</numerusform>
         </translation>
     </message>
 </context>
@@ -1482,12 +1482,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1m</source>
         <extracomment>Short countdown in the tray title: %1 minutes, as in &quot;47m&quot;</extracomment>
-        <translation>%1 منٹ</translation>
+        <translation>‏%1 منٹ</translation>
     </message>
     <message>
         <source>%1h %2m</source>
         <extracomment>Short countdown in the tray title: %1 hours and %2 minutes, as in &quot;1h 5m&quot;</extracomment>
-        <translation>%1 گھنٹے %2 منٹ</translation>
+        <translation>‏%1 گھنٹے %2 منٹ</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -1502,12 +1502,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1 in %2</source>
         <extracomment>Tray title: %1 is a prayer name, %2 a short countdown such as &quot;47m&quot; or &quot;1h 5m&quot;</extracomment>
-        <translation>%1 میں %2</translation>
+        <translation>‏%1 میں %2</translation>
     </message>
     <message>
         <source>%1 at %2</source>
         <extracomment>Tray title: %1 is the prayer name Fajr, %2 its time tomorrow</extracomment>
-        <translation>%1 %2 پر</translation>
+        <translation>‏%1 %2 پر</translation>
     </message>
 </context>
 <context>
@@ -1523,7 +1523,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>config.json can&apos;t be used (%1). Tarvanel keeps the last good settings.</source>
         <extracomment>%1 says what is wrong with the settings file config.json</extracomment>
-        <translation>config.json استعمال نہیں ہو سکتی (%1)۔ Tarvanel آخری درست ترتیبات برقرار رکھتا ہے۔</translation>
+        <translation>‏config.json استعمال نہیں ہو سکتی (%1)۔ Tarvanel آخری درست ترتیبات برقرار رکھتا ہے۔</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -1536,7 +1536,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Tarvanel history.csv</source>
         <extracomment>The file name the history export suggests; keep the .csv ending</extracomment>
-        <translation>Tarvanel ریکارڈ.csv</translation>
+        <translation>‏Tarvanel ریکارڈ.csv</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1551,17 +1551,17 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
         <source>Exported %Ln prayers to %1</source>
         <extracomment>%1 is a file; the count is of prayers written to it</extracomment>
         <translation>
-            <numerusform>%Ln نماز %1 میں برآمد کی گئی</numerusform>
-            <numerusform>%Ln نمازیں %1 میں برآمد کی گئیں</numerusform>
+            <numerusform>‏%Ln نماز %1 میں برآمد کی گئی</numerusform>
+            <numerusform>‏%Ln نمازیں %1 میں برآمد کی گئیں</numerusform>
         </translation>
     </message>
     <message>
         <source>Uninstall Tarvanel?</source>
-        <translation>Tarvanel ان انسٹال کریں؟</translation>
+        <translation>‏Tarvanel ان انسٹال کریں؟</translation>
     </message>
     <message>
         <source>Tarvanel stops running, stops starting at login, and moves to the Trash. Your prayer times stop locking the screen.</source>
-        <translation>Tarvanel چلنا بند ہو جائے گا، لاگ اِن پر شروع نہیں ہو گا، اور ردی کی ٹوکری میں چلا جائے گا۔ نماز کے اوقات پر اسکرین لاک ہونا بند ہو جائے گی۔</translation>
+        <translation>‏Tarvanel چلنا بند ہو جائے گا، لاگ اِن پر شروع نہیں ہو گا، اور ردی کی ٹوکری میں چلا جائے گا۔ نماز کے اوقات پر اسکرین لاک ہونا بند ہو جائے گی۔</translation>
     </message>
     <message>
         <source>Uninstall</source>
@@ -1609,12 +1609,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     </message>
     <message>
         <source>Pause Tarvanel?</source>
-        <translation>Tarvanel روکیں؟</translation>
+        <translation>‏Tarvanel روکیں؟</translation>
     </message>
     <message>
         <source>No reminders and no locks until %1 at midnight. You can resume any time from the menu.</source>
         <extracomment>%1 is a weekday and a date, as in &quot;Friday 3 October&quot;</extracomment>
-        <translation>%1 کی آدھی رات تک نہ یاد دہانیاں ہوں گی نہ لاک۔ آپ مینو سے کسی بھی وقت دوبارہ شروع کر سکتے ہیں۔</translation>
+        <translation>‏%1 کی آدھی رات تک نہ یاد دہانیاں ہوں گی نہ لاک۔ آپ مینو سے کسی بھی وقت دوبارہ شروع کر سکتے ہیں۔</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -1623,7 +1623,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1&apos;s lock is due now: lock now?</source>
         <extracomment>%1 is a prayer name; &quot;lock now&quot; is a verb</extracomment>
-        <translation>%1 کا لاک اب ہونا ہے: ابھی لاک کریں؟</translation>
+        <translation>‏%1 کا لاک اب ہونا ہے: ابھی لاک کریں؟</translation>
     </message>
     <message>
         <source>Resuming now turns every screen black at once. Cancel keeps the pause.</source>
@@ -1647,11 +1647,11 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     </message>
     <message>
         <source>Tarvanel lives in the tray: its menu has today&apos;s times and Settings.</source>
-        <translation>Tarvanel ٹرے میں رہتا ہے: اس کے مینو میں آج کے اوقات اور ترتیبات ہیں۔</translation>
+        <translation>‏Tarvanel ٹرے میں رہتا ہے: اس کے مینو میں آج کے اوقات اور ترتیبات ہیں۔</translation>
     </message>
     <message>
         <source>Tarvanel is running</source>
-        <translation>Tarvanel چل رہا ہے</translation>
+        <translation>‏Tarvanel چل رہا ہے</translation>
     </message>
     <message>
         <source>Set up</source>
@@ -1666,12 +1666,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1 after your call</source>
         <extracomment>Tray title: %1 is a prayer name; its lock waits for the end of a call</extracomment>
-        <translation>%1 کال کے بعد</translation>
+        <translation>‏%1 کال کے بعد</translation>
     </message>
     <message>
         <source>%1 locks when your call ends</source>
         <extracomment>%1 is a prayer name: its lock waits for the end of a call</extracomment>
-        <translation>%1 کا لاک آپ کی کال ختم ہونے پر ہو گا</translation>
+        <translation>‏%1 کا لاک آپ کی کال ختم ہونے پر ہو گا</translation>
     </message>
     <message>
         <source>Did you pray %1?</source>
@@ -1699,7 +1699,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <name>tarvanel::GuardianSetup</name>
     <message>
         <source>QR code</source>
-        <translation>QR کوڈ</translation>
+        <translation>‏QR کوڈ</translation>
     </message>
     <message>
         <source>Ask the person you trust to scan this with an authenticator app (Google Authenticator, Microsoft Authenticator, Authy, or Apple&apos;s Passwords app), or to type the key:</source>
@@ -1762,7 +1762,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Found %1.</source>
         <extracomment>After a city search: %1 is the place found (&quot;Leeds, England, United Kingdom&quot;).</extracomment>
-        <translation>%1 مل گیا۔</translation>
+        <translation>‏%1 مل گیا۔</translation>
     </message>
     <message>
         <source>Searching…</source>
@@ -1814,7 +1814,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>%1 and %2</source>
         <extracomment>Two names in a list, each already quoted: “A” and “B”.</extracomment>
-        <translation>%1 اور %2</translation>
+        <translation>‏%1 اور %2</translation>
     </message>
     <message>
         <source>Replace your own %1?</source>
@@ -1824,7 +1824,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Tarvanel&apos;s pair for %1 takes the place of what you wrote.</source>
         <extracomment>%1 is a desktop such as &quot;GNOME&quot; or &quot;XFCE&quot;.</extracomment>
-        <translation>%1 کے لیے Tarvanel کا جوڑا آپ کے لکھے ہوئے کی جگہ لے لے گا۔</translation>
+        <translation>‏%1 کے لیے Tarvanel کا جوڑا آپ کے لکھے ہوئے کی جگہ لے لے گا۔</translation>
     </message>
     <message>
         <source>Kept your own %1.</source>
@@ -1834,12 +1834,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Wrote %1 for %2.</source>
         <extracomment>%1 is the two quoted shortcut names (“Tarvanel Focus On” and “Tarvanel Focus Off”), %2 a desktop such as &quot;GNOME&quot;.</extracomment>
-        <translation>%2 کے لیے %1 لکھ دیے گئے۔</translation>
+        <translation>‏%2 کے لیے %1 لکھ دیے گئے۔</translation>
     </message>
     <message>
         <source>Couldn&apos;t write %1. The log in ~/.tarvanel/log.txt says why.</source>
         <extracomment>%1 is the two quoted shortcut names.</extracomment>
-        <translation>%1 نہیں لکھے جا سکے۔ وجہ ~/.tarvanel/log.txt کے لاگ میں ہے۔</translation>
+        <translation>‏%1 نہیں لکھے جا سکے۔ وجہ ~/.tarvanel/log.txt کے لاگ میں ہے۔</translation>
     </message>
     <message>
         <source>Guardian code is on.</source>
@@ -1860,7 +1860,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     </message>
     <message>
         <source>Welcome to Tarvanel</source>
-        <translation>Tarvanel میں خوش آمدید</translation>
+        <translation>‏Tarvanel میں خوش آمدید</translation>
     </message>
     <message>
         <source>Get up and pray, on time</source>
@@ -1900,11 +1900,11 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Welcome to Tarvanel</source>
         <extracomment>The settings window&apos;s title on the first run</extracomment>
-        <translation>Tarvanel میں خوش آمدید</translation>
+        <translation>‏Tarvanel میں خوش آمدید</translation>
     </message>
     <message>
         <source>Tarvanel Settings</source>
-        <translation>Tarvanel کی ترتیبات</translation>
+        <translation>‏Tarvanel کی ترتیبات</translation>
     </message>
 </context>
 <context>
@@ -1912,7 +1912,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Couldn&apos;t read any text in %1.</source>
         <extracomment>%1 is a file&apos;s name.</extracomment>
-        <translation>%1 میں کوئی متن نہیں پڑھا جا سکا۔</translation>
+        <translation>‏%1 میں کوئی متن نہیں پڑھا جا سکا۔</translation>
     </message>
     <message>
         <source>No rows with prayer times found yet.</source>
@@ -1922,8 +1922,8 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
         <source>Found %Ln rows with %1 times each.</source>
         <extracomment>%Ln is the number of rows read from a timetable, %1 the number of times in each.</extracomment>
         <translation>
-            <numerusform>%Ln قطار ملی، ہر ایک میں %1 اوقات۔</numerusform>
-            <numerusform>%Ln قطاریں ملیں، ہر ایک میں %1 اوقات۔</numerusform>
+            <numerusform>‏%Ln قطار ملی، ہر ایک میں %1 اوقات۔</numerusform>
+            <numerusform>‏%Ln قطاریں ملیں، ہر ایک میں %1 اوقات۔</numerusform>
         </translation>
     </message>
     <message>
@@ -1934,7 +1934,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Reading %1…</source>
         <extracomment>%1 is a file&apos;s name.</extracomment>
-        <translation>%1 پڑھا جا رہا ہے…</translation>
+        <translation>‏%1 پڑھا جا رہا ہے…</translation>
     </message>
     <message>
         <source>Reading page %1 of %2…</source>
@@ -1945,16 +1945,16 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
         <source>Read the first %1 of %Ln pages.</source>
         <extracomment>%1 is the number of pages read, %Ln the number of pages in the file.</extracomment>
         <translation>
-            <numerusform>%Ln صفحے میں سے پہلے %1 پڑھے گئے۔</numerusform>
-            <numerusform>%Ln صفحات میں سے پہلے %1 پڑھے گئے۔</numerusform>
+            <numerusform>‏%Ln صفحے میں سے پہلے %1 پڑھے گئے۔</numerusform>
+            <numerusform>‏%Ln صفحات میں سے پہلے %1 پڑھے گئے۔</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Read %Ln pages.</source>
         <extracomment>After a file of several pages was read whole.</extracomment>
         <translation>
-            <numerusform>%Ln صفحہ پڑھا گیا۔</numerusform>
-            <numerusform>%Ln صفحات پڑھے گئے۔</numerusform>
+            <numerusform>‏%Ln صفحہ پڑھا گیا۔</numerusform>
+            <numerusform>‏%Ln صفحات پڑھے گئے۔</numerusform>
         </translation>
     </message>
 </context>

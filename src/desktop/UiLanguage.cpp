@@ -9,11 +9,12 @@
 namespace tarvanel {
 namespace {
 
-// Arabic in Naskh and Urdu in Nastaliq, named first: a Latin family's own Arabic glyphs (DejaVu
-// has some) would otherwise win, and Urdu in a Naskh face reads as foreign.
+// Arabic and Urdu in Naskh, named first: a Latin family's own Arabic glyphs (DejaVu has some)
+// would otherwise win. Urdu's own Nastaliq face is not used: Qt (6.4 and 6.8 alike) draws Noto
+// Nastaliq Urdu with its marks and cursive joins misplaced, where HarfBuzz alone draws it right,
+// and a legible Naskh beats a garbled Nastaliq.
 QStringList scriptFamilies(const QString& code) {
-    if (code == QLatin1String("ar")) return {QStringLiteral("Noto Naskh Arabic")};
-    if (code == QLatin1String("ur")) return {QStringLiteral("Noto Nastaliq Urdu")};
+    if (isRightToLeft(code)) return {QStringLiteral("Noto Naskh Arabic")};
     return {};
 }
 

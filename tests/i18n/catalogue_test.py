@@ -29,8 +29,21 @@ def key(name, m):
     return (name, m.findtext("source"), m.findtext("comment") or "")
 
 
+arabic = re.compile("[\u0600-\u06ff]")
+
+
+def starts_wrong_way(text):
+    """A right-to-left sentence that opens with Latin or a placeholder, without a right-to-left
+    mark, is laid out left to right (the first strong letter decides)."""
+    if text.startswith("\u200f") or not arabic.search(text):
+        return False
+    first = re.search(r"%L?(?:n|[1-9])|[^\W\d_]", text)
+    return bool(first) and not arabic.match(first.group())
+
+
 def check_catalogue(path):
     faults = []
+    rtl = ET.parse(path).getroot().get("language") in ("ar", "ur")
     for name, m in messages(path):
         src = m.findtext("source") or ""
         where = f"{path.name}: {name}: {src!r}"
@@ -45,6 +58,8 @@ def check_catalogue(path):
         for form in forms:
             if not form.strip():
                 faults.append(f"{where}: empty translation")
+            if rtl and starts_wrong_way(form):
+                faults.append(f"{where}: {form!r} opens left to right; begin it with U+200F")
             got = sorted(set(placeholder.findall(form)))
             # A language with one form for one may write "one" instead of %n in that form.
             counted = {"%n", "%Ln"}

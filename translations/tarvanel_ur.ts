@@ -1771,7 +1771,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>Couldn&apos;t find “%1”. Check the spelling, or enter coordinates below.</source>
         <extracomment>%1 is the place the user searched for.</extracomment>
-        <translation>“%1” نہیں ملا۔ ہجے چیک کریں، یا نیچے کوآرڈینیٹس درج کریں۔</translation>
+        <translation>‏“%1” نہیں ملا۔ ہجے چیک کریں، یا نیچے کوآرڈینیٹس درج کریں۔</translation>
     </message>
     <message>
         <source>Suggested: %1, Hanafi Asr. Change it below if your mosque uses something else.</source>

@@ -7,7 +7,7 @@ here="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 lupdate=/usr/lib/qt6/bin/lupdate
 [ -x "$lupdate" ] || lupdate="$(command -v lupdate6 || command -v lupdate)"
 cd "$here"
-common=(-locations none -no-obsolete -no-ui-lines -extensions cpp,h -silent)
+common=(-I src -locations none -no-obsolete -no-ui-lines -extensions cpp,h -silent)
 for ts in translations/tarvanel_*.ts; do
     code="${ts#translations/tarvanel_}"; code="${code%.ts}"
     if [ "$code" = en ]; then

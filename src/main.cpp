@@ -2,13 +2,16 @@
 // off to it and ends; the service's copy (or a test run) starts the tray application.
 #include "app/Agent.h"
 #include "app/CommandLine.h"
+#include "base/Language.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "desktop/DesktopApp.h"
 #include "desktop/DisplayCheck.h"
 #include "desktop/QtPlatform.h"
+#include "desktop/UiLanguage.h"
 #include "engine/Clock.h"
 #include "engine/Config.h"
+#include "records/UserDefaults.h"
 
 #include <QApplication>
 #include <QStringList>
@@ -39,9 +42,11 @@ static int runHandOff(int& argc, char** argv, const QString& importFile) {
     if (display) {
         app = std::make_unique<QApplication>(argc, argv);
         QApplication::setApplicationName(QStringLiteral("Tarvanel"));
+        useLanguage(UserDefaults().language());
         platform = std::make_unique<QtPlatform>();
     } else {
         app = std::make_unique<QCoreApplication>(argc, argv);
+        applyLanguage(UserDefaults().language());
     }
     QTimer::singleShot(0, app.get(), [&platform, &importFile] {
         handOffToAgent(
@@ -50,12 +55,7 @@ static int runHandOff(int& argc, char** argv, const QString& importFile) {
     return QCoreApplication::exec();
 }
 
-int main(int argc, char** argv) {
-    QStringList args;
-    for (int i = 0; i < argc; ++i)
-        args << QString::fromLocal8Bit(argv[i]);
-    const CommandLine cl = parseCommandLine(args);
-
+static int runTerminalCommand(const CommandLine& cl) {
     if (cl.times) {
         const TimesOutput out = timesCommand(cl, systemNow());
         if (!out.note.isEmpty()) printError(out.note);
@@ -71,16 +71,40 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (cl.unknownOption) {
-        printError(QStringLiteral("tarvanel: unknown option ") + *cl.unknownOption +
-                   QStringLiteral("\n") + usageText());
+        //: %1 is what the user typed
+        printError(
+            QStringLiteral("tarvanel: ") +
+            QCoreApplication::translate("CommandLine", "unknown option %1").arg(*cl.unknownOption) +
+            QStringLiteral("\n") + usageText());
         return 2;
     }
     if (cl.installAgent) {
         const InstallOutcome out = installAgent();
-        print(out.ok ? QStringLiteral("✓ Tarvanel running — look for 🕌 in the tray\n")
-                     : QStringLiteral("✗ Tarvanel's login service did not start\n"));
+        print(out.ok ? QStringLiteral("✓ ") +
+                           QCoreApplication::translate(
+                               "CommandLine", "Tarvanel running — look for 🕌 in the tray") +
+                           u'\n'
+                     : QStringLiteral("✗ ") +
+                           QCoreApplication::translate("CommandLine",
+                                                       "Tarvanel's login service did not start") +
+                           u'\n');
         if (!out.reason.isEmpty()) print(out.reason + QLatin1Char('\n'));
         return out.ok ? 0 : 1;
+    }
+    return 0;
+}
+
+int main(int argc, char** argv) {
+    QStringList args;
+    for (int i = 0; i < argc; ++i)
+        args << QString::fromLocal8Bit(argv[i]);
+    const CommandLine cl = parseCommandLine(args);
+
+    if (cl.times || cl.help || cl.version || cl.unknownOption || cl.installAgent) {
+        // Terminal commands speak the user's language too; catalogues need an application.
+        QCoreApplication app(argc, argv);
+        applyLanguage(UserDefaults().language());
+        return runTerminalCommand(cl);
     }
     const bool testRun = cl.testLockSeconds || cl.testNudge;
     if (cl.importFile && !testRun && !launchedByAgent()) {

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -90,16 +91,24 @@ void fallBackToAutostart(const QString& exe,
     out.autostart = true;
     QDir().mkpath(QFileInfo(autostartPath()).absolutePath());
     if (!writeFileAtomically(autostartPath(), menuEntryText(exe, true).toUtf8())) {
-        out.reason = QStringLiteral("no systemd user service manager is running, and ") +
-                     autostartPath() + QStringLiteral(" cannot be written");
+        //: %1 is a file
+        out.reason = QCoreApplication::translate(
+                         "Agent", "no systemd user service manager is running, and %1 cannot be "
+                                  "written")
+                         .arg(autostartPath());
     } else if (!startAgentDetached(exe)) {
-        out.reason = QStringLiteral("no systemd user service manager is running, and ") + exe +
-                     QStringLiteral(" cannot be started");
+        //: %1 is the program file
+        out.reason = QCoreApplication::translate(
+                         "Agent", "no systemd user service manager is running, and %1 cannot be "
+                                  "started")
+                         .arg(exe);
     } else {
         out.ok = true;
-        out.reason = QStringLiteral("no systemd user service manager is running: it starts at "
-                                    "login through ") +
-                     autostartPath();
+        //: %1 is the autostart file that starts the program at login
+        out.reason = QCoreApplication::translate(
+                         "Agent", "no systemd user service manager is running: it starts at "
+                                  "login through %1")
+                         .arg(autostartPath());
     }
     logLine(lcAgent, QStringLiteral("Tarvanel: ") + out.reason);
     done(out);
@@ -282,7 +291,9 @@ void installAgent(const ToolCall& tools, std::function<void(const InstallOutcome
     } else {
         QDir().mkpath(QFileInfo(unit).absolutePath());
         if (!writeFileAtomically(unit, agentUnitText(exe).toUtf8())) {
-            done({false, false, unit + QStringLiteral(" cannot be written")});
+            //: %1 is a file
+            done({false, false,
+                  QCoreApplication::translate("Agent", "%1 cannot be written").arg(unit)});
             return;
         }
     }
@@ -300,11 +311,17 @@ void installAgent(const ToolCall& tools, std::function<void(const InstallOutcome
             InstallOutcome out;
             out.ok = last.status == 0;
             if (last.timedOut)
-                out.reason = enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")) +
-                             QStringLiteral(" gave no answer in time");
+                out.reason =
+                    //: %1 is a command, as in "systemctl --user enable --now …"
+                    QCoreApplication::translate("Agent", "%1 gave no answer in time")
+                        .arg(enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")));
             else if (!out.ok)
-                out.reason = enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")) +
-                             QStringLiteral(" failed with status %1").arg(last.status);
+                out.reason =
+                    //: %1 is a command, as in "systemctl --user enable --now …"; %2 its exit
+                    //: status
+                    QCoreApplication::translate("Agent", "%1 failed with status %2")
+                        .arg(enable.arguments.join(u' ').prepend(QStringLiteral("systemctl ")),
+                             QLocale().toString(last.status));
             done(out);
         });
     });

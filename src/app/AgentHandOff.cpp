@@ -7,6 +7,7 @@
 #include "base/StateFiles.h"
 #include "platform/AgentBus.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -37,13 +38,18 @@ public:
         }
         releaseInstanceLock(); // this copy only tested it
         if (isInApplicationsFolder()) return installHere();
+        //: %1 is the program's name, Tarvanel
         const QString info =
-            name + QStringLiteral(" runs in the background and starts at login, so it has to be "
-                                  "installed: copied to ~/.local/bin and added to your "
-                                  "applications menu.");
-        if (ask({QStringLiteral("Install ") + name + QStringLiteral(" in ~/.local/bin?"),
+            QCoreApplication::translate("Agent",
+                                        "%1 runs in the background and starts at login, so it has "
+                                        "to be installed: copied to ~/.local/bin and added to "
+                                        "your applications menu.")
+                .arg(name);
+        //: %1 is the program's name, Tarvanel
+        if (ask({QCoreApplication::translate("Agent", "Install %1 in ~/.local/bin?").arg(name),
                  info,
-                 {QStringLiteral("Install"), QStringLiteral("Quit")},
+                 {QCoreApplication::translate("Agent", "Install"),
+                  QCoreApplication::translate("Agent", "Quit")},
                  {},
                  false}) == 1000)
             return moveToApplications();
@@ -103,14 +109,20 @@ private:
             logLine(lcAgent,
                     QStringLiteral("Tarvanel: the login service did not start: ") + out.reason);
             const QString unit = QLatin1String(appLabel) + QStringLiteral(".service");
+            //: %1 is the program's name, Tarvanel; %2 the unit's file name; %3 why it did not
+            //: start. Keep the command in quotes as it is
             const QString info =
-                name + QStringLiteral(" starts at login through the systemd user unit ") + unit +
-                QStringLiteral(", and it did not start: ") + out.reason +
-                QStringLiteral(".\nSee why with “systemctl --user status ") + unit +
-                QStringLiteral("”, then open ") + name + QStringLiteral(" again.");
-            if (ask({name + QStringLiteral(" couldn't start in the background"),
+                QCoreApplication::translate(
+                    "Agent", "%1 starts at login through the systemd user unit %2, and it did not "
+                             "start: %3.\nSee why with “systemctl --user status %2”, then open "
+                             "%1 again.")
+                    .arg(name, unit, out.reason);
+            //: %1 is the program's name, Tarvanel
+            if (ask({QCoreApplication::translate("Agent", "%1 couldn't start in the background")
+                         .arg(name),
                      info,
-                     {QStringLiteral("Open Service Folder"), QStringLiteral("Quit")},
+                     {QCoreApplication::translate("Agent", "Open Service Folder"),
+                      QCoreApplication::translate("Agent", "Quit")},
                      {},
                      false}) == 1000)
                 platform_->openUrl(
@@ -126,10 +138,13 @@ private:
         const QString destination = folder + u'/' + QFileInfo(exe).fileName();
         if (QFileInfo::exists(destination)) QFile::moveToTrash(destination);
         if (!QFile::copy(exe, destination)) {
-            ask({QStringLiteral("Couldn't copy ") + name + QStringLiteral(" to ") + folder,
-                 QStringLiteral("Copy ") + name +
-                     QStringLiteral(" into ~/.local/bin yourself, then open it from there."),
-                 {QStringLiteral("OK")},
+            //: %1 is the program's name, Tarvanel; %2 a folder
+            ask({QCoreApplication::translate("Agent", "Couldn't copy %1 to %2").arg(name, folder),
+                 //: %1 is the program's name, Tarvanel
+                 QCoreApplication::translate(
+                     "Agent", "Copy %1 into ~/.local/bin yourself, then open it from there.")
+                     .arg(name),
+                 {QCoreApplication::translate("Agent", "OK")},
                  {},
                  false});
             return end(1);

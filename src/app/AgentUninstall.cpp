@@ -7,6 +7,7 @@
 #include "base/StateFiles.h"
 #include "records/UserDefaults.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QObject>
@@ -32,13 +33,18 @@ void removeFilesAndProgram(Platform& platform, bool deleteData) {
         QFile::moveToTrash(exe);
     } else if (exe.startsWith(QStringLiteral("/usr/"))) {
         platform.activateApp();
-        platform.showAlert({name + QStringLiteral(" was installed as a package"),
-                            name + QStringLiteral(" no longer runs or starts at login. To remove "
-                                                  "it from this computer too, run:\n\n"
-                                                  "sudo apt remove tarvanel"),
-                            {QStringLiteral("OK")},
-                            {},
-                            false});
+        //: %1 is the program's name, Tarvanel
+        platform.showAlert(
+            {QCoreApplication::translate("Agent", "%1 was installed as a package").arg(name),
+             //: %1 is the program's name, Tarvanel. Keep the command as it is
+             QCoreApplication::translate("Agent",
+                                         "%1 no longer runs or starts at login. To remove it "
+                                         "from this computer too, run:\n\nsudo apt remove "
+                                         "tarvanel")
+                 .arg(name),
+             {QCoreApplication::translate("Agent", "OK")},
+             {},
+             false});
     }
     logLine(lcAgent, name + QStringLiteral(": uninstalled"));
 }

@@ -1,6 +1,7 @@
 #include "desktop/Dialogs.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDateEdit>
 #include <QDir>
 #include <QFileDialog>
@@ -44,7 +45,9 @@ std::unique_ptr<QMessageBox> buildAlert(const AlertRequest& request) {
     QList<QPushButton*> buttons;
     for (const QString& label : request.buttons)
         buttons << box->addButton(label, QMessageBox::ActionRole);
-    if (buttons.isEmpty()) buttons << box->addButton(QStringLiteral("OK"), QMessageBox::ActionRole);
+    if (buttons.isEmpty())
+        buttons << box->addButton(QCoreApplication::translate("Dialogs", "OK"),
+                                  QMessageBox::ActionRole);
     // Return must never take a destructive answer: such a question defaults to the last
     // button, its way out.
     box->setDefaultButton(request.firstIsDestructive ? buttons.last() : buttons.first());
@@ -92,8 +95,9 @@ DateQuestion::DateQuestion(const AlertRequest& request, const QDate& minimum,
     column->addWidget(edit_);
     auto* row = new QHBoxLayout;
     row->addStretch(1);
-    const QStringList labels =
-        request.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : request.buttons;
+    const QStringList labels = request.buttons.isEmpty()
+                                   ? QStringList{QCoreApplication::translate("Dialogs", "OK")}
+                                   : request.buttons;
     for (int i = 0; i < labels.size(); ++i) {
         auto* button = new QPushButton(labels.at(i), this);
         if (i == 0) {
@@ -118,8 +122,11 @@ std::optional<QDate> runDateQuestion(const AlertRequest& request, const QDate& m
 
 std::optional<QString> runSavePanel(const QString& proposedName) {
     const QString path = QFileDialog::getSaveFileName(
-        nullptr, QStringLiteral("Export History"), QDir::home().filePath(proposedName),
-        QStringLiteral("Comma-separated values (*.csv)"));
+        nullptr, QCoreApplication::translate("Dialogs", "Export History"),
+        QDir::home().filePath(proposedName),
+        //: A file type filter; keep the part in brackets as it is
+        QCoreApplication::translate("Dialogs", "Comma-separated values (*.csv)"));
+
     if (path.isEmpty()) return std::nullopt;
     return path;
 }

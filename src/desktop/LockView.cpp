@@ -1,6 +1,7 @@
 #include "desktop/LockView.h"
 
 #include "desktop/Look.h"
+#include "engine/PrayerNames.h"
 #include "lock/LockScreenState.h"
 
 #include <QHBoxLayout>
@@ -42,9 +43,23 @@ void GlassLabel::paintEvent(QPaintEvent* event) {
 }
 
 QString LockView::captionFor(const QString& prayer) {
-    return prayer == QLatin1String("Preview") || prayer == QLatin1String("Test")
-               ? QStringLiteral("PREVIEW")
-               : QStringLiteral("IT'S TIME FOR");
+    if (prayer == QLatin1String("Preview") || prayer == QLatin1String("Test")) {
+        //: Above the name of a lock that is only tried out from the settings; capitals if your
+        //: script has them
+        return tr("PREVIEW");
+    }
+    //: Above the prayer's name on the lock screen, e.g. IT'S TIME FOR / Fajr; capitals if your
+    //: script has them
+    return tr("IT'S TIME FOR");
+}
+
+// The big name: a prayer's, or that of a lock only tried out.
+QString LockView::nameFor(const QString& prayer) {
+    //: The name of a lock tried out from the settings, shown in place of a prayer's name
+    if (prayer == QLatin1String("Preview")) return tr("Preview");
+    //: The name of a lock started for a test, shown in place of a prayer's name
+    if (prayer == QLatin1String("Test")) return tr("Test");
+    return prayerLabel(prayer);
 }
 
 LockView::LockView(const QString& prayer, const Quote& quote, LockScreenState* state,
@@ -63,7 +78,8 @@ LockView::LockView(const QString& prayer, const Quote& quote, LockScreenState* s
     column->addWidget(caption_);
 
     name_ = centredLabel(this, look::systemFont(104, QFont::Bold), Qt::white);
-    name_->setText(prayer);
+    name_->setText(nameFor(prayer));
+
     column->addWidget(name_);
 
     auto* arabic = centredLabel(this, look::arabicFont(30), look::white(0.85));

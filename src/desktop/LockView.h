@@ -25,6 +25,7 @@ public:
     QWidget* quoteCard() const { return quoteCard_; }
 
     static QString captionFor(const QString& prayer);
+    static QString nameFor(const QString& prayer);
 
 signals:
     void firstPaint();

@@ -61,7 +61,10 @@ QString LockWindows::mechanism() const {
 QString LockWindows::weaknessHere() {
     // Under XWayland or Qt's Wayland windows the compositor keeps its own shortcuts.
     if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) return {};
-    return QStringLiteral("on this desktop a lock can be left by switching windows");
+    // English in the log; the settings window shows its translation.
+    //: Shown on a line of its own with its first letter made a capital and "%1." around it
+    return QStringLiteral(QT_TRANSLATE_NOOP(
+        "LockWeakness", "on this desktop a lock can be left by switching windows"));
 }
 
 void LockWindows::watchScreen(QScreen* screen) {

@@ -148,11 +148,14 @@ void QtPlatform::openSettingsWindow(std::unique_ptr<PrayerSettingsModel> model,
     model->setSoundPlayer([this](const QString& path) { return sounds_.playFile(path); },
                           [this] { sounds_.stopFile(); });
     if (!tray_.ensureCreated())
-        model->setHeaderNote(QStringLiteral(
-            "There's no tray on this desktop, so Tarvanel runs without an icon: it still locks "
-            "on time, and opening Tarvanel from the applications menu shows these settings."));
-    const QString title = model->firstRun() ? QStringLiteral("Welcome to Tarvanel")
-                                            : QStringLiteral("Tarvanel Settings");
+        model->setHeaderNote(
+            tr("There's no tray on this desktop, so Tarvanel runs without an icon: it still locks "
+               "on time, and opening Tarvanel from the applications menu shows these settings."));
+    //: The settings window's title on the first run
+    const QString title = model->firstRun() ? tr("Welcome to Tarvanel")
+                                            //: The settings window's title
+                                            : tr("Tarvanel Settings");
+
     settings_.show(title, QSize(620, 780),
                    new PrayerSettingsView(std::move(model), std::move(actions)));
 }

@@ -17,13 +17,19 @@ namespace {
 const QString readerName = QStringLiteral("tarvanel-sheet-reader");
 
 QString crashed(const QString& fileName) {
-    return QStringLiteral("The reader stopped unexpectedly while reading ") + fileName +
-           QStringLiteral(". Nothing was changed: try another photo or PDF, or paste the text.");
+    //: %1 the name of the photo or PDF being read
+    return QCoreApplication::translate("ImportWindow",
+                                       "The reader stopped unexpectedly while reading %1. Nothing "
+                                       "was changed: try another photo or PDF, or paste the text.")
+        .arg(fileName);
 }
 
 QString missing(const QString& program) {
-    return QStringLiteral("Photos and PDFs can't be read: the reader is missing (") + program +
-           QStringLiteral("). Paste the text instead, or reinstall Tarvanel.");
+    //: %1 the path of the program that reads photos and PDFs
+    return QCoreApplication::translate("ImportWindow",
+                                       "Photos and PDFs can't be read: the reader is missing (%1). "
+                                       "Paste the text instead, or reinstall Tarvanel.")
+        .arg(program);
 }
 
 } // namespace

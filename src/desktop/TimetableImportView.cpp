@@ -1,9 +1,11 @@
 #include "desktop/TimetableImportView.h"
 
 #include "desktop/SheetReaderProcess.h"
+#include "engine/PrayerNames.h"
 #include "timetable/Timetable.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -48,6 +50,25 @@ QGroupBox* section(const QString& header, const QString& footer, QLayout* rows, 
     return box;
 }
 
+// A prayer's short name in a preview row.
+QString shortName(const QString& prayer) {
+    //: Fajr shortened to fit a column of the timetable's preview
+    if (prayer == QLatin1String("Fajr")) return QCoreApplication::translate("ImportWindow", "Faj");
+    //: Dhuhr shortened to fit a column of the timetable's preview
+    if (prayer == QLatin1String("Dhuhr")) return QCoreApplication::translate("ImportWindow", "Dhu");
+    //: Asr shortened to fit a column of the timetable's preview
+    if (prayer == QLatin1String("Asr")) return QCoreApplication::translate("ImportWindow", "Asr");
+    //: Maghrib shortened to fit a column of the timetable's preview
+    if (prayer == QLatin1String("Maghrib"))
+        return QCoreApplication::translate("ImportWindow", "Mag");
+    //: Isha shortened to fit a column of the timetable's preview
+    if (prayer == QLatin1String("Isha")) return QCoreApplication::translate("ImportWindow", "Ish");
+    //: Jumu'ah shortened to fit a column of the timetable's preview
+    if (prayer == QLatin1String("Jumu'ah"))
+        return QCoreApplication::translate("ImportWindow", "Jum");
+    return prayer.left(3);
+}
+
 } // namespace
 
 TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> save,
@@ -65,17 +86,19 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     editor_->setMinimumHeight(150);
     // One row of the sheet a line: the marks and "line 6" in the summary stay one line each.
     editor_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    editor_->setAccessibleName(QStringLiteral("1. Your masjid's timetable"));
+    const QString textTitle = tr("1. Your masjid's timetable");
+    editor_->setAccessibleName(textTitle);
     textRows->addWidget(editor_);
     marks_ = std::make_unique<TimetableTextMarks>(editor_);
     auto* fileRow = new QHBoxLayout;
-    auto* choose = new QPushButton(QStringLiteral("Choose File…"), form);
+    auto* choose = new QPushButton(tr("Choose File…"), form);
     choose->setAccessibleName(choose->text());
     spinner_ = new QProgressBar(form);
     spinner_->setRange(0, 0);
     spinner_->setMaximumWidth(48);
     spinner_->setTextVisible(false);
-    spinner_->setAccessibleName(QStringLiteral("Reading"));
+    //: A busy indicator while a photo or PDF is read
+    spinner_->setAccessibleName(tr("Reading"));
     status_ = secondary(QString(), form);
     fileRow->addWidget(choose);
     fileRow->addWidget(spinner_);
@@ -93,41 +116,44 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     textRows->addWidget(problems_);
     doubts_ = secondary(QString(), form);
     textRows->addWidget(doubts_);
-    formLayout->addWidget(section(
-        QStringLiteral("1. Your masjid's timetable"),
-        QStringLiteral("Paste it from the masjid's website or PDF, or choose a CSV, a photo or a "
-                       "screenshot of the printed sheet. Photos are read on your computer; "
-                       "nothing is uploaded."),
-        textRows, form));
+    formLayout->addWidget(
+        section(textTitle,
+                tr("Paste it from the masjid's website or PDF, or choose a CSV, a photo or a "
+                   "screenshot of the printed sheet. Photos are read on your computer; nothing "
+                   "is uploaded."),
+                textRows, form));
 
     // 2. The columns, month and year.
     auto* pickRows = new QFormLayout;
     for (const QString& prayer : TimetableImportModel::prayers()) {
         auto* picker = new QComboBox(form);
-        picker->setAccessibleName(prayer);
-        pickRows->addRow(prayer, picker);
+        picker->setAccessibleName(prayerLabel(prayer));
+        pickRows->addRow(prayerLabel(prayer), picker);
         pickers_ << picker;
         connect(picker, &QComboBox::activated, this, [this, prayer, picker](int index) {
             model_->setColumn(prayer, picker->itemData(index).toInt());
         });
     }
     month_ = new QComboBox(form);
-    month_->setAccessibleName(QStringLiteral("Month"));
+    const QString monthLabel = tr("Month");
+    month_->setAccessibleName(monthLabel);
     const QStringList months = TimetableImportModel::monthNames();
     for (int m = 1; m <= 12; ++m)
         month_->addItem(months[m - 1], m);
-    pickRows->addRow(QStringLiteral("Month"), month_);
+    pickRows->addRow(monthLabel, month_);
     year_ = new QSpinBox(form);
     year_->setRange(2020, 2100);
     year_->setGroupSeparatorShown(false);
-    year_->setAccessibleName(QStringLiteral("Year"));
-    pickRows->addRow(QStringLiteral("Year"), year_);
-    formLayout->addWidget(section(
-        QStringLiteral("2. Which column is which"),
-        QStringLiteral("Pick the jamaat (iqamah) column for each prayer, the time you actually "
-                       "pray. Times without AM/PM are read as morning for Fajr, midday for "
-                       "Dhuhr, and afternoon or evening for the rest."),
-        pickRows, form));
+    const QString yearLabel = tr("Year");
+    year_->setAccessibleName(yearLabel);
+    pickRows->addRow(yearLabel, year_);
+    //: Jamaat and iqamah: the time the congregation prays at the masjid
+    formLayout->addWidget(
+        section(tr("2. Which column is which"),
+                tr("Pick the jamaat (iqamah) column for each prayer, the time you actually pray. "
+                   "Times without AM/PM are read as morning for Fajr, midday for Dhuhr, and "
+                   "afternoon or evening for the rest."),
+                pickRows, form));
 
     // 3. The preview.
     previewRows_ = new QVBoxLayout;
@@ -146,9 +172,9 @@ TimetableImportView::TimetableImportView(std::function<void(const DayTable&)> sa
     auto* bar = new QHBoxLayout;
     bar->setContentsMargins(16, 16, 16, 16);
     bar->addStretch(1);
-    auto* cancelButton = new QPushButton(QStringLiteral("Cancel"), this);
+    auto* cancelButton = new QPushButton(tr("Cancel"), this);
     cancelButton->setAccessibleName(cancelButton->text());
-    use_ = new QPushButton(QStringLiteral("Use This Timetable"), this);
+    use_ = new QPushButton(tr("Use This Timetable"), this);
     use_->setAccessibleName(use_->text());
     use_->setDefault(true);
     bar->addWidget(cancelButton);
@@ -200,11 +226,12 @@ void TimetableImportView::chooseFile() {
     auto* dialog = new QFileDialog(this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters(
-        {QStringLiteral("Timetables (*.csv *.txt *.tsv *.png *.jpg *.jpeg *.gif *.bmp *.tif "
-                        "*.tiff *.webp *.pdf)"),
-         QStringLiteral("All files (*)")});
-    dialog->setLabelText(QFileDialog::Accept, QStringLiteral("Read Timetable"));
+    //: A file type filter; keep the part in brackets as it is
+    dialog->setNameFilters({tr("Timetables (*.csv *.txt *.tsv *.png *.jpg *.jpeg *.gif *.bmp *.tif "
+                               "*.tiff *.webp *.pdf)"),
+                            //: A file type filter; keep the part in brackets as it is
+                            tr("All files (*)")});
+    dialog->setLabelText(QFileDialog::Accept, tr("Read Timetable"));
     connect(dialog, &QFileDialog::fileSelected, this, &TimetableImportView::openFile);
     dialog->open();
 }
@@ -267,7 +294,8 @@ void TimetableImportView::refresh() {
 }
 
 void TimetableImportView::refreshPickers() {
-    QStringList captions{QStringLiteral("Not in the timetable")};
+    //: A prayer's column choice: the timetable has no column for this prayer
+    QStringList captions{tr("Not in the timetable")};
     for (int i = 0; i < model_->columnCount(); ++i)
         captions << model_->columnLabel(i);
     const QStringList& prayers = TimetableImportModel::prayers();
@@ -286,7 +314,7 @@ void TimetableImportView::refreshPickers() {
 void TimetableImportView::refreshPreview() {
     const DayTable days = model_->days();
     static_cast<QGroupBox*>(previewBox_)
-        ->setTitle(QStringLiteral("3. Preview (%1 days)").arg(days.size()));
+        ->setTitle(tr("3. Preview (%Ln days)", nullptr, int(days.size())));
     previewBox_->setAccessibleName(static_cast<QGroupBox*>(previewBox_)->title());
     use_->setEnabled(!days.isEmpty());
     while (QLayoutItem* item = previewRows_->takeAt(0)) {
@@ -296,13 +324,13 @@ void TimetableImportView::refreshPreview() {
     const auto preview = model_->preview();
     if (preview.isEmpty()) {
         previewRows_->addWidget(
-            secondary(QStringLiteral("No days yet. Check the month and the columns."), this));
+            secondary(tr("No days yet. Check the month and the columns."), this));
         return;
     }
     for (const auto& [key, times] : preview) {
         QStringList cells;
         for (const QString& prayer : TimetableImportModel::prayers())
-            if (times.contains(prayer)) cells << prayer.left(3) + u' ' + times[prayer];
+            if (times.contains(prayer)) cells << shortName(prayer) + u' ' + times[prayer];
         auto* row = new QWidget;
         auto* layout = new QHBoxLayout(row);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -320,7 +348,8 @@ TimetableImportView* openTimetableImport(const QString& file, std::function<void
     if (open) open->close();
     auto* window = new QWidget;
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setWindowTitle(QStringLiteral("Import Masjid Timetable"));
+    window->setWindowTitle(QCoreApplication::translate("ImportWindow", "Import Masjid Timetable"));
+
     window->resize(640, 700);
     const QPointer<QWidget> self(window);
     auto* view = new TimetableImportView(

@@ -1,5 +1,6 @@
 #include "desktop/TimetableTextMarks.h"
 
+#include <QCoreApplication>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 
@@ -42,12 +43,11 @@ int TimetableTextMarks::show(const QList<RowProblem>& problems) {
 
 QString TimetableTextMarks::note(int doubts) {
     if (doubts == 0) return {};
-    if (doubts == 1)
-        return QStringLiteral(
-            "1 cell was hard to read and is marked in yellow: check it against the sheet.");
-    return QStringLiteral("%1 cells were hard to read and are marked in yellow: check them "
-                          "against the sheet.")
-        .arg(doubts);
+    //: Cells of the timetable's text that the reader was unsure of
+    return QCoreApplication::translate("ImportWindow",
+                                       "%Ln cells were hard to read and are marked in yellow: "
+                                       "check them against the sheet.",
+                                       nullptr, doubts);
 }
 
 } // namespace tarvanel

@@ -76,10 +76,15 @@ QPainterPath crescentPath(const QRectF& r) {
 } // namespace
 
 std::optional<QString> titleMinutes(const QString& title) {
-    static const QRegularExpression countdown(QStringLiteral(" in (\\d+)m$"));
-    const auto match = countdown.match(title);
-    if (!match.hasMatch()) return std::nullopt;
-    return match.captured(1);
+    // A countdown under an hour is the title's only number, in whatever language and digits
+    // ("Dhuhr in 23m", "الظهر بعد ٢٣ د"); a clock time or "1h 12m" has two.
+    static const QRegularExpression digits(QStringLiteral("\\d+"),
+                                           QRegularExpression::UseUnicodePropertiesOption);
+    QRegularExpressionMatchIterator runs = digits.globalMatch(title);
+    if (!runs.hasNext()) return std::nullopt;
+    const QString only = runs.next().captured();
+    if (runs.hasNext()) return std::nullopt;
+    return only;
 }
 
 QImage trayImage(const QString& title, TitleColor color, int size) {

@@ -10,14 +10,15 @@ namespace tarvanel {
 
 struct CalcMethod {
     QString id;
-    QString name;
+    QString name; // shown to the user, in the current language
     double fajr = 0;
     double isha = 0;
     std::optional<double> ishaMinutes;
     std::optional<double> maghribAngle;
 };
 
-const QList<CalcMethod>& calcMethods();
+// Built on each call, so the names follow a change of language.
+QList<CalcMethod> calcMethods();
 std::optional<CalcMethod> methodFor(const Config& cfg);
 QString methodSummary(const Config& cfg);
 

@@ -1,5 +1,6 @@
 #include "engine/Config.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonParseError>
@@ -77,17 +78,19 @@ template <class... F> Overloaded(F...) -> Overloaded<F...>;
 QString typeName(const QJsonValue& v) {
     switch (v.type()) {
     case QJsonValue::Bool:
-        return QStringLiteral("a boolean");
+        //: The type of a value in the settings file (config.json).
+        return QCoreApplication::translate("Config", "a boolean");
     case QJsonValue::Double:
-        return QStringLiteral("a number");
+        return QCoreApplication::translate("Config", "a number");
     case QJsonValue::String:
-        return QStringLiteral("text");
+        return QCoreApplication::translate("Config", "text");
     case QJsonValue::Array:
-        return QStringLiteral("an array");
+        return QCoreApplication::translate("Config", "an array");
     case QJsonValue::Object:
-        return QStringLiteral("an object");
+        return QCoreApplication::translate("Config", "an object");
     default:
-        return QStringLiteral("null");
+        //: A JSON value that is null; "null" is the word written in the file.
+        return QCoreApplication::translate("Config", "null");
     }
 }
 
@@ -96,8 +99,9 @@ struct Mismatch {
     QString expected;
     QString found;
 };
+// `expected` is one of the Config texts marked below.
 Mismatch mismatch(const char* expected, const QString& found) {
-    return {QLatin1String(expected), found};
+    return {QCoreApplication::translate("Config", expected), found};
 }
 
 template <class T> struct Plain { using type = T; };
@@ -107,14 +111,14 @@ template <class T> struct Plain<std::optional<T>> { using type = T; };
 template <class T> std::optional<Mismatch> decodeScalar(const QJsonValue& v, T& field) {
     using Value = typename Plain<T>::type;
     if constexpr (std::is_same_v<Value, QString>) {
-        if (!v.isString()) return mismatch("text", typeName(v));
+        if (!v.isString()) return mismatch(QT_TRANSLATE_NOOP("Config", "text"), typeName(v));
         field = v.toString();
     } else if constexpr (std::is_same_v<Value, double>) {
-        if (!v.isDouble()) return mismatch("a number", typeName(v));
+        if (!v.isDouble()) return mismatch(QT_TRANSLATE_NOOP("Config", "a number"), typeName(v));
         field = v.toDouble();
     } else {
         static_assert(std::is_same_v<Value, bool>);
-        if (!v.isBool()) return mismatch("a boolean", typeName(v));
+        if (!v.isBool()) return mismatch(QT_TRANSLATE_NOOP("Config", "a boolean"), typeName(v));
         field = v.toBool();
     }
     return std::nullopt;
@@ -128,29 +132,35 @@ std::optional<Mismatch> decodeField(const QJsonValue& v, Config& c, const Member
         Overloaded{
             [&]<class T>(T Config::*m) -> Result { return decodeScalar(v, c.*m); },
             [&](QList<double> Config::*m) -> Result {
-                const char* expected = "an array of numbers";
+                const char* expected = QT_TRANSLATE_NOOP("Config", "an array of numbers");
                 if (!v.isArray()) return mismatch(expected, typeName(v));
                 QList<double> list;
                 const QJsonArray array = v.toArray();
                 for (qsizetype i = 0; i < array.size(); ++i) {
                     if (!array[i].isDouble())
-                        return mismatch(expected, QStringLiteral("an array with %1 at position %2")
-                                                      .arg(typeName(array[i]))
-                                                      .arg(i + 1));
+                        return mismatch(
+                            expected,
+                            //: %1 is a value's type ("text"), %2 its position in the list.
+                            QCoreApplication::translate("Config", "an array with %1 at position %2")
+                                .arg(typeName(array[i]))
+                                .arg(i + 1));
                     list.append(array[i].toDouble());
                 }
                 c.*m = list;
                 return std::nullopt;
             },
             [&](std::optional<TextMap> Config::*m) -> Result {
-                const char* expected = "an object of texts";
+                const char* expected = QT_TRANSLATE_NOOP("Config", "an object of texts");
                 if (!v.isObject()) return mismatch(expected, typeName(v));
                 TextMap map;
                 const QJsonObject o = v.toObject();
                 for (auto it = o.begin(); it != o.end(); ++it) {
                     if (!it.value().isString())
-                        return mismatch(expected, QStringLiteral("an object with %1 at \"%2\"")
-                                                      .arg(typeName(it.value()), it.key()));
+                        return mismatch(
+                            expected,
+                            //: %1 is a value's type ("a number"), %2 the name it is stored under.
+                            QCoreApplication::translate("Config", "an object with %1 at \"%2\"")
+                                .arg(typeName(it.value()), it.key()));
                     map.insert(it.key(), it.value().toString());
                 }
                 c.*m = map;
@@ -165,7 +175,9 @@ std::optional<Mismatch> outOfBounds(const QJsonValue& v, const Field& f) {
     if (!f.bounds || !f.bounds->rejectsOutside) return std::nullopt;
     const double x = v.toDouble();
     if (x >= f.bounds->min && x <= f.bounds->max) return std::nullopt;
-    return Mismatch{QStringLiteral("a number from %1 to %2")
+    // The bounds as JSON writes them, like the value in the file.
+    //: %1 and %2 are the smallest and largest values a setting may have.
+    return Mismatch{QCoreApplication::translate("Config", "a number from %1 to %2")
                         .arg(QString::number(f.bounds->min), QString::number(f.bounds->max)),
                     QString::number(x, 'g', 12)};
 }
@@ -247,7 +259,10 @@ QList<double> Config::nudgeOffsets() const {
     return kept;
 }
 
-std::optional<Config> decodeConfig(const QJsonObject& o, QString* error) {
+namespace {
+
+// As decodeConfig; `badKey` names the field that did not decode.
+std::optional<Config> decodeNamingKey(const QJsonObject& o, QString* error, const char** badKey) {
     Config c;
     for (const Field& f : kFields) {
         const QJsonValue v = o.value(QLatin1String(f.key));
@@ -256,12 +271,21 @@ std::optional<Config> decodeConfig(const QJsonObject& o, QString* error) {
         if (!wrong) wrong = outOfBounds(v, f);
         if (wrong) {
             if (error)
-                *error = QStringLiteral("%1: expected %2, found %3")
+                //: An error in the settings file: %1 is the setting's name as written in the
+                //: file (keep it first if you can), %2 what it should be, %3 what it is.
+                *error = QCoreApplication::translate("Config", "%1: expected %2, found %3")
                              .arg(QLatin1String(f.key), wrong->expected, wrong->found);
+            if (badKey) *badKey = f.key;
             return std::nullopt;
         }
     }
     return c;
+}
+
+} // namespace
+
+std::optional<Config> decodeConfig(const QJsonObject& o, QString* error) {
+    return decodeNamingKey(o, error, nullptr);
 }
 
 std::optional<Config> decodeConfig(const QByteArray& json, QString* error) {
@@ -269,22 +293,29 @@ std::optional<Config> decodeConfig(const QByteArray& json, QString* error) {
     const QJsonDocument doc = QJsonDocument::fromJson(json, &parse);
     if (parse.error != QJsonParseError::NoError) {
         if (error)
-            *error = QStringLiteral("line %1: %2")
+            //: %1 is a line number of the settings file, %2 what is wrong there.
+            *error = QCoreApplication::translate("Config", "line %1: %2")
                          .arg(lineOf(json, parse.offset))
                          .arg(parse.errorString());
         return std::nullopt;
     }
     if (!doc.isObject()) {
-        if (error) *error = QStringLiteral("the top level is not an object");
+        if (error)
+            //: The settings file holds a value that is not a JSON object ({ … }).
+            *error = QCoreApplication::translate("Config", "the top level is not an object");
         return std::nullopt;
     }
     QString why;
-    auto config = decodeConfig(doc.object(), &why);
+    const char* badKey = nullptr;
+    auto config = decodeNamingKey(doc.object(), &why, &badKey);
     if (!config && error) {
-        // Name the line of the offending key ("latitude: expected …" starts with the key).
-        const QByteArray quoted = '"' + why.section(u':', 0, 0).toUtf8() + '"';
+        // Name the line of the offending key.
+        const QByteArray quoted = '"' + QByteArray(badKey) + '"';
         const qsizetype at = json.indexOf(quoted);
-        *error = at < 0 ? why : QStringLiteral("line %1: %2").arg(lineOf(json, at)).arg(why);
+        *error = at < 0 ? why
+                        : QCoreApplication::translate("Config", "line %1: %2")
+                              .arg(lineOf(json, at))
+                              .arg(why);
     }
     return config;
 }

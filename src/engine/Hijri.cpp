@@ -1,8 +1,11 @@
 #include "engine/Hijri.h"
 #include "engine/LocalTime.h"
 
+#include <QCoreApplication>
 #include <QDate>
+#include <QLocale>
 #include <QTimeZone>
+#include <map>
 #include <memory>
 #include <unicode/calendar.h>
 #include <unicode/smpdtfmt.h>
@@ -11,15 +14,15 @@
 namespace tarvanel {
 namespace {
 
-// Built once: the Umm al-Qura calendar and its formatter, both in GMT so that only the local
-// Gregorian date we hand in decides the day.
+// The Umm al-Qura calendar and its formatter in one language, both in GMT so that only the
+// local Gregorian date we hand in decides the day.
 struct UmmAlQura {
     std::unique_ptr<icu::Calendar> calendar;
     std::unique_ptr<icu::SimpleDateFormat> format;
 
-    UmmAlQura() {
+    explicit UmmAlQura(const QByteArray& language) {
         UErrorCode status = U_ZERO_ERROR;
-        const icu::Locale locale("en@calendar=islamic-umalqura");
+        const icu::Locale locale((language + "@calendar=islamic-umalqura").constData());
         calendar.reset(
             icu::Calendar::createInstance(icu::TimeZone::getGMT()->clone(), locale, status));
         if (U_FAILURE(status)) calendar.reset();
@@ -33,9 +36,17 @@ struct UmmAlQura {
         }
     }
 
-    static UmmAlQura& instance() {
-        static UmmAlQura u;
-        return u;
+    // English month names under an English or C locale, whatever the region: the date reads
+    // the same on every English system. Other languages get their own month names and digits.
+    static UmmAlQura& forLanguage() {
+        const QLocale locale;
+        const bool english =
+            locale.language() == QLocale::English || locale.language() == QLocale::C;
+        const QByteArray name = english ? QByteArray("en") : locale.name().toLatin1();
+        static std::map<QByteArray, std::unique_ptr<UmmAlQura>> built;
+        auto& u = built[name];
+        if (!u) u = std::make_unique<UmmAlQura>(name);
+        return *u;
     }
 };
 
@@ -49,7 +60,8 @@ UDate noonOfLocalDate(const QDateTime& instant) {
 } // namespace
 
 HijriDate hijriDate(const QDateTime& instant) {
-    UmmAlQura& u = UmmAlQura::instance();
+    // The numbers do not depend on the language: one calendar serves every caller.
+    static UmmAlQura u("en");
     if (!u.calendar || !instant.isValid()) return {};
     UErrorCode status = U_ZERO_ERROR;
     u.calendar->setTime(noonOfLocalDate(instant), status);
@@ -62,12 +74,13 @@ HijriDate hijriDate(const QDateTime& instant) {
 }
 
 QString hijriString(const QDateTime& instant) {
-    UmmAlQura& u = UmmAlQura::instance();
-    if (!u.format || !instant.isValid()) return QStringLiteral(" AH");
+    UmmAlQura& u = UmmAlQura::forLanguage();
     icu::UnicodeString text;
-    u.format->format(noonOfLocalDate(instant), text);
-    return QString::fromUtf16(reinterpret_cast<const char16_t*>(text.getBuffer()), text.length()) +
-           QStringLiteral(" AH");
+    if (u.format && instant.isValid()) u.format->format(noonOfLocalDate(instant), text);
+    //: A Hijri date: %1 is the day, month and year ("14 Ramadan 1446"); AH is the era.
+    return QCoreApplication::translate("Hijri", "%1 AH")
+        .arg(
+            QString::fromUtf16(reinterpret_cast<const char16_t*>(text.getBuffer()), text.length()));
 }
 
 bool isRamadan(const QDateTime& instant) {

@@ -93,7 +93,7 @@ QString formatLocal(const QDateTime& instant, const QString& pattern) {
     // zone database than the C library's.
     const QDateTime wall(QDate(f.year, f.month, f.day), QTime(f.hour, f.minute, f.second),
                          QTimeZone(f.utcOffsetSeconds));
-    return QLocale::system().toString(wall, pattern);
+    return QLocale().toString(wall, pattern);
 }
 
 void resetLocalTimeZone() {

@@ -3,6 +3,7 @@
 #include "engine/LocalTime.h"
 #include "engine/PrayerTimes.h"
 
+#include <QCoreApplication>
 #include <QSet>
 #include <cmath>
 
@@ -143,11 +144,14 @@ QString rawText(TimeMode mode) {
 QString label(TimeMode mode) {
     switch (mode) {
     case TimeMode::waqt:
-        return QStringLiteral("At start time");
+        //: When the lock comes: at the prayer's start time (its waqt).
+        return QCoreApplication::translate("TimeMode", "At start time");
     case TimeMode::offset:
-        return QStringLiteral("After start");
+        //: When the lock comes: some minutes after the prayer's start time.
+        return QCoreApplication::translate("TimeMode", "After start");
     case TimeMode::fixed:
-        return QStringLiteral("Fixed time");
+        //: When the lock comes: at a fixed clock time, such as a mosque's jamaat.
+        return QCoreApplication::translate("TimeMode", "Fixed time");
     }
     return {};
 }

@@ -3,9 +3,11 @@
 #include "base/StateFiles.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
+#include "engine/PrayerNames.h"
 #include "engine/Schedule.h"
 #include "timetable/Timetable.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
@@ -31,7 +33,10 @@ bool grantAccess() {
     // Something to choose from: a calendar of our own that vdirsyncer can pair with a server.
     const QString folder = root + QStringLiteral("/local/prayer");
     if (!QDir().mkpath(folder) ||
-        !writeFileAtomically(folder + QStringLiteral("/displayname"), "Prayer times"))
+        //: The name of the calendar Tarvanel creates, as calendar programs show it.
+        !writeFileAtomically(
+            folder + QStringLiteral("/displayname"),
+            QCoreApplication::translate("PrayerCalendar", "Prayer times").toUtf8()))
         logLine(lcCalendar, QStringLiteral("Tarvanel: cannot create the calendar ") + folder);
     return true;
 }
@@ -76,7 +81,10 @@ QList<BusyEvent> plannedEvents(const Config& cfg, const QDateTime& now) {
             const LockPeriod window = lockPeriod(*lockTime, name, day.jumuah, cfg);
             if (!window.start.isValid()) continue;
             BusyEvent e;
-            e.title = (jumuah ? QStringLiteral("Jumu'ah") : name) + QStringLiteral(" (prayer)");
+            // Shown in calendars only: events are found again by their tag, not their title.
+            //: A calendar event's title: %1 is a prayer's name ("Fajr (prayer)").
+            e.title = QCoreApplication::translate("PrayerCalendar", "%1 (prayer)")
+                          .arg(prayerLabel(jumuah ? QStringLiteral("Jumu'ah") : name));
             e.start = window.start;
             e.end = window.end;
             if (e.end <= now) continue; // nothing for locks already over

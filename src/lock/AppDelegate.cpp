@@ -100,8 +100,11 @@ void AppDelegate::noticeConfigError() {
     }
     if (*error == configErrorNoticed_ || session_.isLocked()) return;
     configErrorNoticed_ = *error;
-    reminders_.showBanner(QStringLiteral("⚠️  config.json can't be used (") + *error +
-                              QStringLiteral("). Tarvanel keeps the last good settings."),
+    //: %1 says what is wrong with the settings file config.json
+    reminders_.showBanner(QStringLiteral("⚠️  ") +
+                              tr("config.json can't be used (%1). Tarvanel keeps the last good "
+                                 "settings.")
+                                  .arg(*error),
                           std::nullopt, BannerStyle::urgent);
 }
 

@@ -2,6 +2,8 @@
 #include "integrations/PrayerCalendar.h"
 #include "platform/Platform.h"
 
+#include <QCoreApplication>
+
 namespace tarvanel {
 
 void requestCalendarAccess(Platform& platform, std::function<void(bool)> completion) {
@@ -11,13 +13,17 @@ void requestCalendarAccess(Platform& platform, std::function<void(bool)> complet
             return;
         }
         AlertRequest ask;
-        ask.message = QStringLiteral("Allow Tarvanel to add busy events to your calendars?");
-        ask.info = QStringLiteral(
+        ask.message = QCoreApplication::translate(
+            "Calendar", "Allow Tarvanel to add busy events to your calendars?");
+        //: %1 is a folder. khal and vdirsyncer are the names of two programs
+        ask.info = QCoreApplication::translate(
+                       "Calendar",
                        "Tarvanel keeps its events in the calendar folders under %1, one file per "
                        "event. khal shows them, and vdirsyncer syncs them with your online "
                        "calendar so colleagues see you're busy.")
                        .arg(PrayerCalendar::rootPath());
-        ask.buttons = {QStringLiteral("Allow"), QStringLiteral("Don't Allow")};
+        ask.buttons = {QCoreApplication::translate("Calendar", "Allow"),
+                       QCoreApplication::translate("Calendar", "Don't Allow")};
         const bool consent = platform.showAlert(ask).response == 1000;
         completion(consent && PrayerCalendar::grantAccess());
     });

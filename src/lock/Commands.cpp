@@ -4,6 +4,7 @@
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "engine/LocalTime.h"
+#include "engine/PrayerNames.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
@@ -16,9 +17,9 @@
 #include "settings/PrayerSettingsModel.h"
 #include "timetable/Timetable.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QLocale>
 #include <QUrl>
 
 namespace tarvanel {
@@ -135,7 +136,7 @@ void AppDelegate::openSettings() {
         AlertRequest ask;
         ask.message = question;
         ask.info = info;
-        ask.buttons = {QStringLiteral("Replace"), QStringLiteral("Cancel")};
+        ask.buttons = {tr("Replace"), tr("Cancel")};
         ask.firstIsDestructive = true;
         return self->platform_.showAlert(ask).response == 1000;
     };
@@ -178,35 +179,36 @@ void AppDelegate::openTimetableImport(const QString& file) {
 void AppDelegate::exportHistory() {
     platform_.activateApp();
     const std::optional<QString> path =
-        platform_.askSavePath(QStringLiteral("Tarvanel history.csv"));
+        //: The file name the history export suggests; keep the .csv ending
+        platform_.askSavePath(tr("Tarvanel history.csv"));
     if (!path) return;
     const QString csv = historyCSV(config_, currentTime());
     QString error;
     AlertRequest done;
-    done.buttons = {QStringLiteral("OK")};
+    done.buttons = {tr("OK")};
     if (!writeFileAtomically(*path, csv.toUtf8(), &error)) { // the write logged it too
-        done.message = QStringLiteral("Couldn't export the history to ") + *path;
+        //: %1 is a file
+        done.message = tr("Couldn't export the history to %1").arg(*path);
         done.info = error + QStringLiteral(".");
         platform_.showAlert(done);
         return;
     }
     const qsizetype rows = csv.count(QLatin1Char('\n')) - 1; // less the header line
-    done.message = QStringLiteral("Exported ") + QLocale().toString(qlonglong(rows)) +
-                   (rows == 1 ? QStringLiteral(" prayer to ") : QStringLiteral(" prayers to ")) +
-                   *path;
+    //: %1 is a file; the count is of prayers written to it
+    done.message = tr("Exported %Ln prayers to %1", nullptr, int(rows)).arg(*path);
     platform_.showAlert(done);
 }
 
 void AppDelegate::uninstall() {
     if (session_.isLocked()) return;
     platform_.activateApp();
-    const AlertAnswer answer = platform_.showAlert(AlertRequest{
-        QStringLiteral("Uninstall Tarvanel?"),
-        QStringLiteral("Tarvanel stops running, stops starting at login, and moves to the Trash. "
-                       "Your prayer times stop locking the screen."),
-        {QStringLiteral("Uninstall"), QStringLiteral("Cancel")},
-        QStringLiteral("Also delete my settings and history"),
-        true});
+    const AlertAnswer answer = platform_.showAlert(
+        AlertRequest{tr("Uninstall Tarvanel?"),
+                     tr("Tarvanel stops running, stops starting at login, and moves to the Trash. "
+                        "Your prayer times stop locking the screen."),
+                     {tr("Uninstall"), tr("Cancel")},
+                     tr("Also delete my settings and history"),
+                     true});
     if (answer.response != 1000) return;
     if (answer.checkBoxOn) modes_.removeAll();
     if (options_.removeProgram) options_.removeProgram(answer.checkBoxOn);
@@ -214,11 +216,13 @@ void AppDelegate::uninstall() {
 
 void AppDelegate::startExcused() {
     AlertRequest request;
-    request.message = QStringLiteral("Turn off reminders and locks?");
-    request.info = QStringLiteral("They come back when you choose No Longer Excused, or after ") +
-                   QString::number(excusedWholeDays(config_)) +
-                   QStringLiteral(" days. Your streak is kept.");
-    request.buttons = {QStringLiteral("Turn Off"), QStringLiteral("Cancel")};
+    //: Asked on "I'm Excused…" in the menu: exempt from prayer for a while
+    request.message = tr("Turn off reminders and locks?");
+    //: %1 is the menu item that ends the excused days
+    request.info = tr("They come back when you choose %1, or after %Ln days. Your streak is kept.",
+                      nullptr, excusedWholeDays(config_))
+                       .arg(QCoreApplication::translate("Menu", "No Longer Excused"));
+    request.buttons = {tr("Turn Off"), tr("Cancel")};
     if (platform_.showAlert(request).response != 1000) return;
     Excused::begin(currentTime());
     logLine(lcLock, QStringLiteral("Tarvanel: excused"));
@@ -233,14 +237,19 @@ void AppDelegate::endExcused() {
 
 void AppDelegate::startTravelling() {
     AlertRequest request;
-    request.message = QStringLiteral("Travelling until\u2026");
+    //: Above a date picker: the last day of the journey
+    request.message = tr("Travelling until…");
+    //: %1 and %2 are combined into one lock, and so are %3 and %4 (prayer names)
     request.info =
         config_.combineOn()
-            ? QStringLiteral("Dhuhr and Asr become one lock, and so do Maghrib and Isha, through "
-                             "the end of this day.")
-            : QStringLiteral("Turn on \u201CCombine prayers while travelling\u201D in Settings if "
-                             "your school permits it.");
-    request.buttons = {QStringLiteral("Start"), QStringLiteral("Cancel")};
+            ? tr("%1 and %2 become one lock, and so do %3 and %4, through the end of "
+                 "this day.")
+                  .arg(prayerLabel(QStringLiteral("Dhuhr")), prayerLabel(QStringLiteral("Asr")),
+                       prayerLabel(QStringLiteral("Maghrib")), prayerLabel(QStringLiteral("Isha")))
+            //: The quoted text is a check box in Settings; school: of Islamic law
+            : tr("Turn on “Combine prayers while travelling” in Settings if your "
+                 "school permits it.");
+    request.buttons = {tr("Start"), tr("Cancel")};
     platform_.activateApp();
     const QDateTime asked = currentTime();
     const std::optional<QDate> picked =
@@ -264,11 +273,14 @@ void AppDelegate::pauseLocks(int days) {
     const QDateTime until = pauseEnd(days, currentTime());
     if (!until.isValid()) return;
     AlertRequest request;
-    request.message = QStringLiteral("Pause Tarvanel?");
-    request.info = QStringLiteral("No reminders and no locks until ") +
-                   formatLocal(until, QStringLiteral("dddd d MMMM")) +
-                   QStringLiteral(" at midnight. You can resume any time from the menu.");
-    request.buttons = {QStringLiteral("Pause"), QStringLiteral("Cancel")};
+    request.message = tr("Pause Tarvanel?");
+    //: Qt pattern of a weekday and a date, as in "Friday 3 October"
+    const QString pattern = QCoreApplication::translate("TimeFormat", "dddd d MMMM");
+    //: %1 is a weekday and a date, as in "Friday 3 October"
+    request.info = tr("No reminders and no locks until %1 at midnight. You can resume any time "
+                      "from the menu.")
+                       .arg(formatLocal(until, pattern));
+    request.buttons = {tr("Pause"), tr("Cancel")};
     if (platform_.showAlert(request).response != 1000) return;
     modes_.setPausedUntil(until);
     logLine(lcLock, QStringLiteral("Tarvanel: paused until ") + defaultDescription(until));
@@ -278,10 +290,12 @@ void AppDelegate::pauseLocks(int days) {
 void AppDelegate::resumeLocks() {
     if (const std::optional<QString> due = lockDueNow()) {
         AlertRequest request;
-        request.message = *due + QStringLiteral("'s lock is due now: lock now?");
-        request.info = QStringLiteral("Resuming now turns every screen black at once. Cancel keeps "
-                                      "the pause.");
-        request.buttons = {QStringLiteral("Lock Now"), QStringLiteral("Cancel")};
+        //: %1 is a prayer name; "lock now" is a verb
+        request.message = tr("%1's lock is due now: lock now?").arg(prayerLabel(*due));
+        //: "Cancel" is the button of this question
+        request.info = tr("Resuming now turns every screen black at once. Cancel keeps the pause.");
+        //: A verb: lock the screens now
+        request.buttons = {tr("Lock Now"), tr("Cancel")};
         platform_.activateApp();
         if (platform_.showAlert(request).response != 1000) return;
     }

@@ -8,6 +8,9 @@
 #include "lock/Presence.h"
 #include "records/Modes.h"
 
+#include <QCoreApplication>
+#include <QLocale>
+
 namespace tarvanel {
 
 LockSession::LockSession(Platform& platform, QObject* owner)
@@ -42,7 +45,12 @@ bool LockSession::tick(const QDateTime& now) {
     platform_.activateApp();
     platform_.raiseLockWindows(Guardian::isSet());
     const qint64 s = now.msecsTo(*end_) / 1000;
-    state_->setCountdown(QString::asprintf("Screen unlocks in %lld:%02lld", s / 60, s % 60));
+    const QLocale locale;
+    QString seconds = locale.toString(s % 60);
+    if (s % 60 < 10) seconds.prepend(locale.zeroDigit());
+    //: %1 is the time left in minutes and seconds, as in "4:59"
+    state_->setCountdown(QCoreApplication::translate("LockScreen", "Screen unlocks in %1")
+                             .arg(locale.toString(s / 60) + QLatin1Char(':') + seconds));
     return false;
 }
 
@@ -78,7 +86,9 @@ QString LockSession::guardianLine() const {
         return symbols.join(QLatin1Char(' '));
     }
     if (!guardianMessage_.isEmpty()) return guardianMessage_;
-    return QStringLiteral("Emergency? Type your guardian's 6-digit code");
+    //: The guardian: the person who keeps the code that ends a lock early
+    return QCoreApplication::translate("LockScreen",
+                                       "Emergency? Type your guardian's 6-digit code");
 }
 
 bool LockSession::keyInput(LockKey key, const QString& text, const QDateTime& now) {
@@ -101,10 +111,11 @@ bool LockSession::keyInput(LockKey key, const QString& text, const QDateTime& no
         case Guardian::Check::ok:
             return true;
         case Guardian::Check::wrong:
-            guardianMessage_ = QStringLiteral("That code didn't work");
+            guardianMessage_ = QCoreApplication::translate("LockScreen", "That code didn't work");
             break;
         case Guardian::Check::tooManyTries:
-            guardianMessage_ = QStringLiteral("Too many tries. Try again in 5 minutes");
+            guardianMessage_ = QCoreApplication::translate(
+                "LockScreen", "Too many tries. Try again in %Ln minutes", nullptr, 5);
             break;
         }
     }

@@ -4,8 +4,10 @@
 #include "engine/DayRules.h"
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
+#include "engine/PrayerNames.h"
 #include "lock/AppDelegate.h"
 #include "lock/Scheduler.h"
+#include "menubar/ShownTime.h"
 #include "records/Excused.h"
 
 #include <QTimeZone>
@@ -17,7 +19,7 @@ QString AppDelegate::nextLockText() {
     scheduleFor(now);
     const bool combining = combiningPrayers(now);
     const bool jumuah = today_.jumuah();
-    const QString pattern = QStringLiteral("h:mm AP");
+    const QString pattern = clockPattern();
     for (const PrayerSlot& slot : today_.prayerSlots()) {
         if (!slot.valid || ledger_.completedLocks().contains(slot.lockKey)) continue;
         if (combining && isCombinedAway(slot.name, jumuah)) continue;
@@ -27,22 +29,25 @@ QString AppDelegate::nextLockText() {
                        config_)
                 .start;
         if (start <= now) continue;
-        return QStringLiteral("Next lock: ") + lockName(slot.name, combining, jumuah) +
-               QStringLiteral(" at ") + formatLocal(start, pattern);
+        //: %1 is a prayer name, %2 the time the screens lock
+        return tr("Next lock: %1 at %2")
+            .arg(prayerLabel(lockName(slot.name, combining, jumuah)), formatLocal(start, pattern));
     }
     if (const auto fajr = today_.tomorrowsFajr(now, activeConfig()))
-        return QStringLiteral("Next lock: Fajr tomorrow at ") +
-               formatLocal(lockPeriod(*fajr, QStringLiteral("Fajr"), false, config_).start,
-                           pattern);
+        //: %1 is the prayer name Fajr, %2 the time the screens lock tomorrow
+        return tr("Next lock: %1 tomorrow at %2")
+            .arg(prayerLabel(QStringLiteral("Fajr")),
+                 formatLocal(lockPeriod(*fajr, QStringLiteral("Fajr"), false, config_).start,
+                             pattern));
     return QString();
 }
 
 void AppDelegate::announceRunning() {
     const QString next = nextLockText();
-    const QString text = QStringLiteral("Tarvanel lives in the tray: its menu has today's times "
-                                        "and Settings.") +
+    const QString text = tr("Tarvanel lives in the tray: its menu has today's times and "
+                            "Settings.") +
                          (next.isEmpty() ? QString() : QStringLiteral("\n") + next);
-    if (platform_.announce(QStringLiteral("Tarvanel is running"), text)) return;
+    if (platform_.announce(tr("Tarvanel is running"), text)) return;
     logLine(lcLock,
             QStringLiteral("Tarvanel: running in the background with no tray icon (no tray "
                            "host); open Tarvanel from the applications menu for its settings") +

@@ -2,24 +2,37 @@
 
 #include "engine/LocalTime.h"
 #include "engine/LockPeriod.h"
+#include "engine/PrayerNames.h"
 #include "engine/Quotes.h"
+#include "menubar/ShownTime.h"
 #include "records/History.h"
+
+#include <QCoreApplication>
 
 namespace tarvanel {
 
 void Reminders::showNudge(const QString& prayer, int minutesLeft, double offset) {
-    QString tail;
+    const QString name = prayerLabel(prayer);
+    QString text;
     if (offset >= 12)
-        tail = QStringLiteral(" minutes — begin wrapping up.");
+        //: %1 is a prayer name; the screens lock when the minutes run out
+        text = QCoreApplication::translate("Banner", "%1 in %Ln minutes — begin wrapping up.",
+                                           nullptr, minutesLeft);
     else if (offset >= 6)
-        tail = QStringLiteral(" minutes. Start finishing up.");
+        //: %1 is a prayer name; the screens lock when the minutes run out
+        text = QCoreApplication::translate("Banner", "%1 in %Ln minutes. Start finishing up.",
+                                           nullptr, minutesLeft);
     else if (offset >= 3)
-        tail = QStringLiteral(" minutes. Save your work now.");
+        //: %1 is a prayer name; the screens lock when the minutes run out
+        text = QCoreApplication::translate("Banner", "%1 in %Ln minutes. Save your work now.",
+                                           nullptr, minutesLeft);
     else
-        tail = QStringLiteral(" min — the screen is about to lock. Go make wudu.");
-    const QString message = QStringLiteral("🕌  ") + prayer + QStringLiteral(" in ") +
-                            QString::number(minutesLeft) + tail;
-    showBanner(message, pickQuote(prayer), offset <= 2 ? BannerStyle::urgent : BannerStyle::normal);
+        //: %1 is a prayer name. Wudu: the ablution before prayer
+        text = QCoreApplication::translate(
+            "Banner", "%1 in %Ln min — the screen is about to lock. Go make wudu.", nullptr,
+            minutesLeft);
+    showBanner(QStringLiteral("🕌  ") + text.arg(name), pickQuote(prayer),
+               offset <= 2 ? BannerStyle::urgent : BannerStyle::normal);
 }
 
 void Reminders::showBanner(const QString& message, const std::optional<Quote>& quote,
@@ -59,10 +72,11 @@ void Reminders::checkFajrEnd(const QDateTime& now, const QString& dayKey, const 
         due << key;
         if (at.msecsTo(now) >= 90000) continue;
         const qint64 n = now.msecsTo(*sunrise) / 60000 + 1;
-        showBanner(QStringLiteral("⚠️  Fajr ends at sunrise ") +
-                       formatLocal(*sunrise, QStringLiteral("h:mm AP")) +
-                       QStringLiteral(" — only ") + QString::number(n) +
-                       QStringLiteral(" min left!"),
+        //: %1 is the prayer name Fajr, %2 the time of sunrise
+        const QString text = QCoreApplication::translate(
+            "Banner", "%1 ends at sunrise %2 — only %Ln min left!", nullptr, int(n));
+        showBanner(QStringLiteral("⚠️  ") + text.arg(prayerLabel(QStringLiteral("Fajr")),
+                                                         formatLocal(*sunrise, clockPattern())),
                    pickQuote(QStringLiteral("Fajr")), BannerStyle::critical);
     }
 }
@@ -79,7 +93,10 @@ void Reminders::checkTarawih(const Config& cfg, const QDateTime& now, const QStr
     if (fired.contains(key)) return;
     due << key;
     if (at.msecsTo(now) < 90000)
-        showBanner(QStringLiteral("🌙  Tarawih tonight — don't miss it."),
+        //: %1 is the Ramadan night prayer, Tarawih
+        showBanner(QStringLiteral("🌙  ") +
+                       QCoreApplication::translate("Banner", "%1 tonight — don't miss it.")
+                           .arg(prayerLabel(QStringLiteral("Tarawih"))),
                    pickQuote(QStringLiteral("Tarawih")), BannerStyle::normal);
 }
 

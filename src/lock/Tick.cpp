@@ -4,6 +4,7 @@
 #include "base/StateFiles.h"
 #include "engine/DayRules.h"
 #include "engine/LockPeriod.h"
+#include "engine/PrayerNames.h"
 #include "integrations/FocusShortcuts.h"
 #include "integrations/PrayerCalendar.h"
 #include "lock/AppDelegate.h"
@@ -71,7 +72,8 @@ bool AppDelegate::holdUntilSetUp() {
         noticeConfigError();
         return false;
     }
-    setStatusTitle(QStringLiteral("🕌 Set up"), TitleColor::Orange);
+    //: Tray title while the program has no settings yet
+    setStatusTitle(QStringLiteral("🕌 ") + tr("Set up"), TitleColor::Orange);
     // Once per error: a user who closes the window is not pestered every second.
     if (neverValid && *neverValid != configErrorShown_) {
         configErrorShown_ = *neverValid;
@@ -103,7 +105,8 @@ bool AppDelegate::holdForNewVersion() {
 bool AppDelegate::holdForModes(const QDateTime& now) {
     if (const auto paused = modes_.pausedUntil(now)) {
         if (now < *paused) {
-            setStatusTitle(QStringLiteral("🕌 Paused"), TitleColor::Secondary);
+            //: Tray title while the locks are paused
+            setStatusTitle(QStringLiteral("🕌 ") + tr("Paused"), TitleColor::Secondary);
             return true;
         }
         modes_.setPausedUntil(std::nullopt);
@@ -119,8 +122,9 @@ bool AppDelegate::holdForCall(const QDateTime& now) {
     if (now < deferred_->since) deferred_->since = now; // the clock went back: wait afresh
     const qint64 waited = deferred_->since.msecsTo(now);
     if (callCheck && callCheck() && waited < minutesMs(config_.callGrace())) {
-        setStatusTitle(QStringLiteral("🕌 ") + deferred_->displayName +
-                           QStringLiteral(" after your call"),
+        //: Tray title: %1 is a prayer name; its lock waits for the end of a call
+        setStatusTitle(QStringLiteral("🕌 ") +
+                           tr("%1 after your call").arg(prayerLabel(deferred_->displayName)),
                        TitleColor::Orange);
         return true;
     }
@@ -145,9 +149,11 @@ void AppDelegate::lookAtPrayers(const QDateTime& now) {
         const DeferredLock lock{due->key, due->prayer, due->displayName, now};
         if (config_.callGrace() > 0 && callCheck && callCheck()) {
             setStage(LockStage::WaitingForCall, lock);
-            reminders_.showBanner(QStringLiteral("🕌  ") + due->displayName +
-                                      QStringLiteral(" locks when your call ends"),
-                                  std::nullopt, BannerStyle::urgent);
+            //: %1 is a prayer name: its lock waits for the end of a call
+            reminders_.showBanner(
+                QStringLiteral("🕌  ") +
+                    tr("%1 locks when your call ends").arg(prayerLabel(due->displayName)),
+                std::nullopt, BannerStyle::urgent);
             logLine(lcLock, QStringLiteral("Tarvanel: ") + due->displayName +
                                 QStringLiteral(" lock waiting for a call to end"));
         } else {
@@ -209,12 +215,14 @@ void AppDelegate::askStrict() {
     std::optional<bool> yes;
     if (askDidPray) yes = askDidPray(pending.displayName);
     if (!yes) {
-        const AlertAnswer answer = platform_.showAlert(AlertRequest{
-            QStringLiteral("Did you pray ") + pending.displayName + QStringLiteral("?"),
-            QStringLiteral("“Not yet” locks the screen again for 5 minutes."),
-            {QStringLiteral("Yes, I Prayed"), QStringLiteral("Not Yet")},
-            {},
-            false});
+        const AlertAnswer answer = platform_.showAlert(
+            AlertRequest{//: %1 is a prayer name
+                         tr("Did you pray %1?").arg(prayerLabel(pending.displayName)),
+                         //: “Not yet” is the second button of this question
+                         tr("“Not yet” locks the screen again for %Ln minutes.", nullptr, 5),
+                         {tr("Yes, I Prayed"), tr("Not Yet")},
+                         {},
+                         false});
         yes = answer.response == 1000;
     }
     if (*yes) {

@@ -6,9 +6,11 @@
 #include "engine/Schedule.h"
 #include "timetable/Timetable.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 #include <QTimeZone>
 #include <algorithm>
 
@@ -162,18 +164,44 @@ int streakDays(const QDateTime& now, double maxDays, const HistoryMap& history,
     return count;
 }
 
+namespace {
+// The prayer's first letter in the week's grid, in the user's language.
+struct Initial {
+    const char* prayer;
+    struct {
+        const char* source;
+        const char* comment;
+    } letter;
+};
+constexpr Initial kInitials[] = {
+    {"Fajr", QT_TRANSLATE_NOOP3("History", "F", "first letter of Fajr, in the week's grid")},
+    {"Dhuhr", QT_TRANSLATE_NOOP3("History", "D", "first letter of Dhuhr, in the week's grid")},
+    {"Asr", QT_TRANSLATE_NOOP3("History", "A", "first letter of Asr, in the week's grid")},
+    {"Maghrib", QT_TRANSLATE_NOOP3("History", "M", "first letter of Maghrib, in the week's grid")},
+    {"Isha", QT_TRANSLATE_NOOP3("History", "I", "first letter of Isha, in the week's grid")},
+};
+
+QString prayerInitial(const QString& prayer) {
+    for (const Initial& i : kInitials)
+        if (prayer == QLatin1String(i.prayer))
+            return QCoreApplication::translate("History", i.letter.source, i.letter.comment);
+    return prayer.left(1);
+}
+} // namespace
+
 QString gridMark(const QString& prayer, const QString& day, const HistoryMap& history,
                  const Marks::Map& marks, bool excused) {
     QString mark;
     if (marks.value(day).value(prayer) == QLatin1String("qada"))
-        mark = QStringLiteral("q");
+        //: In the week's grid: a prayer made up later (qada), one letter.
+        mark = QCoreApplication::translate("History", "q");
     else if (history.value(day).contains(prayer))
         mark = QStringLiteral("\u2713");
     else if (excused)
         mark = QStringLiteral("\u2013");
     else
         mark = QStringLiteral("\u00B7");
-    return prayer.left(1) + mark;
+    return prayerInitial(prayer) + mark;
 }
 
 QString historyCSV(const Config& cfg, const QDateTime& now) {
@@ -270,12 +298,14 @@ std::optional<WeeklyReport> weeklyReportDue(const Config& cfg, const QDateTime& 
     for (int i = 0; i < 7; ++i)
         kept += history.value(dayKey(now.addSecs(-86400LL * i))).size();
     const int streak = streakDays(now, cfg.excusedDays(), history, Excused::load());
-    return WeeklyReport{
-        key, QStringLiteral(
-                 "\U0001F4FF  This week: %1/35 prayers at the computer \u2022 streak %2 day%3")
-                 .arg(kept)
-                 .arg(streak)
-                 .arg(streak == 1 ? QString() : QStringLiteral("s"))};
+    const QLocale locale;
+    //: The weekly report: %1 of 35 prayers kept at the computer; %Ln days in a row kept.
+    return WeeklyReport{key, QStringLiteral("\U0001F4FF  ") +
+                                 QCoreApplication::translate(
+                                     "History",
+                                     "This week: %1/%2 prayers at the computer • streak %Ln days",
+                                     nullptr, streak)
+                                     .arg(locale.toString(qlonglong(kept)), locale.toString(35))};
 }
 
 } // namespace tarvanel

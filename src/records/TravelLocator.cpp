@@ -58,8 +58,10 @@ std::optional<TravelCoords> TravelLocator::parseReply(const QByteArray& body) {
     const QJsonValue lon = object.value(QLatin1String("longitude"));
     if (!lat.isDouble() || !lon.isDouble()) return std::nullopt;
     const QJsonValue city = object.value(QLatin1String("city"));
+    //: Stands for the place's name while travelling when the location service names no city.
     return TravelCoords{lat.toDouble(), lon.toDouble(),
-                        city.isString() ? city.toString() : QStringLiteral("Travelling")};
+                        city.isString() ? city.toString()
+                                        : QCoreApplication::translate("Travel", "Travelling")};
 }
 
 void TravelLocator::applyLocation(const TravelCoords& found) {

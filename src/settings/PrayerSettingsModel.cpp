@@ -133,8 +133,9 @@ bool PrayerSettingsModel::hasUnsavedEdits() const {
 
 bool PrayerSettingsModel::fileChanged(const Config& config) {
     if (hasUnsavedEdits()) {
-        setFileNotice(QStringLiteral("The settings file changed while this window was open. Save "
-                                     "keeps what you see here; Cancel keeps the file's settings."));
+        //: "Save" and "Cancel" are the window's buttons.
+        setFileNotice(tr("The settings file changed while this window was open. Save keeps what "
+                         "you see here; Cancel keeps the file's settings."));
         return false;
     }
     base_ = config;

@@ -199,7 +199,7 @@ private:
 
 // Locality (or name), area and country without repeats, joined with ", ".
 QString placeLine(const GeoPlace& place);
-// "Found " + placeLine + ".".
+// "Found <place>." in the user's language.
 QString foundMessage(const GeoPlace& place);
 // The places of `places` (best first) that share the first one's name, one per line of
 // placeLine; empty unless there are at least two.

@@ -45,7 +45,8 @@ QString placeLine(const GeoPlace& place) {
 }
 
 QString foundMessage(const GeoPlace& place) {
-    return QStringLiteral("Found ") + placeLine(place) + QLatin1Char('.');
+    //: After a city search: %1 is the place found ("Leeds, England, United Kingdom").
+    return PrayerSettingsModel::tr("Found %1.").arg(placeLine(place));
 }
 
 QList<GeoPlace> sameNamePlaces(const QList<GeoPlace>& places) {
@@ -66,7 +67,7 @@ void PrayerSettingsModel::search() {
     const QString text = query_.trimmed();
     if (text.isEmpty() || searching_) return;
     setSearching(true);
-    setSearchMessage(QStringLiteral("Searching…"));
+    setSearchMessage(tr("Searching…"));
     if (!services_.geocoder) {
         // No geocoder: answer as "nothing found", still later, like a real one.
         onMainThread(QPointer<PrayerSettingsModel>(this), [this, text] { answerSearch(text, {}); });
@@ -80,8 +81,9 @@ void PrayerSettingsModel::answerSearch(const QString& text, const QList<GeoPlace
     setSearching(false);
     if (places.isEmpty() || !places.first().hasLocation) {
         setPlaces({});
-        setSearchMessage(QStringLiteral("Couldn't find “") + text +
-                         QStringLiteral("”. Check the spelling, or enter coordinates below."));
+        //: %1 is the place the user searched for.
+        setSearchMessage(
+            tr("Couldn't find “%1”. Check the spelling, or enter coordinates below.").arg(text));
         return;
     }
     setPlaces(sameNamePlaces(places));
@@ -113,9 +115,14 @@ QString PrayerSettingsModel::suggestMethod(const QString& countryCode) {
     setMethodID(suggestion->methodId);
     setHanafi(suggestion->hanafi);
     suggested_ = std::pair{suggestion->methodId, suggestion->hanafi};
-    return QStringLiteral(" Suggested: ") + name +
-           (suggestion->hanafi ? QStringLiteral(", Hanafi Asr") : QString()) +
-           QStringLiteral(". Change it below if your mosque uses something else.");
+    if (suggestion->hanafi)
+        //: Follows "Found <place>." %1 is a calculation method ("Muslim World League").
+        return u' ' + tr("Suggested: %1, Hanafi Asr. Change it below if your mosque uses "
+                         "something else.")
+                          .arg(name);
+    //: Follows "Found <place>." %1 is a calculation method ("Muslim World League").
+    return u' ' +
+           tr("Suggested: %1. Change it below if your mosque uses something else.").arg(name);
 }
 
 void PrayerSettingsModel::usePlace(const GeoPlace& place) {
@@ -129,9 +136,10 @@ void PrayerSettingsModel::usePlace(const GeoPlace& place) {
         const QTimeZone here = services_.localZone();
         const QDateTime at = now();
         if (there.isValid() && there.offsetFromUtc(at) != here.offsetFromUtc(at)) {
-            message += QStringLiteral(" Heads up: your computer is set to ") +
-                       QString::fromUtf8(here.id()) + QStringLiteral(", not ") + place.timeZone +
-                       QStringLiteral(". Times follow your computer's clock.");
+            //: %1 and %2 are time zones such as "Europe/London" and "Asia/Karachi".
+            message += u' ' + tr("Heads up: your computer is set to %1, not %2. Times follow "
+                                 "your computer's clock.")
+                                  .arg(QString::fromUtf8(here.id()), place.timeZone);
         }
     }
     setSearchMessage(message);
@@ -185,7 +193,7 @@ void PrayerSettingsModel::calendarToggled(bool on) {
         return;
     }
     if (!services_.requestCalendarAccess) return;
-    setCalendarMessage(QStringLiteral("Asking for Calendar access…"));
+    setCalendarMessage(tr("Asking for Calendar access…"));
     services_.requestCalendarAccess(
         [this, weak = QPointer<PrayerSettingsModel>(this)](bool granted) {
             onMainThread(weak, [this, granted] {
@@ -194,10 +202,11 @@ void PrayerSettingsModel::calendarToggled(bool on) {
                     loadCalendars();
                 } else {
                     setCalendarSync(false);
-                    setCalendarMessage(QStringLiteral(
-                        "Calendar access is off. Tarvanel writes its events under "
-                        "~/.local/share/calendars: turn this on again and choose Allow, and check "
-                        "that you can write to that folder."));
+                    //: "Allow" is the button of the question asking for calendar access.
+                    setCalendarMessage(
+                        tr("Calendar access is off. Tarvanel writes its events under "
+                           "~/.local/share/calendars: turn this on again and choose Allow, and "
+                           "check that you can write to that folder."));
                 }
             });
         });
@@ -221,11 +230,11 @@ void PrayerSettingsModel::checkFocus() {
 void PrayerSettingsModel::testFocus() {
     if (!services_.runFocus) return;
     services_.runFocus(true);
-    setFocusMessage(
-        QStringLiteral("Focus on for 10 seconds… check that notifications stay quiet."));
+    //: Focus: the desktop's do-not-disturb mode, turned on while a lock lasts.
+    setFocusMessage(tr("Focus on for 10 seconds… check that notifications stay quiet."));
     QTimer::singleShot(10000, this, [this] {
         services_.runFocus(false);
-        setFocusMessage(QStringLiteral("Done. Focus is off again."));
+        setFocusMessage(tr("Done. Focus is off again."));
     });
 }
 
@@ -236,10 +245,14 @@ void PrayerSettingsModel::openShortcuts() {
 namespace {
 // “A”, or “A” and “B”.
 QString quotedNames(const QStringList& names) {
-    QStringList quoted;
-    for (const QString& name : names)
-        quoted << QStringLiteral("“") + name + QStringLiteral("”");
-    return quoted.join(QStringLiteral(" and "));
+    QString text;
+    for (const QString& name : names) {
+        //: A shortcut's name in quotation marks; use the language's own marks.
+        const QString quoted = PrayerSettingsModel::tr("“%1”").arg(name);
+        //: Two names in a list, each already quoted: “A” and “B”.
+        text = text.isEmpty() ? quoted : PrayerSettingsModel::tr("%1 and %2").arg(text, quoted);
+    }
+    return text;
 }
 } // namespace
 
@@ -250,25 +263,28 @@ void PrayerSettingsModel::writeFocusScripts(const QString& desktop) {
         services_.focusHandWritten ? services_.focusHandWritten() : QStringList();
     if (!own.isEmpty()) {
         QPointer<PrayerSettingsModel> weak(this);
-        const bool replace =
-            services_.confirmReplace &&
-            services_.confirmReplace(QStringLiteral("Replace your own ") + quotedNames(own) +
-                                         QStringLiteral("?"),
-                                     QStringLiteral("Tarvanel's pair for ") + desktop +
-                                         QStringLiteral(" takes the place of what you wrote."));
+        //: %1 is one or two shortcut names the user wrote, already quoted.
+        const QString question = tr("Replace your own %1?").arg(quotedNames(own));
+        //: %1 is a desktop such as "GNOME" or "XFCE".
+        const QString detail =
+            tr("Tarvanel's pair for %1 takes the place of what you wrote.").arg(desktop);
+        const bool replace = services_.confirmReplace && services_.confirmReplace(question, detail);
         if (!weak) return; // the window went away while the question was open
         if (!replace) {
-            setFocusMessage(QStringLiteral("Kept your own ") + quotedNames(own) +
-                            QStringLiteral("."));
+            //: %1 is one or two shortcut names the user wrote, already quoted.
+            setFocusMessage(tr("Kept your own %1.").arg(quotedNames(own)));
             return;
         }
     }
     const QString pair = quotedNames({services_.focusOnName, services_.focusOffName});
-    setFocusMessage(services_.writeFocus(desktop)
-                        ? QStringLiteral("Wrote ") + pair + QStringLiteral(" for ") + desktop +
-                              QStringLiteral(".")
-                        : QStringLiteral("Couldn't write ") + pair +
-                              QStringLiteral(". The log in ~/.tarvanel/log.txt says why."));
+    if (services_.writeFocus(desktop))
+        //: %1 is the two quoted shortcut names (“Tarvanel Focus On” and “Tarvanel Focus Off”),
+        //: %2 a desktop such as "GNOME".
+        setFocusMessage(tr("Wrote %1 for %2.").arg(pair, desktop));
+    else
+        //: %1 is the two quoted shortcut names.
+        setFocusMessage(
+            tr("Couldn't write %1. The log in ~/.tarvanel/log.txt says why.").arg(pair));
     checkFocus();
 }
 
@@ -301,10 +317,11 @@ void PrayerSettingsModel::confirmGuardian() {
         Guardian::save(*guardianDraft_);
         setGuardianDraft(std::nullopt);
         setGuardianSet(true);
-        setGuardianMessage(QStringLiteral("Guardian code is on."));
+        //: The guardian: the person whose six-digit code ends a lock early.
+        setGuardianMessage(tr("Guardian code is on."));
     } else {
-        setGuardianMessage(QStringLiteral(
-            "That code doesn't match. Check both clocks are right and try the newest code."));
+        setGuardianMessage(
+            tr("That code doesn't match. Check both clocks are right and try the newest code."));
     }
 }
 

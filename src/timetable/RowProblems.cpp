@@ -1,6 +1,8 @@
 #include "timetable/RowProblems.h"
 
+#include <QCoreApplication>
 #include <QHash>
+#include <QLocale>
 #include <algorithm>
 
 namespace tarvanel::RowProblems {
@@ -10,55 +12,69 @@ namespace {
 // "a", "a and b", "a, b and c".
 QString joinAnd(const QStringList& parts) {
     if (parts.size() < 2) return parts.value(0);
-    return QStringList(parts.mid(0, parts.size() - 1)).join(QStringLiteral(", ")) +
-           QStringLiteral(" and ") + parts.last();
+    QString head = parts.first();
+    for (qsizetype i = 1; i + 1 < parts.size(); ++i)
+        //: Items of a list before its last: "4, 12" in "4, 12 and 19 March".
+        head = QCoreApplication::translate("RowProblems", "%1, %2").arg(head, parts[i]);
+    //: The last item of a list: "4 and 12", "4, 12 and 19 March".
+    return QCoreApplication::translate("RowProblems", "%1 and %2").arg(head, parts.last());
 }
 
 // "4, 12 and 19 March and 1 April", then rows without a date by their line: "line 7".
 QString names(const QList<RowProblem>& problems, const QStringList& monthNames) {
+    const QLocale locale;
     QList<std::pair<int, QStringList>> months; // year × 12 + month, in order of appearance
     QStringList lines;
     for (const RowProblem& p : problems) {
         if (!p.date) {
-            lines << QStringLiteral("line %1").arg(p.line + 1);
+            //: A row of the pasted or read timetable text, counted from 1.
+            lines << QCoreApplication::translate("RowProblems", "line %1")
+                         .arg(locale.toString(p.line + 1));
             continue;
         }
         const int key = p.date->year() * 12 + p.date->month() - 1;
         auto it = std::find_if(months.begin(), months.end(),
                                [key](const auto& m) { return m.first == key; });
         if (it == months.end()) it = months.insert(months.end(), {key, {}});
-        it->second << QString::number(p.date->day());
+        it->second << locale.toString(p.date->day());
     }
     QStringList groups;
     for (const auto& [key, days] : months)
-        groups << joinAnd(days) + u' ' + monthNames.value(key % 12);
+        //: Days of one month: %1 is one or more day numbers ("4, 12 and 19"), %2 the month.
+        groups << QCoreApplication::translate("RowProblems", "%1 %2")
+                      .arg(joinAnd(days), monthNames.value(key % 12));
     return joinAnd(groups + lines);
 }
 
+// Each reason one sentence part; the count decides the verb's number.
 QString phrase(RowProblem::Reason reason, const QList<RowProblem>& problems, int month,
                const QStringList& monthNames) {
-    const bool one = problems.size() == 1;
+    const int n = int(problems.size());
     switch (reason) {
     case RowProblem::MissingTime:
-        return names(problems, monthNames) +
-               (one ? QStringLiteral(" is") : QStringLiteral(" are")) +
-               QStringLiteral(" missing a time in a chosen column");
+        //: %1 names the rows: days ("4, 12 and 19 March") or lines ("line 7"); %n counts them.
+        return QCoreApplication::translate("RowProblems",
+                                           "%1 are missing a time in a chosen column", nullptr, n)
+            .arg(names(problems, monthNames));
     case RowProblem::NoDay:
-        return names(problems, monthNames) +
-               (one ? QStringLiteral(" has") : QStringLiteral(" have")) +
-               QStringLiteral(" no day number or date");
+        //: %1 names the rows ("line 7 and line 9"); %n counts them.
+        return QCoreApplication::translate("RowProblems", "%1 have no day number or date", nullptr,
+                                           n)
+            .arg(names(problems, monthNames));
     case RowProblem::NotInMonth: {
         QStringList days;
         for (const RowProblem& p : problems)
-            days << QString::number(p.day);
-        return (one ? QStringLiteral("day ") : QStringLiteral("days ")) + joinAnd(days) +
-               (one ? QStringLiteral(" is") : QStringLiteral(" are")) + QStringLiteral(" not in ") +
-               monthNames.value(month - 1);
+            days << QLocale().toString(p.day);
+        //: %1 is one or more day numbers ("30 and 31"), %2 a month ("February"); %n counts
+        //: the days.
+        return QCoreApplication::translate("RowProblems", "days %1 are not in %2", nullptr, n)
+            .arg(joinAnd(days), monthNames.value(month - 1));
     }
     case RowProblem::Repeated:
-        return names(problems, monthNames) +
-               (one ? QStringLiteral(" appears twice (the later row is used)")
-                    : QStringLiteral(" appear twice (the later rows are used)"));
+        //: %1 names the rows ("4 and 5 March"); %n counts them.
+        return QCoreApplication::translate("RowProblems",
+                                           "%1 appear twice (the later rows are used)", nullptr, n)
+            .arg(names(problems, monthNames));
     }
     return {};
 }
@@ -102,9 +118,13 @@ QString describe(const QList<RowProblem>& problems, int month, const QStringList
                      [reason](const RowProblem& p) { return p.reason == reason; });
         if (!these.isEmpty()) parts << phrase(reason, these, month, monthNames);
     }
-    const qsizetype n = problems.size();
-    return QStringLiteral("%1 row%2 can't be used: ").arg(n).arg(n == 1 ? "" : "s") +
-           parts.join(QStringLiteral("; ")) + u'.';
+    //: Separates the reasons in the sentence below: "… in a chosen column; line 7 has …".
+    const QString separator = QCoreApplication::translate("RowProblems", "; ");
+    //: %Ln counts the rows, %1 gives the reasons ("4 March is missing a time in a chosen
+    //: column").
+    return QCoreApplication::translate("RowProblems", "%Ln rows can't be used: %1.", nullptr,
+                                       int(problems.size()))
+        .arg(parts.join(separator));
 }
 
 } // namespace tarvanel::RowProblems

@@ -3,6 +3,7 @@
 #include "base/Store.h"
 #include "engine/LocalTime.h"
 
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QLocale>
 #include <QStringList>
@@ -57,10 +58,8 @@ std::optional<QString> summary() {
     if (!first || !last) return std::nullopt;
     const QLocale locale;
     const QString pattern = QStringLiteral("d MMM yyyy");
-    const qsizetype n = table.size();
-    return QStringLiteral("%1 day%2, %3 \u2013 %4")
-        .arg(n)
-        .arg(n == 1 ? QString() : QStringLiteral("s"))
+    //: The imported timetable: %Ln days from %1 to %2 ("30 days, 1 Mar 2025 – 30 Mar 2025").
+    return QCoreApplication::translate("Timetable", "%Ln days, %1 – %2", nullptr, int(table.size()))
         .arg(locale.toString(*first, pattern), locale.toString(*last, pattern));
 }
 

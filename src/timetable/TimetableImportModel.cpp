@@ -38,7 +38,8 @@ bool isBlank(const QString& text) {
 }
 
 QString couldNotRead(const QString& fileName) {
-    return QStringLiteral("Couldn't read any text in ") + fileName + QLatin1Char('.');
+    //: %1 is a file's name.
+    return TimetableImportModel::tr("Couldn't read any text in %1.").arg(fileName);
 }
 
 std::optional<QString> decodeText(const QByteArray& bytes) {
@@ -69,7 +70,7 @@ const QStringList& TimetableImportModel::prayers() {
 }
 
 QStringList TimetableImportModel::monthNames() {
-    const QLocale locale = QLocale::system();
+    const QLocale locale;
     QStringList names;
     for (int m = 1; m <= 12; ++m) {
         QString name = locale.standaloneMonthName(m, QLocale::LongFormat);
@@ -88,11 +89,14 @@ std::optional<MonthAndYear> TimetableImportModel::monthAndYear(const QString& te
     qsizetype bestAt = -1;
     qsizetype bestLength = 0;
     int bestMonth = 0;
+    // Sheets are often in English whatever the user's language, so English names count too.
+    const QLocale english = QLocale::c();
     for (int m = 1; m <= 12; ++m) {
         const QString full = names[m - 1].toLower();
-        for (const QString& form : {full, full.left(3)}) {
+        const QString inEnglish = english.standaloneMonthName(m, QLocale::LongFormat).toLower();
+        for (const QString& form : {full, full.left(3), inEnglish, inEnglish.left(3)}) {
             if (form.isEmpty()) continue;
-            const bool shortForm = form.size() < full.size();
+            const bool shortForm = form.size() == 3 && form != full && form != inEnglish;
             for (qsizetype at = haystack.indexOf(form); at >= 0;
                  at = haystack.indexOf(form, at + 1)) {
                 if (letterAt(at - 1) || (shortForm && letterAt(at + form.size()))) continue;
@@ -162,13 +166,11 @@ void TimetableImportModel::reparse() {
     }
 
     if (rows_.isEmpty()) {
-        status_ =
-            isBlank(text_) ? QString() : QStringLiteral("No rows with prayer times found yet.");
+        status_ = isBlank(text_) ? QString() : tr("No rows with prayer times found yet.");
     } else {
-        status_ = QStringLiteral("Found %1 row%2 with %3 times each.")
-                      .arg(rows_.size())
-                      .arg(rows_.size() == 1 ? "" : "s")
-                      .arg(columnCount_);
+        //: %Ln is the number of rows read from a timetable, %1 the number of times in each.
+        status_ = tr("Found %Ln rows with %1 times each.", nullptr, int(rows_.size()))
+                      .arg(QLocale().toString(columnCount_));
     }
     if (!pagesNote_.isEmpty()) status_ += u' ' + pagesNote_;
     emit changed();
@@ -267,7 +269,8 @@ QList<std::pair<QString, QMap<QString, QString>>> TimetableImportModel::preview(
 }
 
 QString TimetableImportModel::columnLabel(int i) const {
-    QString label = QStringLiteral("Column %1").arg(i + 1);
+    //: A column of the timetable being imported, counted from 1.
+    QString label = tr("Column %1").arg(QLocale().toString(i + 1));
     const auto typical = std::find_if(rows_.begin(), rows_.end(), [this](const ParsedRow& row) {
         return row.times.size() == columnCount_;
     });
@@ -292,12 +295,15 @@ void TimetableImportModel::loadTextFile(const QString& path) {
 
 void TimetableImportModel::imageReadStarted(const QString& fileName) {
     ++readsUnderWay_;
-    setStatus(QStringLiteral("Reading ") + fileName + QStringLiteral("\u2026"));
+    //: %1 is a file's name.
+    setStatus(tr("Reading %1…").arg(fileName));
 }
 
 void TimetableImportModel::imageReadProgress(int page, int pageCount) {
     if (readsUnderWay_ > 0 && pageCount > 1)
-        setStatus(QStringLiteral("Reading page %1 of %2\u2026").arg(page).arg(pageCount));
+        //: While a file of several pages is read: %1 is the page, %2 the number of pages.
+        setStatus(tr("Reading page %1 of %2…")
+                      .arg(QLocale().toString(page), QLocale().toString(pageCount)));
 }
 
 void TimetableImportModel::imageReadFinished(const QString& fileName, const SheetReading& reading) {
@@ -308,11 +314,12 @@ void TimetableImportModel::imageReadFinished(const QString& fileName, const Shee
     }
     pagesNote_.clear();
     if (reading.pageCount > reading.pagesRead)
-        pagesNote_ = QStringLiteral("Read the first %1 of %2 pages.")
-                         .arg(reading.pagesRead)
-                         .arg(reading.pageCount);
+        //: %1 is the number of pages read, %Ln the number of pages in the file.
+        pagesNote_ = tr("Read the first %1 of %Ln pages.", nullptr, reading.pageCount)
+                         .arg(QLocale().toString(reading.pagesRead));
     else if (reading.pagesRead > 1)
-        pagesNote_ = QStringLiteral("Read %1 pages.").arg(reading.pagesRead);
+        //: After a file of several pages was read whole.
+        pagesNote_ = tr("Read %Ln pages.", nullptr, reading.pagesRead);
     assignText(reading.lines.join(QLatin1Char('\n')), reading.doubtful);
 }
 

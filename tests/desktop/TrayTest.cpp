@@ -1,7 +1,7 @@
 // The tray icon's picture and the menu built from the core's model.
-#include "support/TestEnv.h"
 #include "desktop/Look.h"
 #include "desktop/TrayIcon.h"
+#include "support/TestEnv.h"
 
 #include <QAction>
 #include <QMenu>
@@ -37,6 +37,8 @@ TEST(TrayIcon, MinutesFromAShortCountdownPaintedInTheTitlesColourReadableOnAnyPa
         {"🕌 Dhuhr in 23m", "23"},
         {"🌙 Iftar in 0m", "0"},
         {"🕌 Dhuhr & Asr in 145m", "145"},
+        {"🕌 الظهر بعد ٢٣ د", "٢٣"},
+        {"🕌 Öğle 1 sa 12 dk", {}},
         {"🕌 Jumu'ah in 1h 12m", {}},
         {"🕌 Fajr at 5:12 AM", {}},
         {"🕌 Paused", {}},

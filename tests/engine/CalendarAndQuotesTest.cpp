@@ -3,6 +3,7 @@
 #include "engine/LocalTime.h"
 #include "engine/Quotes.h"
 #include "support/TestEnv.h"
+#include <QLocale>
 #include <QTimeZone>
 
 using namespace tarvanel;
@@ -14,11 +15,15 @@ QDateTime noonOf(int y, int m, int d) {
 }
 } // namespace
 
-TEST_F(HijriTest, UmmAlQuraDatesAndRamadanInEnglishOnTheLocalDateWhateverTheLanguage) {
-    qputenv("LC_ALL", "ar_SA.UTF-8"); // an Arabic-speaking user still gets English, Western digits
-    qputenv("LANG", "ar_SA.UTF-8");
+TEST_F(HijriTest, UmmAlQuraDatesOnTheLocalDateInTheLanguageEnglishAsItWasUnderEnglishOrC) {
+    // The language's month names and digits; the era comes from the catalogue ("AH" without).
+    QLocale::setDefault(QLocale(QStringLiteral("ar_SA")));
+    EXPECT_EQ(hijriString(noonOf(2025, 3, 14)), "\u0661\u0664 \u0631\u0645\u0636\u0627\u0646 "
+                                                "\u0661\u0664\u0664\u0666 AH");
+    EXPECT_EQ(hijriDate(noonOf(2025, 3, 14)).day, 14); // the numbers stay numbers
+    QLocale::setDefault(QLocale(QStringLiteral("en_IN")));
     EXPECT_EQ(hijriString(noonOf(2025, 3, 14)), "14 Ramadan 1446 AH");
-    qputenv("LC_ALL", "C");
+    QLocale::setDefault(QLocale::c());
     EXPECT_EQ(hijriString(noonOf(2026, 2, 18)), "1 Ramadan 1447 AH");
     EXPECT_EQ(hijriString(noonOf(2026, 3, 20)), "1 Shawwal 1447 AH");
     EXPECT_TRUE(hijriString(noonOf(2026, 1, 30)).contains(QString::fromUtf8("Sha\u02BBban 1447")));

@@ -15,7 +15,7 @@ from pathlib import Path
 
 root = Path(sys.argv[1])
 lupdate = sys.argv[2] if len(sys.argv) > 2 else "/usr/lib/qt6/bin/lupdate"
-placeholder = re.compile(r"%(?:n|L?[1-9])")
+placeholder = re.compile(r"%L?(?:n|[1-9])")
 
 
 def messages(path):
@@ -47,7 +47,8 @@ def check_catalogue(path):
                 faults.append(f"{where}: empty translation")
             got = sorted(set(placeholder.findall(form)))
             # A language with one form for one may write "one" instead of %n in that form.
-            if got != want and not (m.get("numerus") == "yes" and set(got) == set(want) - {"%n"}):
+            counted = {"%n", "%Ln"}
+            if got != want and not (m.get("numerus") == "yes" and set(got) == set(want) - counted):
                 faults.append(f"{where}: placeholders {got} in {form!r}, source has {want}")
     return faults
 
@@ -60,7 +61,7 @@ def check_current(ts_files):
             copy = Path(tmp) / ts.name
             shutil.copy(ts, copy)
             code = ET.parse(ts).getroot().get("language")
-            args = [lupdate, "-locations", "none", "-no-obsolete", "-no-ui-lines", "-extensions",
+            args = [lupdate, "-I", str(root / "src"), "-locations", "none", "-no-obsolete", "-no-ui-lines", "-extensions",
                     "cpp,h", "-silent", "-source-language", "en", "-target-language", code]
             if code == "en":
                 args.append("-pluralonly")

@@ -3,6 +3,7 @@
 #include "desktop/gnome/GnomeShellLock.h"
 #include "desktop/settings/SectionKit.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QPushButton>
 #include <QTimer>
@@ -19,10 +20,14 @@ QWidget* gnomeExtensionSwitch() {
         status->setAccessibleName(text);
     };
     const bool on = GnomeShellLock::available();
-    say(on ? QStringLiteral("The GNOME Shell extension is on: a lock covers every screen.")
-           : QStringLiteral("The GNOME Shell extension is off, so GNOME's shortcuts still "
-                            "work during a lock."));
-    auto* enable = button(QStringLiteral("Enable the GNOME Shell extension"), {});
+    say(on ? QCoreApplication::translate("Settings",
+                                         "The GNOME Shell extension is on: a lock covers every "
+                                         "screen.")
+           : QCoreApplication::translate("Settings",
+                                         "The GNOME Shell extension is off, so GNOME's shortcuts "
+                                         "still work during a lock."));
+    auto* enable =
+        button(QCoreApplication::translate("Settings", "Enable the GNOME Shell extension"), {});
     enable->setVisible(!on);
     QObject::connect(enable, &QPushButton::clicked, status, [status, enable, say] {
         enable->setEnabled(false);
@@ -36,8 +41,11 @@ QWidget* gnomeExtensionSwitch() {
             QTimer::singleShot(1500, enable, [enable, say] {
                 const bool loaded = GnomeShellLock::available();
                 enable->setVisible(!loaded);
-                say(loaded ? QStringLiteral("The GNOME Shell extension is on.")
-                           : QStringLiteral("Log out and back in to load it."));
+                say(loaded ? QCoreApplication::translate("Settings",
+                                                         "The GNOME Shell extension is on.")
+                           //: it: the GNOME Shell extension just enabled
+                           : QCoreApplication::translate("Settings",
+                                                         "Log out and back in to load it."));
             });
         };
         QObject::connect(run, &QProcess::errorOccurred, status,

@@ -1,8 +1,10 @@
 // 2. Calculation: the method, custom angles and the Asr school.
 #include "desktop/settings/SectionKit.h"
 #include "engine/CalcMethods.h"
+#include "engine/PrayerNames.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 
@@ -31,21 +33,28 @@ QDoubleSpinBox* angleStepper(SectionContext& c, const QString& label, Field fiel
 } // namespace
 
 QWidget* makeCalculationSection(SectionContext& c) {
-    auto* s = new Section(QStringLiteral("Calculation"));
+    auto* s = new Section(QCoreApplication::translate("Settings", "Calculation"));
     PrayerSettingsModel* m = &c.model;
 
     auto* method = new QComboBox;
     for (const CalcMethod& row : calcMethods())
         method->addItem(row.name, row.id);
-    method->addItem(QStringLiteral("Custom angles"), QStringLiteral("Custom"));
-    s->addRow(QStringLiteral("Method"), method);
+    //: The calculation method of one's own: the sun's angles below the horizon for Fajr and Isha
+    method->addItem(QCoreApplication::translate("Settings", "Custom angles"),
+                    QStringLiteral("Custom"));
+    //: The calculation method of prayer times
+    s->addRow(QCoreApplication::translate("Settings", "Method"), method);
 
-    auto* fajr = angleStepper(c, QStringLiteral("Fajr angle"), Field::fajrAngle,
-                              &PrayerSettingsModel::fajrAngle, &PrayerSettingsModel::setFajrAngle);
-    auto* isha = angleStepper(c, QStringLiteral("Isha angle"), Field::ishaAngle,
-                              &PrayerSettingsModel::ishaAngle, &PrayerSettingsModel::setIshaAngle);
-    s->addRow(QStringLiteral("Fajr angle"), fajr);
-    s->addRow(QStringLiteral("Isha angle"), isha);
+    //: The sun's angle below the horizon at which Fajr starts
+    const QString fajrLabel = QCoreApplication::translate("Settings", "Fajr angle");
+    //: The sun's angle below the horizon at which Isha starts
+    const QString ishaLabel = QCoreApplication::translate("Settings", "Isha angle");
+    auto* fajr = angleStepper(c, fajrLabel, Field::fajrAngle, &PrayerSettingsModel::fajrAngle,
+                              &PrayerSettingsModel::setFajrAngle);
+    auto* isha = angleStepper(c, ishaLabel, Field::ishaAngle, &PrayerSettingsModel::ishaAngle,
+                              &PrayerSettingsModel::setIshaAngle);
+    s->addRow(fajrLabel, fajr);
+    s->addRow(ishaLabel, isha);
 
     watch(*m, method, {Field::methodID}, [m, method, fajr, isha, s] {
         int i = method->findData(m->methodID());
@@ -59,9 +68,12 @@ QWidget* makeCalculationSection(SectionContext& c) {
                      [m, method](int i) { m->setMethodID(method->itemData(i).toString()); });
 
     auto* asr = new QComboBox;
-    asr->addItem(QStringLiteral("Standard (Shafi'i, Maliki, Hanbali)"));
-    asr->addItem(QStringLiteral("Hanafi"));
-    s->addRow(QStringLiteral("Asr"), asr);
+    //: The way of reckoning the Asr time shared by the Shafi'i, Maliki and Hanbali schools
+    asr->addItem(QCoreApplication::translate("Settings", "Standard (Shafi'i, Maliki, Hanbali)"));
+    //: The Hanafi school's later Asr time
+    asr->addItem(QCoreApplication::translate("Settings", "Hanafi"));
+    s->addRow(prayerLabel(QStringLiteral("Asr")), asr);
+
     watch(*m, asr, {Field::hanafi}, [m, asr] { asr->setCurrentIndex(m->hanafi() ? 1 : 0); });
     QObject::connect(asr, &QComboBox::activated, m, [m](int i) { m->setHanafi(i == 1); });
     return s;

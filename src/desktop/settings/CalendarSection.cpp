@@ -3,19 +3,23 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 
 namespace tarvanel {
 
 QWidget* makeCalendarSection(SectionContext& c) {
     auto* s = new Section(
-        QStringLiteral("Calendar"),
-        QStringLiteral("Adds each lock as a Busy event for the next 7 days, so colleagues see "
-                       "you're busy and don't book meetings over salah. Pick your work calendar. "
-                       "Turning this off removes the events.") +
-            QStringLiteral("\nOn Linux the calendars are the folders under "
-                           "~/.local/share/calendars (khal and vdirsyncer use them too)."));
+        QCoreApplication::translate("Settings", "Calendar"),
+        //: Busy is how the event shows in others' calendars; khal and vdirsyncer are programs
+        QCoreApplication::translate(
+            "Settings",
+            "Adds each lock as a Busy event for the next 7 days, so colleagues see you're busy "
+            "and don't book meetings over salah. Pick your work calendar. Turning this off "
+            "removes the events.\nOn Linux the calendars are the folders under "
+            "~/.local/share/calendars (khal and vdirsyncer use them too)."));
     PrayerSettingsModel* m = &c.model;
-    auto* toggle = new QCheckBox(QStringLiteral("Block prayer times in my calendar"));
+    auto* toggle =
+        new QCheckBox(QCoreApplication::translate("Settings", "Block prayer times in my calendar"));
     toggle->setAccessibleName(toggle->text());
     watch(*m, toggle, {Field::calendarSync},
           [m, toggle] { toggle->setChecked(m->calendarSync()); });
@@ -26,12 +30,14 @@ QWidget* makeCalendarSection(SectionContext& c) {
     auto* picker = new QComboBox;
     watch(*m, picker, {Field::calendars, Field::calendarID}, [m, picker] {
         picker->clear();
-        picker->addItem(QStringLiteral("None"), QString());
-        for (const CalendarChoice& cal : m->calendars())
-            picker->addItem(cal.source.isEmpty()
-                                ? cal.title
-                                : cal.title + QStringLiteral(" (") + cal.source + QLatin1Char(')'),
-                            cal.id);
+        //: No calendar chosen
+        picker->addItem(QCoreApplication::translate("Settings", "None"), QString());
+        for (const CalendarChoice& cal : m->calendars()) {
+            //: A calendar in the list: %1 its name, %2 the account or folder it belongs to
+            const QString named =
+                QCoreApplication::translate("Settings", "%1 (%2)").arg(cal.title, cal.source);
+            picker->addItem(cal.source.isEmpty() ? cal.title : named, cal.id);
+        }
         const int i = picker->findData(m->calendarID());
         if (i < 0 && !m->calendarID().isEmpty())
             picker->addItem(m->calendarID(), m->calendarID()); // not offered (yet): keep it
@@ -39,7 +45,8 @@ QWidget* makeCalendarSection(SectionContext& c) {
     });
     QObject::connect(picker, &QComboBox::activated, m,
                      [m, picker](int i) { m->setCalendarID(picker->itemData(i).toString()); });
-    s->addRow(QStringLiteral("Calendar"), picker);
+    s->addRow(QCoreApplication::translate("Settings", "Calendar"), picker);
+
     s->addRow(statusLabel(c, Field::calendarMessage, &PrayerSettingsModel::calendarMessage));
     return s;
 }

@@ -33,16 +33,18 @@ GuardianSetup::GuardianSetup(PrayerSettingsModel& model, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     qr_ = new QLabel(this);
-    qr_->setAccessibleName(QStringLiteral("QR code"));
+    qr_->setAccessibleName(tr("QR code"));
     column->addWidget(qr_, 0, Qt::AlignHCenter);
-    column->addWidget(wrapped(
-        QStringLiteral("Ask the person you trust to scan this with an authenticator app (Google "
-                       "Authenticator, Microsoft Authenticator, Authy, or Apple's Passwords "
-                       "app), or to type the key:"),
-        this));
+    //: The apps are proper names; Apple's app is called Passwords
+    column->addWidget(
+        wrapped(tr("Ask the person you trust to scan this with an authenticator app (Google "
+                   "Authenticator, Microsoft Authenticator, Authy, or Apple's Passwords app), or "
+                   "to type the key:"),
+                this));
     key_ = new QLineEdit(this);
     key_->setReadOnly(true);
-    key_->setAccessibleName(QStringLiteral("Key"));
+    //: The secret key of the guardian's code, shown to be typed into an app
+    key_->setAccessibleName(tr("Key"));
     QFont mono(QStringLiteral("monospace"));
     mono.setStyleHint(QFont::Monospace);
     mono.setPointSizeF(key_->font().pointSizeF() * 1.2);
@@ -50,18 +52,21 @@ GuardianSetup::GuardianSetup(PrayerSettingsModel& model, QWidget* parent)
     column->addWidget(key_);
     auto* form = new QFormLayout;
     code_ = new QLineEdit(this);
-    code_->setPlaceholderText(QStringLiteral("Code from their app"));
-    code_->setAccessibleName(QStringLiteral("Code"));
+    code_->setPlaceholderText(tr("Code from their app"));
+    //: The six-digit code the guardian's app shows
+    const QString codeText = tr("Code");
+    code_->setAccessibleName(codeText);
     code_->setMaxLength(16);
-    auto* codeLabel = new QLabel(QStringLiteral("Code"), this);
+    auto* codeLabel = new QLabel(codeText, this);
     codeLabel->setBuddy(code_);
     form->addRow(codeLabel, code_);
     column->addLayout(form);
     PrayerSettingsModel* m = &model_;
     connect(code_, &QLineEdit::textChanged, m, [m](const QString& t) { m->setGuardianCode(t); });
     connect(code_, &QLineEdit::returnPressed, m, [m] { m->confirmGuardian(); });
-    column->addWidget(hbox({button(QStringLiteral("Confirm"), [m] { m->confirmGuardian(); }),
-                            button(QStringLiteral("Cancel"), [m] { m->cancelGuardian(); })}));
+    column->addWidget(hbox({button(tr("Confirm"), [m] { m->confirmGuardian(); }),
+                            button(tr("Cancel"), [m] { m->cancelGuardian(); })}));
+
     watch(model_, this, {Field::guardianDraft, Field::guardianCode}, [this] { refresh(); });
 }
 

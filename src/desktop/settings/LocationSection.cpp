@@ -1,9 +1,11 @@
 // 1. Location: search a city, or type coordinates.
 #include "desktop/settings/SectionKit.h"
 
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTimeZone>
@@ -13,6 +15,13 @@ namespace tarvanel {
 
 namespace {
 
+// A coordinate as the language writes it (Arabic-Indic digits, a decimal comma) or with a point.
+double readCoordinate(const QString& text, bool* ok) {
+    const QString trimmed = text.trimmed();
+    const double v = QLocale().toDouble(trimmed, ok);
+    return *ok ? v : trimmed.toDouble(ok);
+}
+
 QLineEdit* coordinateField(SectionContext& c, const QString& label, Field field,
                            const double& (PrayerSettingsModel::*get)() const,
                            void (PrayerSettingsModel::*set)(const double&), double limit) {
@@ -21,12 +30,12 @@ QLineEdit* coordinateField(SectionContext& c, const QString& label, Field field,
     PrayerSettingsModel* m = &c.model;
     watch(*m, edit, {field}, [m, edit, get] {
         bool ok = false;
-        const double shown = edit->text().toDouble(&ok);
-        if (!ok || shown != (m->*get)()) edit->setText(QString::number((m->*get)(), 'f', 4));
+        const double shown = readCoordinate(edit->text(), &ok);
+        if (!ok || shown != (m->*get)()) edit->setText(QLocale().toString((m->*get)(), 'f', 4));
     });
     QObject::connect(edit, &QLineEdit::textChanged, m, [m, set, limit](const QString& text) {
         bool ok = false;
-        const double v = text.trimmed().toDouble(&ok);
+        const double v = readCoordinate(text, &ok);
         if (ok && std::abs(v) <= limit) (m->*set)(v);
     });
     return edit;
@@ -35,7 +44,7 @@ QLineEdit* coordinateField(SectionContext& c, const QString& label, Field field,
 // Several places of the searched name: one line each (name, region, country), the one in use
 // selected. Arrow keys or a click use another at once; a screen reader reads each line.
 void addPlaceChoice(Section& s, PrayerSettingsModel& model) {
-    const QString label = QStringLiteral("Places with this name");
+    const QString label = QCoreApplication::translate("Settings", "Places with this name");
     auto* list = new QListWidget;
     s.addRow(label, list);
     auto* caption = s.form()->labelForField(list);
@@ -60,42 +69,55 @@ void addPlaceChoice(Section& s, PrayerSettingsModel& model) {
 } // namespace
 
 QWidget* makeLocationSection(SectionContext& c) {
-    auto* s = new Section(
-        QStringLiteral("Location"),
-        QStringLiteral("Times are calculated on your computer, no internet needed. Your "
-                       "computer's time zone: ") +
-            QString::fromUtf8(c.model.services().localZone().id()));
+    auto* s =
+        new Section(QCoreApplication::translate("Settings", "Location"),
+                    //: %1 the time zone's identifier, such as Europe/London
+                    QCoreApplication::translate(
+                        "Settings", "Times are calculated on your computer, no internet needed. "
+                                    "Your computer's time zone: %1")
+                        .arg(QString::fromUtf8(c.model.services().localZone().id())));
     PrayerSettingsModel* m = &c.model;
 
-    QLineEdit* city =
-        boundText(c, QStringLiteral("City"), Field::query, &PrayerSettingsModel::query,
-                  &PrayerSettingsModel::setQuery, QStringLiteral("e.g. London, Dhaka, Toronto"));
+    const QString cityLabel = QCoreApplication::translate("Settings", "City");
+    QLineEdit* city = boundText(
+        c, cityLabel, Field::query, &PrayerSettingsModel::query, &PrayerSettingsModel::setQuery,
+        //: Examples of cities; use cities your readers know
+        QCoreApplication::translate("Settings", "e.g. London, Dhaka, Toronto"));
     QObject::connect(city, &QLineEdit::returnPressed, m, [m] { m->search(); });
-    QPushButton* find = button(QStringLiteral("Find"), [m] { m->search(); });
+    //: A button: search for the city typed
+    QPushButton* find =
+        button(QCoreApplication::translate("Settings", "Find"), [m] { m->search(); });
     watch(*m, find, {Field::searching}, [m, find] { find->setEnabled(!m->searching()); });
     auto* cityRow = hbox({city, find});
     city->setMinimumWidth(260);
-    s->addRow(QStringLiteral("City"), cityRow);
+    s->addRow(cityLabel, cityRow);
     cityRow->setAccessibleName(QString()); // the field itself carries the name
-    city->setAccessibleName(QStringLiteral("City"));
+    city->setAccessibleName(cityLabel);
     qobject_cast<QLabel*>(s->form()->labelForField(cityRow))->setBuddy(city);
     s->addRow(statusLabel(c, Field::searchMessage, &PrayerSettingsModel::searchMessage));
     addPlaceChoice(*s, *m);
 
     auto* using_ = wrapped(QString());
-    watch(*m, using_, {Field::locationName, Field::latitude, Field::longitude}, [m, using_] {
-        const QString text =
-            m->hasLocation() ? m->locationName() + QStringLiteral("  ") +
-                                   QString::asprintf("%.4f, %.4f", m->latitude(), m->longitude())
-                             : QStringLiteral("Not set yet");
-        using_->setText(text);
-        using_->setAccessibleName(QStringLiteral("Using ") + text);
-    });
-    s->form()->addRow(new QLabel(QStringLiteral("Using")), using_);
+    //: The location in use: a label before the place's name and coordinates
+    const QString usingLabel = QCoreApplication::translate("Settings", "Using");
+    watch(*m, using_, {Field::locationName, Field::latitude, Field::longitude},
+          [m, using_, usingLabel] {
+              const QLocale locale;
+              //: %1 the place's name, %2 its latitude, %3 its longitude
+              const QString text =
+                  m->hasLocation()
+                      ? QCoreApplication::translate("Settings", "%1  %2, %3")
+                            .arg(m->locationName(), locale.toString(m->latitude(), 'f', 4),
+                                 locale.toString(m->longitude(), 'f', 4))
+                      : QCoreApplication::translate("Settings", "Not set yet");
+              using_->setText(text);
+              using_->setAccessibleName(usingLabel + QLatin1Char(' ') + text);
+          });
+    s->form()->addRow(new QLabel(usingLabel), using_);
 
     auto* expand = new QToolButton;
-    expand->setText(QStringLiteral("Enter coordinates"));
-    expand->setAccessibleName(QStringLiteral("Enter coordinates"));
+    expand->setText(QCoreApplication::translate("Settings", "Enter coordinates"));
+    expand->setAccessibleName(expand->text());
     expand->setCheckable(true);
     expand->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     expand->setArrowType(Qt::RightArrow);
@@ -110,17 +132,20 @@ QWidget* makeLocationSection(SectionContext& c) {
         w->setAccessibleName(label);
         form->addRow(l, w);
     };
-    addManual(QStringLiteral("Name"),
-              boundText(c, QStringLiteral("Name"), Field::locationName,
-                        &PrayerSettingsModel::locationName, &PrayerSettingsModel::setLocationName));
-    addManual(QStringLiteral("Latitude"),
-              coordinateField(c, QStringLiteral("Latitude"), Field::latitude,
-                              &PrayerSettingsModel::latitude, &PrayerSettingsModel::setLatitude,
-                              90));
-    addManual(QStringLiteral("Longitude"),
-              coordinateField(c, QStringLiteral("Longitude"), Field::longitude,
-                              &PrayerSettingsModel::longitude, &PrayerSettingsModel::setLongitude,
-                              180));
+    //: The place's name, typed with its coordinates
+    const QString nameLabel = QCoreApplication::translate("Settings", "Name");
+    addManual(nameLabel,
+              boundText(c, nameLabel, Field::locationName, &PrayerSettingsModel::locationName,
+                        &PrayerSettingsModel::setLocationName));
+    const QString latitude = QCoreApplication::translate("Settings", "Latitude");
+    addManual(latitude,
+              coordinateField(c, latitude, Field::latitude, &PrayerSettingsModel::latitude,
+                              &PrayerSettingsModel::setLatitude, 90));
+    const QString longitude = QCoreApplication::translate("Settings", "Longitude");
+    addManual(longitude,
+              coordinateField(c, longitude, Field::longitude, &PrayerSettingsModel::longitude,
+                              &PrayerSettingsModel::setLongitude, 180));
+
     manual->setVisible(false);
     QObject::connect(expand, &QToolButton::toggled, manual, [manual, expand](bool on) {
         manual->setVisible(on);

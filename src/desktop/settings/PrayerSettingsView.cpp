@@ -2,8 +2,9 @@
 
 #include "desktop/TrayIcon.h"
 #include "desktop/settings/SectionKit.h"
-#include "engine/LocalTime.h"
+#include "engine/PrayerNames.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -15,21 +16,25 @@
 namespace tarvanel {
 
 QString headerStatus(const PrayerSettingsModel& model) {
-    if (!model.hasLocation()) return QStringLiteral("Find your city to begin");
-    QString text =
-        model.locationName().isEmpty() ? QStringLiteral("Your location") : model.locationName();
+    if (!model.hasLocation())
+        return QCoreApplication::translate("Settings", "Find your city to begin");
+    const QString place = model.locationName().isEmpty()
+                              ? QCoreApplication::translate("Settings", "Your location")
+                              : model.locationName();
     const QDateTime now = model.services().clock();
     for (const PreviewEntry& e : model.preview()) {
         if (e.name == QLatin1String("Sunrise") || !e.lock || *e.lock <= now) continue;
-        text += QStringLiteral("  ·  ") + e.name + QStringLiteral(" locks at ") +
-                formatLocal(*e.lock, QStringLiteral("h:mm AP"));
-        break;
+        //: The settings window's header: %1 the place, %2 a prayer, %3 the time its lock starts
+        return QCoreApplication::translate("Settings", "%1  ·  %2 locks at %3")
+            .arg(place, prayerLabel(e.name), shortTime(*e.lock));
     }
-    return text;
+    return place;
 }
 
 QString saveTitle(bool firstRun) {
-    return firstRun ? QStringLiteral("Start Tarvanel") : QStringLiteral("Save");
+    //: The button that saves the settings on the first run and starts the program
+    return firstRun ? QCoreApplication::translate("Settings", "Start Tarvanel")
+                    : QCoreApplication::translate("Settings", "Save");
 }
 
 PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> model,
@@ -40,10 +45,10 @@ PrayerSettingsView::PrayerSettingsView(std::unique_ptr<PrayerSettingsModel> mode
     column->setSpacing(0);
     column->addWidget(makeHeader());
     if (!model_->configProblem().isEmpty()) {
-        const QString text = QStringLiteral("Your settings file can't be used (") +
-                             model_->configProblem() +
-                             QStringLiteral("), so nothing locks yet. Check the settings below "
-                                            "and save to start again.");
+        //: %1 what is wrong with the settings file
+        const QString text = tr("Your settings file can't be used (%1), so nothing locks yet. "
+                                "Check the settings below and save to start again.")
+                                 .arg(model_->configProblem());
         auto* problem = new QLabel(text, this);
         problem->setWordWrap(true);
         problem->setContentsMargins(20, 6, 20, 6);
@@ -91,8 +96,8 @@ QWidget* PrayerSettingsView::makeHeader() {
     row->addWidget(icon, 0, Qt::AlignTop);
     auto* texts = new QVBoxLayout;
     const bool first = model_->firstRun();
-    auto* title = new QLabel(
-        first ? QStringLiteral("Welcome to Tarvanel") : QStringLiteral("Tarvanel"), header);
+    auto* title =
+        new QLabel(first ? tr("Welcome to Tarvanel") : QStringLiteral("Tarvanel"), header);
     QFont big = title->font();
     big.setPointSizeF(big.pointSizeF() * 1.6);
     big.setBold(true);
@@ -103,18 +108,17 @@ QWidget* PrayerSettingsView::makeHeader() {
     texts->addWidget(status_);
     if (!model_->headerNote().isEmpty()) texts->addWidget(wrapped(model_->headerNote(), header));
     if (first) {
-        auto* tagline = new QLabel(QStringLiteral("Get up and pray, on time"), header);
+        auto* tagline = new QLabel(tr("Get up and pray, on time"), header);
         QFont bold = tagline->font();
         bold.setBold(true);
         tagline->setFont(bold);
         tagline->setAccessibleName(tagline->text());
         texts->addWidget(tagline);
-        texts->addWidget(wrapped(
-            QStringLiteral("At each prayer time Tarvanel turns every screen black for a few "
-                           "minutes so you step away and pray. You get reminders before each "
-                           "lock. Once a lock starts there's no way out until it ends. Find your "
-                           "city to begin."),
-            header));
+        texts->addWidget(
+            wrapped(tr("At each prayer time Tarvanel turns every screen black for a few minutes so "
+                       "you step away and pray. You get reminders before each lock. Once a lock "
+                       "starts there's no way out until it ends. Find your city to begin."),
+                    header));
     }
     row->addLayout(texts, 1);
     PrayerSettingsModel* m = model_.get();
@@ -155,13 +159,13 @@ QWidget* PrayerSettingsView::makeButtonBar() {
     auto* bar = new QWidget(this);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(20, 8, 20, 14);
-    QPushButton* preview = button(QStringLiteral("Preview Lock"), actions_.previewLock, bar);
-    preview->setToolTip(QStringLiteral("Black out the screen for 10 seconds"));
+    QPushButton* preview = button(tr("Preview Lock"), actions_.previewLock, bar);
+    preview->setToolTip(tr("Black out the screen for 10 seconds"));
     row->addWidget(preview);
-    row->addWidget(button(QStringLiteral("Uninstall…"), actions_.uninstall, bar));
+    row->addWidget(button(tr("Uninstall…"), actions_.uninstall, bar));
     row->addStretch(1);
     QPushButton* cancel = button(
-        QStringLiteral("Cancel"),
+        tr("Cancel"),
         [this] {
             if (actions_.cancel) actions_.cancel();
             closeWindow();
@@ -185,9 +189,8 @@ QWidget* PrayerSettingsView::makeButtonBar() {
     QPushButton* save = save_;
     watch(*m, save, {Field::latitude, Field::longitude}, [m, save] {
         save->setEnabled(m->hasLocation());
-        save->setToolTip(m->hasLocation()
-                             ? QString()
-                             : QStringLiteral("Find your city or enter coordinates first."));
+        save->setToolTip(m->hasLocation() ? QString()
+                                          : tr("Find your city or enter coordinates first."));
     });
     return bar;
 }

@@ -79,8 +79,11 @@ void holdWheelUntilFocused(QWidget* root);
 QTime localTime(const QDateTime& instant);
 QDateTime instantToday(const QTime& time, const QDateTime& now);
 
-// "h:mm AP" in the local zone.
+// The pattern of a time of day in the language, "h:mm AP" in English.
+QString timePattern();
+// An instant's time of day in the local zone, by timePattern().
 QString shortTime(const QDateTime& instant);
+
 // The footer of "Lock"; it names the guardian's code only while one is set.
 QString lockFooter(bool guardianSet);
 

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCoreApplication>
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
@@ -35,36 +36,43 @@ QAction* add(QMenu* menu, const QString& text, QKeySequence keys, std::function<
 } // namespace
 
 QString aboutText() {
-    return QStringLiteral("Tarvanel ") + QStringLiteral(TARVANEL_VERSION) +
-           QStringLiteral("\nPrayer times that lock every screen, so you step away and pray.") +
-           QStringLiteral("\n\nLicence: ") + QStringLiteral(TARVANEL_LICENCE) +
-           QStringLiteral("\n\nSettings: ") + configURL() +
-           QStringLiteral("\nHistory and state: ") + supportDir() + QStringLiteral("\nLog: ") +
-           supportPath(QStringLiteral("log.txt")) + QStringLiteral("\nLogin service: ") +
-           agentUnitPath();
+    //: %1 the version number, %2 the licence's name, %3 the settings file, %4 the folder of
+    //: history and state, %5 the log file, %6 the login service's file. Keep the line breaks.
+    return QCoreApplication::translate("About",
+                                       "Tarvanel %1\nPrayer times that lock every screen, so you "
+                                       "step away and pray.\n\nLicence: %2\n\nSettings: %3\n"
+                                       "History and state: %4\nLog: %5\nLogin service: %6")
+        .arg(QStringLiteral(TARVANEL_VERSION), QStringLiteral(TARVANEL_LICENCE), configURL(),
+             supportDir(), supportPath(QStringLiteral("log.txt")), agentUnitPath());
 }
 
 void installMainMenu(QMenuBar* bar, QWidget* window, std::function<void()> openSettings) {
     QMenu* app = bar->addMenu(QStringLiteral("&Tarvanel"));
     QPointer<QWidget> win(window);
-    add(app, QStringLiteral("About Tarvanel"), {},
-        [win] { QMessageBox::about(win, QStringLiteral("About Tarvanel"), aboutText()); });
+    const QString about = QCoreApplication::translate("MainMenu", "About Tarvanel");
+    add(app, about, {}, [win, about] { QMessageBox::about(win, about, aboutText()); });
     app->addSeparator();
-    add(app, QStringLiteral("Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
-        std::move(openSettings));
+    add(app, QCoreApplication::translate("MainMenu", "Settings…"),
+        QKeySequence(Qt::CTRL | Qt::Key_Comma), std::move(openSettings));
     app->addSeparator();
-    add(app, QStringLiteral("Close Window"), QKeySequence(Qt::CTRL | Qt::Key_W), [win] {
-        if (win) win->close();
-    });
-    QMenu* edit = bar->addMenu(QStringLiteral("&Edit"));
-    add(edit, QStringLiteral("Undo"), QKeySequence::Undo, [] { sendToFocus("undo"); });
-    add(edit, QStringLiteral("Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
-        [] { sendToFocus("redo"); });
+    add(app, QCoreApplication::translate("MainMenu", "Close Window"),
+        QKeySequence(Qt::CTRL | Qt::Key_W), [win] {
+            if (win) win->close();
+        });
+    //: The Edit menu; the & marks its Alt key letter
+    QMenu* edit = bar->addMenu(QCoreApplication::translate("MainMenu", "&Edit"));
+    add(edit, QCoreApplication::translate("MainMenu", "Undo"), QKeySequence::Undo,
+        [] { sendToFocus("undo"); });
+    add(edit, QCoreApplication::translate("MainMenu", "Redo"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), [] { sendToFocus("redo"); });
     edit->addSeparator();
-    add(edit, QStringLiteral("Cut"), QKeySequence::Cut, [] { sendToFocus("cut"); });
-    add(edit, QStringLiteral("Copy"), QKeySequence::Copy, [] { sendToFocus("copy"); });
-    add(edit, QStringLiteral("Paste"), QKeySequence::Paste, [] { sendToFocus("paste"); });
-    add(edit, QStringLiteral("Select All"), QKeySequence::SelectAll,
+    add(edit, QCoreApplication::translate("MainMenu", "Cut"), QKeySequence::Cut,
+        [] { sendToFocus("cut"); });
+    add(edit, QCoreApplication::translate("MainMenu", "Copy"), QKeySequence::Copy,
+        [] { sendToFocus("copy"); });
+    add(edit, QCoreApplication::translate("MainMenu", "Paste"), QKeySequence::Paste,
+        [] { sendToFocus("paste"); });
+    add(edit, QCoreApplication::translate("MainMenu", "Select All"), QKeySequence::SelectAll,
         [] { sendToFocus("selectAll"); });
 }
 

@@ -1,18 +1,26 @@
 // 3. Today: the preview of today's times with the unsaved edits.
 #include "desktop/settings/SectionKit.h"
 #include "engine/LocalTime.h"
+#include "engine/PrayerNames.h"
 
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QGridLayout>
 
 namespace tarvanel {
 
+QString timePattern() {
+    //: How a time of day is written, in Qt's date-time pattern letters: h hour, mm minutes,
+    //: AP AM or PM. A 24-hour clock is HH:mm
+    return QCoreApplication::translate("Settings", "h:mm AP");
+}
+
 QString shortTime(const QDateTime& instant) {
-    return formatLocal(instant, QStringLiteral("h:mm AP"));
+    return formatLocal(instant, timePattern());
 }
 
 QWidget* makeTodaySection(SectionContext& c) {
-    auto* s = new Section(QStringLiteral("Today"));
+    auto* s = new Section(QCoreApplication::translate("Settings", "Today"));
     PrayerSettingsModel* m = &c.model;
     auto* table = new QWidget;
     auto* grid = new QGridLayout(table);
@@ -29,17 +37,21 @@ QWidget* makeTodaySection(SectionContext& c) {
               }
               const QList<PreviewEntry> entries = m->preview();
               if (entries.isEmpty()) {
-                  grid->addWidget(
-                      wrapped(QStringLiteral("Find your city to see today's times."), table), 0, 0);
+                  grid->addWidget(wrapped(QCoreApplication::translate(
+                                              "Settings", "Find your city to see today's times."),
+                                          table),
+                                  0, 0);
                   return;
               }
               int row = 0;
               std::optional<QDateTime> sunrise;
               for (const PreviewEntry& e : entries) {
                   if (e.name == QLatin1String("Sunrise")) sunrise = e.start;
-                  const QString lock =
-                      e.lock ? QStringLiteral("locks ") + shortTime(*e.lock) : QString();
-                  const QStringList cells{e.name, shortTime(e.start), lock};
+                  //: A column of today's times: %1 the time this prayer's lock starts
+                  const QString lock = e.lock ? QCoreApplication::translate("Settings", "locks %1")
+                                                    .arg(shortTime(*e.lock))
+                                              : QString();
+                  const QStringList cells{prayerLabel(e.name), shortTime(e.start), lock};
                   for (int col = 0; col < 3; ++col) {
                       auto* cell = new QLabel(cells[col], table);
                       cell->setAccessibleName(cells[col]);
@@ -47,11 +59,12 @@ QWidget* makeTodaySection(SectionContext& c) {
                   }
                   ++row;
               }
-              if (sunrise)
-                  grid->addWidget(wrapped(QStringLiteral("Fajr ends at sunrise, ") +
-                                              shortTime(*sunrise) + QLatin1Char('.'),
-                                          table),
-                                  row, 0, 1, 3);
+              if (!sunrise) return;
+              //: %1 the time of sunrise
+              const QString fajrEnds =
+                  QCoreApplication::translate("Settings", "Fajr ends at sunrise, %1.")
+                      .arg(shortTime(*sunrise));
+              grid->addWidget(wrapped(fajrEnds, table), row, 0, 1, 3);
           });
     return s;
 }

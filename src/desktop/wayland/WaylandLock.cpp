@@ -88,7 +88,10 @@ QString WaylandLock::mechanism() const {
 QString WaylandLock::weakness() const {
     if (kind_ == Kind::SessionLock || display_->inputInhibit() || display_->shortcutsInhibit())
         return {};
-    return QStringLiteral("on this desktop the compositor's own shortcuts may still leave a lock");
+    // English in the log; the settings window shows its translation.
+    //: Shown on a line of its own with its first letter made a capital and "%1." around it
+    return QStringLiteral(QT_TRANSLATE_NOOP(
+        "LockWeakness", "on this desktop the compositor's own shortcuts may still leave a lock"));
 }
 
 void WaylandLock::show(const QList<LockWindowContent>& perScreen, LockScreenState* state) {

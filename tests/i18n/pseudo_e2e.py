@@ -3,8 +3,8 @@
 
 Usage: pseudo_e2e.py SOURCE_ROOT TARVANEL_BINARY, on a display and session bus with AT-SPI.
 Runs the first-run settings window (a city found, every part scrolled to, the About box and the
-guardian's set-up), a test lock and a test reminder, and reads every showing control's name,
-description and label text. Exit status 1 with each text shown outside the pseudo-language."""
+guardian's set-up), the tray menu in a tray host's panel, a test lock and a test reminder, and
+reads every showing control's name, description and label text. Exit status 1 with each text shown outside the pseudo-language."""
 import os
 import subprocess
 import sys
@@ -34,12 +34,12 @@ def wait(what, find, timeout=15.0):
     sys.exit(1)
 
 
-def application(windows=True):
-    """The running program's accessible, once it has a window (or at once)."""
+def application():
+    """The running program's accessible, once it has a window."""
     desktop = pyatspi.Registry.getDesktop(0)
     for i in range(desktop.childCount):
         a = desktop.getChildAtIndex(i)
-        if a is not None and a.get_process_id() == running.pid and (a.childCount or not windows):
+        if a is not None and a.get_process_id() == running.pid and a.childCount:
             return a
     return None
 
@@ -131,21 +131,20 @@ def first_run():
     read(a, "first run, a city found")
     scroll_through(a, "first run, scrolled")
 
-    about = find(a, "About Tarvanel", (pyatspi.ROLE_MENU_ITEM,))
-    if about:
-        # The box is modal: the press is answered only once it closes.
-        pyatspi.setTimeout(1500, 15000)
-        try:
-            press(about)
-        except GLib.Error:
-            pass
-        pyatspi.setTimeout(25000, 15000)
-        box = wait("the About box", lambda: find(a, "About Tarvanel", (
-            pyatspi.ROLE_DIALOG, pyatspi.ROLE_ALERT, pyatspi.ROLE_FRAME, pyatspi.ROLE_WINDOW)))
-        read(box, "About box")
-        press(wait("the About box's button", lambda: pyatspi.findDescendant(
-            box, lambda n: n is not None and n.getRole() == pyatspi.ROLE_PUSH_BUTTON)))
-        time.sleep(0.3)
+    about = wait("the About item", lambda: find(a, "About Tarvanel", (pyatspi.ROLE_MENU_ITEM,)))
+    # The box is modal: the press is answered only once it closes.
+    pyatspi.setTimeout(1500, 15000)
+    try:
+        press(about)
+    except GLib.Error:
+        pass
+    pyatspi.setTimeout(25000, 15000)
+    box = wait("the About box", lambda: find(a, "About Tarvanel", (
+        pyatspi.ROLE_DIALOG, pyatspi.ROLE_ALERT, pyatspi.ROLE_FRAME, pyatspi.ROLE_WINDOW)))
+    read(box, "About box")
+    press(wait("the About box's button", lambda: pyatspi.findDescendant(
+        box, lambda n: n is not None and n.getRole() == pyatspi.ROLE_PUSH_BUTTON)))
+    time.sleep(0.3)
     press(wait("the guardian button", lambda: find(a, "Set Up Guardian Code…")))
     wait("the guardian set-up", lambda: find(a, "Key", (pyatspi.ROLE_TEXT,)))
     read(a, "guardian set-up")
@@ -192,9 +191,9 @@ def lock_and_reminder():
     for args, what, part in ((["--test-lock", "6"], "the lock", "Test"),
                              (["--test-nudge"], "the reminder", "Asr")):
         app = start(*args)
-        a = wait(what, lambda: application() if pyatspi.findDescendant(
-            application() or pyatspi.Registry.getDesktop(0),
-            lambda n: n is not None and part in (n.name or "")) else None)
+        a = wait(what, application)
+        wait(f"{part} in {what}", lambda: pyatspi.findDescendant(
+            a, lambda n: n is not None and part in (n.name or "")))
         time.sleep(1.2)  # a countdown that has ticked once
         read(a, what)
         stop(app)
@@ -212,7 +211,8 @@ with tempfile.TemporaryDirectory() as folder:
 for text, where in sorted(found.items(), key=lambda item: item[1]):
     print(f"unmarked ({where}): {text!r}")
 # A window the reading missed would pass unseen.
-empty = [w for w in ("first run", "menu", "the lock", "the reminder") if not read_count.get(w)]
+empty = [w for w in ("first run", "About box", "guardian set-up", "menu", "the lock",
+                     "the reminder") if not read_count.get(w)]
 for where in empty:
     print(f"pseudo_e2e: nothing read in {where}", file=sys.stderr)
 print("texts read:", read_count)

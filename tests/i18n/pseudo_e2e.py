@@ -2,9 +2,10 @@
 """The real program in a pseudo-language, read as a screen reader reads it.
 
 Usage: pseudo_e2e.py SOURCE_ROOT TARVANEL_BINARY, on a display and session bus with AT-SPI.
-Runs the first-run settings window (a city found, every part scrolled to, the About box and the
-guardian's set-up), the tray menu in a tray host's panel, a test lock and a test reminder, and
-reads every showing control's name, description and label text. Exit status 1 with each text shown outside the pseudo-language."""
+Runs the question a copy outside the login service asks, the first-run settings window (a city
+found, every part scrolled to, the About box and the guardian's set-up), the tray menu in a tray
+host's panel, a test lock and a test reminder, and reads every showing control's name,
+description and label text. Exit status 1 with each text shown outside the pseudo-language."""
 import os
 import subprocess
 import sys
@@ -103,9 +104,9 @@ def scroll_through(a, where):
             read(a, where)
 
 
-def start(*args):
+def start(*args, env=None):
     global running
-    running = subprocess.Popen([binary, *args], stdout=log, stderr=subprocess.STDOUT)
+    running = subprocess.Popen([binary, *args], stdout=log, stderr=subprocess.STDOUT, env=env)
     return running
 
 
@@ -148,6 +149,16 @@ def first_run():
     press(wait("the guardian button", lambda: find(a, "Set Up Guardian Code…")))
     wait("the guardian set-up", lambda: find(a, "Key", (pyatspi.ROLE_TEXT,)))
     read(a, "guardian set-up")
+    stop(app)
+
+
+def hand_off():
+    """The question a copy started from outside the login service asks before installing."""
+    app = start(env={k: v for k, v in os.environ.items() if k != "TARVANEL_AGENT"})
+    a = wait("the hand-off question", application)
+    wait("its buttons", lambda: pyatspi.findDescendant(
+        a, lambda n: n is not None and n.getRole() == pyatspi.ROLE_PUSH_BUTTON))
+    read(a, "hand-off")
     stop(app)
 
 
@@ -204,6 +215,7 @@ with tempfile.TemporaryDirectory() as folder:
     os.environ["TARVANEL_TRANSLATIONS"] = folder
     os.environ["LANGUAGE"] = "eo"
     log = open(os.path.join(os.environ["HOME"], "app.log"), "w")
+    hand_off()
     first_run()
     menu()
     lock_and_reminder()
@@ -211,7 +223,7 @@ with tempfile.TemporaryDirectory() as folder:
 for text, where in sorted(found.items(), key=lambda item: item[1]):
     print(f"unmarked ({where}): {text!r}")
 # A window the reading missed would pass unseen.
-empty = [w for w in ("first run", "About box", "guardian set-up", "menu", "the lock",
+empty = [w for w in ("hand-off", "first run", "About box", "guardian set-up", "menu", "the lock",
                      "the reminder") if not read_count.get(w)]
 for where in empty:
     print(f"pseudo_e2e: nothing read in {where}", file=sys.stderr)

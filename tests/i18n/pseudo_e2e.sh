@@ -7,7 +7,7 @@ root="$1"
 binary="$2"
 here="$(cd "$(dirname "$0")" && pwd)"
 for tool in Xvfb dbus-run-session /usr/libexec/at-spi-bus-launcher /usr/bin/python3 \
-    /usr/lib/qt6/bin/lupdate /usr/lib/qt6/bin/lrelease trayer xdotool; do
+    /usr/lib/qt6/bin/lupdate /usr/lib/qt6/bin/lrelease trayer xdotool xwininfo; do
     command -v "$tool" >/dev/null 2>&1 || { echo "skipped: $tool missing"; exit 77; }
 done
 /usr/bin/python3 -c 'import pyatspi' 2>/dev/null || { echo "skipped: python3-pyatspi missing"; exit 77; }

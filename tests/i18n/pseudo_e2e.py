@@ -7,6 +7,7 @@ found, every part scrolled to, the About box and the guardian's set-up), the tra
 host's panel, a test lock and a test reminder, and reads every showing control's name,
 description and label text. Exit status 1 with each text shown outside the pseudo-language."""
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -171,11 +172,10 @@ def menu():
     tray = subprocess.Popen(["trayer", "--edge", "top", "--align", "right", "--widthtype",
                              "pixel", "--width", "200", "--height", "32"])
     try:
-        # The icon in the panel, then a click on it (a second click would close the menu).
-        wait("the icon in the panel", lambda: subprocess.run(
-            "xwininfo -root -tree | grep -A8 '(\"panel\" \"trayer\")' | grep -q tarvanel",
-            shell=True).returncode == 0)
-        subprocess.run(["xdotool", "mousemove", "1268", "16", "click", "1"])
+        windows = lambda: subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True,
+                                         text=True).stdout
+        wait("the icon in the panel", lambda: re.search(
+            r'\("panel" "trayer"\).*(\n.*){0,8}"tarvanel"', windows()))
         # A popup is no child of the application's accessible: the menu is reached through the
         # item the keyboard focuses.
         focused = []
@@ -183,6 +183,11 @@ def menu():
         pyatspi.Registry.registerEventListener(listener, "object:state-changed:focused")
 
         def menu_item():
+            # A click on the icon opens the menu (a Tarvanel window 100 px square or more), and
+            # a click while it is open would close it.
+            if not re.search(r'"tarvanel" "Tarvanel"\)\s+\d{3,}x\d{3,}', windows()):
+                subprocess.run(["xdotool", "mousemove", "1268", "16", "click", "1"])
+                time.sleep(0.3)
             subprocess.run(["xdotool", "key", "Down"])
             end = time.time() + 0.5
             while time.time() < end:

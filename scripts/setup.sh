@@ -15,7 +15,7 @@ packages=(
     libgeonames-dev
     qt6-svg-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
     python3 python3-pyatspi at-spi2-core dbus-daemon
-    xvfb x11-xserver-utils x11-apps xdotool trayer openbox faketime oathtool zbar-tools imagemagick
+    xvfb x11-xserver-utils x11-apps x11-utils xdotool trayer openbox faketime oathtool zbar-tools imagemagick
     sway grim wtype wayland-utils qt6-wayland swaylock foot
     kwin-wayland kde-spectacle qtwayland5 qdbus-qt5 libkf5globalaccel-bin plasma-wayland-protocols
     plasma-framework milou qml-module-org-kde-kirigami2 qml-module-qtgraphicaleffects

@@ -1,0 +1,41 @@
+#!/bin/sh
+# The real program in a pseudo-language on its own Xvfb display, read over AT-SPI: a text
+# shown outside the pseudo-language was never marked for translation.
+# Usage: pseudo_e2e.sh SOURCE_ROOT TARVANEL_BINARY
+set -u
+root="$1"
+binary="$2"
+here="$(cd "$(dirname "$0")" && pwd)"
+for tool in Xvfb dbus-run-session /usr/libexec/at-spi-bus-launcher /usr/bin/python3 \
+    /usr/lib/qt6/bin/lupdate /usr/lib/qt6/bin/lrelease trayer xdotool xwininfo; do
+    command -v "$tool" >/dev/null 2>&1 || { echo "skipped: $tool missing"; exit 77; }
+done
+/usr/bin/python3 -c 'import pyatspi' 2>/dev/null || { echo "skipped: python3-pyatspi missing"; exit 77; }
+
+scratch="$(mktemp -d)"
+trap 'kill $server 2>/dev/null; rm -rf "$scratch"' EXIT
+export HOME="$scratch/home" XDG_CONFIG_HOME="$scratch/home/.config" \
+    XDG_DATA_HOME="$scratch/home/.local/share" XDG_RUNTIME_DIR="$scratch/run" TZ=Asia/Karachi
+mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
+chmod 700 "$XDG_RUNTIME_DIR"
+unset LC_ALL LC_MESSAGES LANG
+
+exec 3>"$scratch/displayfd"
+Xvfb -displayfd 3 -screen 0 1280x1000x24 -noreset -nolisten tcp 2>/dev/null &
+server=$!
+for _ in $(seq 100); do [ -s "$scratch/displayfd" ] && break; sleep 0.1; done
+export DISPLAY=":$(cat "$scratch/displayfd")"
+unset QT_QPA_PLATFORM WAYLAND_DISPLAY
+
+QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1 TARVANEL_AGENT=com.velmora.tarvanel \
+    dbus-run-session -- sh -c '
+    /usr/libexec/at-spi-bus-launcher --launch-immediately &
+    sleep 0.5
+    /usr/bin/python3 "$0" "$1" "$2"
+    status=$?
+    kill %1 2>/dev/null
+    exit $status
+' "$here/pseudo_e2e.py" "$root" "$binary"
+status=$?
+[ $status -eq 0 ] || { tail -20 "$HOME/app.log"; exit $status; }
+echo ok

@@ -1,17 +1,20 @@
 // Arabic and Urdu: the settings form, a banner and the lock read right to left, and no text is
-// cut short in the script's own font.
+// cut short in the script's own font. The Language choice applies at once and is kept.
 #include "desktop/BannerPanel.h"
 #include "desktop/LockView.h"
 #include "desktop/UiLanguage.h"
 #include "desktop/settings/PrayerSettingsView.h"
 #include "desktop/settings/SettingsWindow.h"
 #include "lock/LockScreenState.h"
+#include "records/UserDefaults.h"
 #include "support/TestEnv.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QSettings>
 #include <QStyle>
 #include <gtest/gtest.h>
 
@@ -104,4 +107,54 @@ TEST(RightToLeft, ArabicAndUrduMirrorTheSettingsBannerAndLockAndCutNoTextShort) 
         EXPECT_TRUE(lock.guardianLabel()->isVisible());
         EXPECT_EQ(clipped(&lock), QStringList());
     }
+}
+
+TEST(LanguageChoice, AppliesAtOnceToTheNextWindowIsKeptAndSystemForgetsIt) {
+    struct English {
+        ~English() { useLanguage(QStringLiteral("en")); }
+    } restore;
+    const auto openForm = [] {
+        return new PrayerSettingsView(std::make_unique<PrayerSettingsModel>(Config(), true),
+                                      PrayerSettingsActions{});
+    };
+    const auto languageBox = [](QWidget* form) -> QComboBox* {
+        for (QComboBox* c : form->findChildren<QComboBox*>())
+            if (c->findData(QStringLiteral("fr")) >= 0) return c;
+        return nullptr;
+    };
+    // Picks the entry of a language code, as the user would by its name.
+    const auto choose = [&](QWidget* form, const QString& code) {
+        QComboBox* box = languageBox(form);
+        ASSERT_TRUE(box);
+        const int i = box->findData(code);
+        ASSERT_GE(i, 0) << code.toStdString();
+        box->setCurrentIndex(i);
+        emit box->activated(i);
+    };
+    const auto heads = [](QWidget* form) {
+        QStringList texts;
+        for (QLabel* l : form->findChildren<QLabel*>())
+            texts << l->text();
+        return texts;
+    };
+
+    std::unique_ptr<QWidget> first(openForm());
+    choose(first.get(), QStringLiteral("fr"));
+    EXPECT_EQ(UserDefaults().language(), QStringLiteral("fr"));
+    const QString french = QCoreApplication::translate("Settings", "Language");
+    EXPECT_NE(french, QStringLiteral("Language"));
+    std::unique_ptr<QWidget> next(openForm());
+    EXPECT_TRUE(heads(next.get()).contains(french));
+    EXPECT_EQ(QLocale().language(), QLocale::French);
+
+    choose(next.get(), QStringLiteral("ar"));
+    EXPECT_EQ(UserDefaults().language(), QStringLiteral("ar"));
+    EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
+
+    // "System" removes the choice; the environment decides again.
+    EXPECT_EQ(languageBox(next.get())->itemText(0), QStringLiteral("Système"));
+    choose(next.get(), QString());
+    EXPECT_EQ(UserDefaults().language(), QString());
+    EXPECT_EQ(QSettings(UserDefaults::defaultPath(), QSettings::IniFormat).contains("language"),
+              false);
 }

@@ -707,7 +707,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>◀ next</source>
         <extracomment>Marks the row of the next prayer; the arrow points back at its time</extracomment>
-        <translation>◀ التالية</translation>
+        <translation>▶ التالية</translation>
     </message>
     <message>
         <source>%1 ends %2</source>

@@ -675,7 +675,7 @@ sudo apt remove tarvanel</translation>
     <message>
         <source>◀ next</source>
         <extracomment>Marks the row of the next prayer; the arrow points back at its time</extracomment>
-        <translation>◀ اگلی</translation>
+        <translation>▶ اگلی</translation>
     </message>
     <message>
         <source>%1 ends %2</source>

@@ -53,9 +53,8 @@ def allowed_phrases(root):
     phrases = [s for s in literals(src / "engine/Quotes.cpp") if " " in s]
     methods = re.findall(r'\{"\w+", "([^"]+)", [\d.]+', (src / "engine/CalcMethods.cpp").read_text())
     names = re.findall(r'\{"\w\w", "([^"]+)"\}', (src / "base/Language.cpp").read_text())
-    # "OK" is Qt's own button text, translated by Qt's catalogue in the real languages; then
-    # the desktops and notification daemons the focus scripts are written for.
-    extra = ["English", "Tarvanel", "OK", "GNOME", "Cinnamon", "MATE", "XFCE", "dunst", "mako"]
+    # The desktops and notification daemons the focus scripts are written for.
+    extra = ["English", "Tarvanel", "GNOME", "Cinnamon", "MATE", "XFCE", "dunst", "mako"]
     return sorted(set(phrases + methods + names + extra), key=len, reverse=True)
 
 

@@ -50,7 +50,14 @@ void installMainMenu(QMenuBar* bar, QWidget* window, std::function<void()> openS
     QMenu* app = bar->addMenu(QStringLiteral("&Tarvanel"));
     QPointer<QWidget> win(window);
     const QString about = QCoreApplication::translate("MainMenu", "About Tarvanel");
-    add(app, about, {}, [win, about] { QMessageBox::about(win, about, aboutText()); });
+    add(app, about, {}, [win, about] {
+        // Not QMessageBox::about: its button speaks only the languages Qt's catalogues have.
+        QMessageBox box(QMessageBox::NoIcon, about, aboutText(), QMessageBox::NoButton, win);
+        if (!QApplication::windowIcon().isNull())
+            box.setIconPixmap(QApplication::windowIcon().pixmap(64));
+        box.addButton(QCoreApplication::translate("Dialogs", "OK"), QMessageBox::AcceptRole);
+        box.exec();
+    });
     app->addSeparator();
     add(app, QCoreApplication::translate("MainMenu", "Settings…"),
         QKeySequence(Qt::CTRL | Qt::Key_Comma), std::move(openSettings));

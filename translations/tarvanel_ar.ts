@@ -1468,7 +1468,7 @@ On Linux the calendars are the folders under ~/.local/share/calendars (khal and 
     </message>
     <message>
         <source>ddd d</source>
-        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;: at most 7 characters</extracomment>
+        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;</extracomment>
         <translation>d/M</translation>
     </message>
 </context>

@@ -1412,7 +1412,7 @@ Sous Linux, les agendas sont les dossiers sous ~/.local/share/calendars (khal et
     </message>
     <message>
         <source>ddd d</source>
-        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;: at most 7 characters</extracomment>
+        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;</extracomment>
         <translation>ddd d</translation>
     </message>
 </context>

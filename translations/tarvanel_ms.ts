@@ -1398,7 +1398,7 @@ Di Linux, kalendar ialah folder di bawah ~/.local/share/calendars (khal dan vdir
     </message>
     <message>
         <source>ddd d</source>
-        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;: at most 7 characters</extracomment>
+        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;</extracomment>
         <translation>ddd d</translation>
     </message>
 </context>

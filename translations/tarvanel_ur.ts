@@ -1398,12 +1398,12 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     <message>
         <source>h:mm AP</source>
         <extracomment>Qt time pattern of a clock time: h hour, mm minutes, AP AM or PM. Write HH:mm where a 24-hour clock is usual.</extracomment>
-        <translation>h:mm AP</translation>
+        <translation>⁦h:mm AP⁩</translation>
     </message>
     <message>
         <source>dddd h:mm AP</source>
         <extracomment>Qt pattern of a weekday and a clock time, as in &quot;Friday 3:15 PM&quot;</extracomment>
-        <translation>dddd h:mm AP</translation>
+        <translation>dddd ⁦h:mm AP⁩</translation>
     </message>
     <message>
         <source>dddd d MMM</source>
@@ -1412,7 +1412,7 @@ Linux پر کیلنڈر ~/.local/share/calendars کے اندر موجود فول
     </message>
     <message>
         <source>ddd d</source>
-        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;: at most 7 characters</extracomment>
+        <extracomment>Qt pattern of a short weekday and the day of the month in the seven-day grid, as in &quot;Fri 3&quot;</extracomment>
         <translation>ddd d</translation>
     </message>
 </context>

@@ -162,6 +162,11 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
     //: Days in a row with every prayer kept
     menu << MenuItem::info(QStringLiteral("🔥 ") + QCoreApplication::translate(
                                                       "Menu", "Streak: %Ln days", nullptr, streak));
+    //: Qt pattern of a short weekday and the day of the month in the seven-day grid, as
+    //: in "Fri 3"
+    const QString pattern = QCoreApplication::translate("TimeFormat", "ddd d");
+    QList<std::pair<QString, QString>> rows; // the day's label, its marks
+    qsizetype labelWidth = 7;
     for (int k = 6; k >= 0; --k) {
         const QDateTime day = now.addSecs(-qint64(k) * 86400);
         const QString key = dayKey(day);
@@ -172,12 +177,12 @@ MenuModel buildStatusMenu(const StatusView& view, const StatusCommands& commands
             const bool cellExcused = t && Excused::contains(*t, excusedRanges, maxDays);
             cells << gridMark(prayer, key, history, marks, cellExcused);
         }
-        //: Qt pattern of a short weekday and the day of the month in the seven-day grid, as
-        //: in "Fri 3": at most 7 characters
-        const QString pattern = QCoreApplication::translate("TimeFormat", "ddd d");
-        const QString label = formatLocal(day, pattern).leftJustified(7, u' ', true);
-        menu << gridRow(label + QLatin1Char(' ') + cells.join(QLatin1Char(' ')));
+        rows.append({formatLocal(day, pattern), cells.join(QLatin1Char(' '))});
+        labelWidth = std::max(labelWidth, rows.last().first.size());
     }
+    // Labels are padded to the longest, never cut: a long weekday keeps its day number.
+    for (const auto& [label, marks] : rows)
+        menu << gridRow(label.leftJustified(labelWidth, u' ') + QLatin1Char(' ') + marks);
     menu << MenuItem::info(gridLegend());
     menu << MenuItem::separator();
 

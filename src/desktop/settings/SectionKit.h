@@ -79,9 +79,9 @@ void holdWheelUntilFocused(QWidget* root);
 QTime localTime(const QDateTime& instant);
 QDateTime instantToday(const QTime& time, const QDateTime& now);
 
-// The pattern of a time of day in the language, "h:mm AP" in English.
+// The pattern of a time field in the language, "h:mm AP" in English.
 QString timePattern();
-// An instant's time of day in the local zone, by timePattern().
+// An instant's time of day in the local zone, as the menu and the banners write it.
 QString shortTime(const QDateTime& instant);
 
 // The footer of "Lock"; it names the guardian's code only while one is set.

@@ -2,6 +2,7 @@
 #include "desktop/settings/SectionKit.h"
 #include "engine/LocalTime.h"
 #include "engine/PrayerNames.h"
+#include "menubar/ShownTime.h"
 
 #include <QCoreApplication>
 #include <QFormLayout>
@@ -15,8 +16,9 @@ QString timePattern() {
     return QCoreApplication::translate("Settings", "h:mm AP");
 }
 
+// Shown times read as in the menu and the banners (a right-to-left language isolates them).
 QString shortTime(const QDateTime& instant) {
-    return formatLocal(instant, timePattern());
+    return formatLocal(instant, clockPattern());
 }
 
 QWidget* makeTodaySection(SectionContext& c) {

@@ -3,6 +3,7 @@
 #include "desktop/Look.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QFontDatabase>
 #include <QMenu>
@@ -144,6 +145,9 @@ void fillMenu(QMenu* menu, const MenuModel& model) {
             // 12 design points, one logical pixel each, as everywhere else in the look.
             mono.setPointSizeF(12 * 72.0 / 96.0);
             mono.setWeight(QFont::Normal);
+            // A monospaced face's Arabic letters stand apart; the script's own face joins them.
+            if (QApplication::isRightToLeft())
+                mono.setFamilies(QApplication::font().families() + QStringList{mono.family()});
             action->setFont(mono);
         }
         if (!item.shortcut.isEmpty()) action->setShortcut(QKeySequence(item.shortcut));

@@ -113,6 +113,20 @@ QString applyLanguage(const QString& setting) {
     return code;
 }
 
+QString inEnglish(const std::function<QString()>& make) {
+    // The first catalogue is the English one (counted texts); the rest speak the language.
+    auto& list = installed();
+    for (std::size_t i = 1; i < list.size(); ++i)
+        QCoreApplication::removeTranslator(list[i].get());
+    const QLocale numbers;
+    QLocale::setDefault(QLocale::c());
+    const QString text = make();
+    QLocale::setDefault(numbers);
+    for (std::size_t i = 1; i < list.size(); ++i)
+        QCoreApplication::installTranslator(list[i].get());
+    return text;
+}
+
 bool isRightToLeft(const QString& code) {
     return code == QLatin1String("ar") || code == QLatin1String("ur");
 }

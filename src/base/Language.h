@@ -3,6 +3,7 @@
 // English; an English catalogue carries only the singular forms of counted texts.
 #include <QList>
 #include <QString>
+#include <functional>
 
 namespace tarvanel {
 
@@ -22,6 +23,10 @@ QString resolveLanguage(const QString& setting);
 // Installs the catalogues of resolveLanguage(setting) (replacing earlier ones) and makes numbers,
 // times and dates follow it. Needs a QCoreApplication. Returns the language code applied.
 QString applyLanguage(const QString& setting);
+
+// Runs `make` with the texts, numbers and times in English, for a log line built from texts the
+// user also sees; the language is back when it returns.
+QString inEnglish(const std::function<QString()>& make);
 
 // True for the languages written right to left.
 bool isRightToLeft(const QString& code);

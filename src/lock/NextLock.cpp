@@ -1,5 +1,6 @@
 // What comes next, for the user who has just set the program up or asks to resume locks: the
 // next lock's name and time, and whether a prayer's lock window is open right now.
+#include "base/Language.h"
 #include "base/Log.h"
 #include "engine/DayRules.h"
 #include "engine/LocalTime.h"
@@ -51,7 +52,9 @@ void AppDelegate::announceRunning() {
     logLine(lcLock,
             QStringLiteral("Tarvanel: running in the background with no tray icon (no tray "
                            "host); open Tarvanel from the applications menu for its settings") +
-                (next.isEmpty() ? QString() : QStringLiteral(". ") + next));
+                (next.isEmpty() ? QString() : QStringLiteral(". ") + inEnglish([this] {
+                                                  return nextLockText();
+                                              })));
 }
 
 std::optional<QString> AppDelegate::lockDueNow() {

@@ -1,4 +1,6 @@
 #include "records/ConfigFile.h"
+
+#include "base/Language.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
 
@@ -28,9 +30,15 @@ Config loadConfig() {
         return *config;
     }
     lastError() = error;
+    // The log stays English whatever the language the user reads the error in.
+    const QString logged = inEnglish([&bytes] {
+        QString english;
+        decodeConfig(*bytes, &english);
+        return english;
+    });
     logLine(lcSettings,
             QStringLiteral("Tarvanel: config.json is invalid (%1); keeping the last good settings")
-                .arg(error));
+                .arg(logged));
     return lastGood().value_or(Config());
 }
 

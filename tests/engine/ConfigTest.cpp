@@ -1,4 +1,5 @@
 #include "engine/Config.h"
+#include "base/Language.h"
 #include "base/Log.h"
 #include "base/StateFiles.h"
 #include "records/ConfigFile.h"
@@ -49,6 +50,13 @@ TEST_F(ConfigTest, WrongTypeFallsBackToLastGoodAndReadersBoundHandEditedNumbersT
     writeSupportFile("config.json", "{\n  \"latitude\": 5,\n  \"strictMode\": 1\n}");
     loadConfig();
     EXPECT_EQ(lastConfigError(), "line 3: strictMode: expected a boolean, found a number");
+    // In another language the user reads the error in it, and the log keeps it in English.
+    applyLanguage(QStringLiteral("fr"));
+    loadConfig();
+    applyLanguage(QStringLiteral("en"));
+    EXPECT_FALSE(lastConfigError()->contains(QStringLiteral("expected a boolean")));
+    EXPECT_TRUE(lastConfigError()->contains(QStringLiteral("strictMode")));
+    EXPECT_TRUE(logs.last().contains("(line 3: strictMode: expected a boolean, found a number)"));
 
     // Readers bound hand-edited numbers; the file keeps them.
     writeSupportFile("config.json", R"({"lockMinutes": 1e300, "lockLeadMinutes": -5,

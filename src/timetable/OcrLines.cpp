@@ -40,6 +40,17 @@ QList<QList<qsizetype>> lineIndices(const QList<RecognizedItem>& items) {
     return lines;
 }
 
+// The lines that read as rows of times.
+QList<qsizetype> tableLines(const QList<RecognizedItem>& items,
+                            const QList<QList<qsizetype>>& lines) {
+    QList<qsizetype> table;
+    for (qsizetype l = 0; l < lines.size(); ++l)
+        if (std::count_if(lines[l].begin(), lines[l].end(),
+                          [&](qsizetype i) { return words::isTimeLike(items[i].text); }) >= 3)
+            table << l;
+    return table;
+}
+
 bool isMeridiem(const QString& word) {
     static const QRegularExpression re(QStringLiteral("^[AaPp]\\.?[Mm]\\.?$"));
     return re.match(word).hasMatch();
@@ -138,11 +149,7 @@ QString timeCharacters(const QList<RecognizedItem>& items) {
 QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     using namespace words;
     const QList<QList<qsizetype>> lines = lineIndices(items);
-    QList<qsizetype> table; // the lines that read as rows of times
-    for (qsizetype l = 0; l < lines.size(); ++l)
-        if (std::count_if(lines[l].begin(), lines[l].end(),
-                          [&](qsizetype i) { return isTimeLike(items[i].text); }) >= 3)
-            table << l;
+    const QList<qsizetype> table = tableLines(items, lines);
     if (table.size() < 2) return {};
 
     // The time of another line that stands in the same column as item i: under its middle, or
@@ -271,6 +278,14 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
                                                                            : -1;
         doubts.append({firsts[k], Doubt::Day, counted});
     }
+    return doubts;
+}
+
+QList<Doubt> columnDoubts(const QList<RecognizedItem>& items) {
+    const QList<QList<qsizetype>> lines = lineIndices(items);
+    QList<Doubt> doubts;
+    for (const words::Slot& slot : words::emptySlots(items, lines, tableLines(items, lines)))
+        doubts.append({slot.item, Doubt::Time, -1, {}, slot.above, slot.below, slot.box});
     return doubts;
 }
 

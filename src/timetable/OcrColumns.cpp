@@ -1,0 +1,97 @@
+// The time columns of a table, learned from the rows that read cleanly: a row that read fewer
+// times keeps each of its cells in the column it stands in, readable or not.
+#include "timetable/OcrWords.h"
+
+#include <QMap>
+#include <algorithm>
+
+namespace tarvanel::OcrLines::words {
+
+namespace {
+
+qreal overlap(const QRectF& a, const QRectF& b) {
+    return std::min(a.right(), b.right()) - std::max(a.left(), b.left());
+}
+
+// The words of `line` that stand in `column`: more than half of the narrower of the two
+// lies across the other.
+QList<qsizetype> standingIn(const QList<RecognizedItem>& items, const QList<qsizetype>& line,
+                            const QRectF& column) {
+    QList<qsizetype> in;
+    for (qsizetype i : line)
+        if (overlap(items[i].box, column) > 0.5 * std::min(items[i].box.width(), column.width()))
+            in << i;
+    return in;
+}
+
+} // namespace
+
+QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
+                       const QList<qsizetype>& table) {
+    QMap<qsizetype, QList<qsizetype>> times; // per table line, left to right
+    QMap<qsizetype, int> rowsWith;           // rows per count of times
+    for (qsizetype l : table) {
+        for (qsizetype i : lines[l])
+            if (isTimeLike(items[i].text)) times[l] << i;
+        ++rowsWith[times[l].size()];
+    }
+    // The most times that a fair share of the rows read: a misreading loses times far more
+    // often than it adds them, and on a poor photo most rows may have lost one.
+    const int share = std::max<int>(2, int(table.size() / 5));
+    qsizetype columns = 0;
+    for (auto it = rowsWith.begin(); it != rowsWith.end(); ++it)
+        if (it.value() >= share) columns = it.key();
+    QList<qsizetype> clean;
+    for (qsizetype l : table)
+        if (times[l].size() == columns) clean << l;
+    if (columns < 3 || clean.size() < 2) return {};
+
+    // The clean time in `column` of line t, if it has one.
+    auto cleanTime = [&](qsizetype t, const QRectF& column) {
+        for (qsizetype i : standingIn(items, times[t], column))
+            if (isTime(items[i].text)) return items[i].text;
+        return QString();
+    };
+    QList<Slot> found;
+    for (qsizetype l : table) {
+        if (times[l].size() >= columns || times[l].isEmpty()) continue;
+        // The nearest clean row tells where the columns stand: a tilted photo moves them a
+        // little from row to row.
+        const qsizetype model = *std::min_element(clean.begin(), clean.end(), [&](auto a, auto b) {
+            return std::abs(a - l) < std::abs(b - l);
+        });
+        for (qsizetype k = 0; k < columns; ++k) {
+            const QRectF column = items[times[model][k]].box;
+            const QList<qsizetype> in = standingIn(items, lines[l], column);
+            if (std::any_of(in.begin(), in.end(),
+                            [&](qsizetype i) { return isTimeLike(items[i].text); }))
+                continue;
+            Slot slot;
+            if (in.size() == 1 && items[in[0]].box.width() < 1.6 * column.width()) {
+                slot.item = in[0];
+            } else if (std::none_of(lines[l].begin(), lines[l].end(), [&](qsizetype i) {
+                           return overlap(items[i].box, column) > 0;
+                       })) {
+                // Nothing read there: the cell stands at the height of the row's nearest time.
+                const qsizetype beside =
+                    *std::min_element(times[l].begin(), times[l].end(), [&](auto a, auto b) {
+                        return std::abs(items[a].box.center().x() - column.center().x()) <
+                               std::abs(items[b].box.center().x() - column.center().x());
+                    });
+                const QRectF row = items[beside].box;
+                slot.box = QRectF(column.left(), row.top(), column.width(), row.height());
+            } else {
+                continue; // a word across two cells: the readings of run-together cells see to it
+            }
+            const auto at = table.indexOf(l);
+            for (qsizetype t = at - 1; t >= 0 && at - t <= 3 && slot.above.isEmpty(); --t)
+                slot.above = cleanTime(table[t], column);
+            for (qsizetype t = at + 1; t < table.size() && t - at <= 3 && slot.below.isEmpty(); ++t)
+                slot.below = cleanTime(table[t], column);
+            found << slot;
+        }
+    }
+    return found;
+}
+
+} // namespace tarvanel::OcrLines::words

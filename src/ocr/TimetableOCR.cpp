@@ -18,7 +18,8 @@ namespace TimetableOCR {
 
 namespace {
 
-// How much of a table the lines hold: the most times that rows of one width give together.
+// How much of a table the lines hold: the most times that rows of one width give together,
+// counting only rows that name their day (a reading that lost the day column gives no day).
 struct TableShape {
     int cells = 0;
     int times = 0;
@@ -27,7 +28,7 @@ TableShape tableShape(const QStringList& lines) {
     QMap<qsizetype, int> rowsWithCount;
     TableShape shape;
     for (const ParsedRow& row : TimetableParser::parse(lines)) {
-        ++rowsWithCount[row.times.size()];
+        if (row.day || row.date) ++rowsWithCount[row.times.size()];
         shape.times += int(row.times.size());
     }
     for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it)

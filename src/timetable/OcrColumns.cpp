@@ -67,8 +67,18 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                             [&](qsizetype i) { return isTimeLike(items[i].text); }))
                 continue;
             Slot slot;
-            if (in.size() == 1 && items[in[0]].box.width() < 1.6 * column.width()) {
-                slot.item = in[0];
+            // A word reaching into the next column is cells run together, a case of its own.
+            auto alsoIn = [&](qsizetype i, qsizetype c) {
+                return c >= 0 && c < columns &&
+                       overlap(items[i].box, items[times[model][c]].box) > 0;
+            };
+            // A cell read as two words stands for itself in the widest of them.
+            if (!in.isEmpty() && std::none_of(in.begin(), in.end(), [&](qsizetype i) {
+                    return alsoIn(i, k - 1) || alsoIn(i, k + 1);
+                })) {
+                slot.item = *std::max_element(in.begin(), in.end(), [&](auto a, auto b) {
+                    return items[a].box.width() < items[b].box.width();
+                });
             } else if (std::none_of(lines[l].begin(), lines[l].end(), [&](qsizetype i) {
                            return overlap(items[i].box, column) > 0;
                        })) {
@@ -81,7 +91,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                 const QRectF row = items[beside].box;
                 slot.box = QRectF(column.left(), row.top(), column.width(), row.height());
             } else {
-                continue; // a word across two cells: the readings of run-together cells see to it
+                continue;
             }
             const auto at = table.indexOf(l);
             for (qsizetype t = at - 1; t >= 0 && at - t <= 3 && slot.above.isEmpty(); --t)

@@ -111,11 +111,17 @@ QString fromColumn(const Doubt& doubt, const QStringList& readings) {
         const QRegularExpressionMatch m = minutes.match(reading);
         if (!m.hasMatch()) continue;
         const int minute = m.captured(1).toInt();
+        QString best;
+        int bestDistance = 31;
         for (int hour : {near.hour, near.hour - 1, near.hour + 1}) {
             const QString time = near.text(hour, minute);
-            if (isTime(time) && dialDistance(dialMinutes(time), near.hour * 60 + near.minute) <= 30)
-                return time;
+            const int distance = dialDistance(dialMinutes(time), near.hour * 60 + near.minute);
+            if (hour >= 1 && isTime(time) && distance < bestDistance) {
+                best = time;
+                bestDistance = distance;
+            }
         }
+        if (!best.isEmpty()) return best;
     }
     // One digit left: the nearest time, if it ends in it ("a0" under 9:30).
     static const QRegularExpression digit(QStringLiteral("^\\D{0,2}(\\d)$"));

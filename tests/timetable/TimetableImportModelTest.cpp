@@ -278,6 +278,68 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Day}, "A", "x"), "A");
 }
 
+TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead) {
+    // Day and five time columns. Row 3 reads junk in the second column and nothing at all in
+    // the fifth; row 5 reads a cell as two words. The heading and the note are no rows.
+    const QStringList rows[] = {{"Day", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"},
+                                {"1", "5:10", "1:05", "3:30", "6:10", "7:50"},
+                                {"2", "5:09", "1:05", "3:31", "6:11", "7:51"},
+                                {"3", "5:08", "#15", "3:32", "6:12", ""},
+                                {"4", "5:07", "1:30", "3:33", "6:13", "7:54"},
+                                {"5", "5:06", "1:30", "3:34", "6:14", "7:55"},
+                                {"6", "5:05", "1:30", "3:35", "6:15", "7:56"},
+                                {"Jumu'ah", "1:30", "in", "winter", "only", ""}};
+    auto box = [](int left, int row, int right) {
+        return OcrLines::relativeBox(left, row * 50, right, row * 50 + 20, 1200, 1000);
+    };
+    auto read = [&](QList<int> which) {
+        QList<RecognizedItem> items;
+        for (int r : which)
+            for (int c = 0; c < 6; ++c)
+                if (!rows[r][c].isEmpty())
+                    items.append({rows[r][c], box(c * 200, r, c * 200 + 80)});
+        return items;
+    };
+    QList<RecognizedItem> items = read({0, 1, 2, 3, 4, 5, 6, 7});
+    for (RecognizedItem& item : items)
+        if (item.text == "3:34") item = {"3:", box(600, 5, 645)};
+    items.append({"34", box(650, 5, 680)});
+
+    const QList<OcrLines::Doubt> doubts = OcrLines::columnDoubts(items);
+    ASSERT_EQ(doubts.size(), 3);
+    const OcrLines::Doubt junk = doubts[0], missing = doubts[1], halves = doubts[2];
+    EXPECT_EQ(items[junk.item].text, "#15");
+    EXPECT_EQ(std::pair(junk.above, junk.below), std::pair(QString("1:05"), QString("1:30")));
+    // Nothing read: where the column stands, at the row's height.
+    EXPECT_EQ(missing.item, -1);
+    EXPECT_EQ(missing.box, box(1000, 3, 1080));
+    EXPECT_EQ(std::pair(missing.above, missing.below), std::pair(QString("7:51"), QString("7:54")));
+    EXPECT_EQ(items[halves.item].text, "3:"); // the wider of the two
+    EXPECT_EQ(std::pair(halves.above, halves.below), std::pair(QString("3:33"), QString("3:35")));
+
+    // Minutes still read take the hour of the nearest clean time, within half an hour of it.
+    EXPECT_EQ(OcrLines::settle(junk, "#15", "#15"), "1:15");
+    EXPECT_EQ(OcrLines::settle(junk, "#35", "&35"), "1:35");
+    EXPECT_EQ(OcrLines::settle(junk, "#36", "#36"), "#36");
+    EXPECT_EQ(OcrLines::settle(junk, "a5", ""), "1:05"); // one digit: the nearest, if it ends so
+    EXPECT_EQ(OcrLines::settle(junk, "a0", ""), "a0");
+    EXPECT_EQ(OcrLines::settle(junk, "xx", "x"), "xx"); // 1:05 and 1:30 agree on nothing
+    // Midway between times up to four minutes apart, in the print of the one above.
+    EXPECT_EQ(OcrLines::settle(halves, "3:", ""), "3:34");
+    EXPECT_EQ(OcrLines::settle(missing, "", ""), "7:52");
+    OcrLines::Doubt apart = missing;
+    apart.below = "7.55pm";
+    EXPECT_EQ(OcrLines::settle(apart, "", "~"), "7:53");
+    apart.below = "7:56";
+    EXPECT_EQ(OcrLines::settle(apart, "", "~"), "");
+    // A cell that reads as a time keeps it; one without a column to learn from stays as read.
+    EXPECT_EQ(OcrLines::settle(missing, "", "7:50"), "7:50");
+    EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Time}, "#15", "#15"), "#15");
+
+    // One row read cleanly is no column to go by.
+    EXPECT_TRUE(OcrLines::columnDoubts(read({0, 1, 3, 7})).isEmpty());
+}
+
 TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     // Ramadan across two months, numbered by day alone: 20–31 March, then 1–19 April.
     QString text = "Ramadan 1447 / March 2026\n";

@@ -115,23 +115,25 @@ void repair(QList<RecognizedItem>& items, QList<Recognizer::Word> words, Recogni
         else
             readAgain(doubt);
     }
-    for (OcrLines::Doubt doubt : OcrLines::columnDoubts(items)) {
-        if (doubt.item < 0) {
-            const QRectF at = doubt.box;
-            words.append(
-                {QString(), QRectF(at.left() * whole.width(), (1 - at.bottom()) * whole.height(),
-                                   at.width() * whole.width(), at.height() * whole.height())
-                                .toRect()});
-            items.append({QString(), at});
-            doubt.item = items.size() - 1;
+    // Twice: a cell settled in the first round is a clean time the second can go by.
+    for (int round = 0; round < 2; ++round)
+        for (OcrLines::Doubt doubt : OcrLines::columnDoubts(items)) {
+            if (doubt.item < 0) {
+                const QRectF at = doubt.box;
+                words.append({QString(),
+                              QRectF(at.left() * whole.width(), (1 - at.bottom()) * whole.height(),
+                                     at.width() * whole.width(), at.height() * whole.height())
+                                  .toRect()});
+                items.append({QString(), at});
+                doubt.item = items.size() - 1;
+            }
+            // What the column says counts only once the cell's own readings have had their say.
+            OcrLines::Doubt alone = doubt;
+            alone.above = alone.below = QString();
+            if (!reread.contains(doubt.item) && readAgain(alone)) continue;
+            QString& text = items[doubt.item].text;
+            text = OcrLines::settle(doubt, text, text);
         }
-        // What the column says counts only once the cell's own readings have had their say.
-        OcrLines::Doubt alone = doubt;
-        alone.above = alone.below = QString();
-        if (!reread.contains(doubt.item) && readAgain(alone)) continue;
-        QString& text = items[doubt.item].text;
-        text = OcrLines::settle(doubt, text, text);
-    }
 }
 
 // Full dates down the first column count up a day a row: one that is unreadable, or off the

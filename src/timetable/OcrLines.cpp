@@ -227,7 +227,8 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             const int a = dialMinutes(items[above].text), b = dialMinutes(items[below].text);
             const int x = dialMinutes(items[i].text);
             if (dialDistance(a, b) <= 4 && std::min(dialDistance(x, a), dialDistance(x, b)) >= 4)
-                doubts.append({i, Doubt::Time, midway(a, b)});
+                doubts.append(
+                    {i, Doubt::Time, midway(a, b), a == b ? items[above].text : QString()});
         }
     }
 

@@ -135,6 +135,14 @@ QString fromColumn(const Doubt& doubt, const QStringList& readings) {
     if (std::abs(a - b) > 4) return {};
     return above.text((a + b) / 2 / 60, (a + b) / 2 % 60);
 }
+// "8:00" between two rows of 5:00: the minutes agree and only the hour is off, by an hour or
+// more, which no printed time does for a single day (a change of clock moves the rows after it
+// too). A digit of the hour misread (8 for 5, 1 for 7, 11 for 1).
+bool hourMisread(const QString& time, const QString& agreed) {
+    const Clock read = clockOf(time), around = clockOf(agreed);
+    return read.hour >= 0 && around.hour >= 0 && read.minute == around.minute &&
+           dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
+}
 } // namespace
 
 QString settle(const Doubt& doubt, const QString& first, const QString& second) {
@@ -188,10 +196,11 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
         return first;
     }
     if (doubt.expected < 0 || !isTime(first)) return second;
-    return dialDistance(dialMinutes(second), doubt.expected) <
-                   dialDistance(dialMinutes(first), doubt.expected)
-               ? second
-               : first;
+    const QString kept = dialDistance(dialMinutes(second), doubt.expected) <
+                                 dialDistance(dialMinutes(first), doubt.expected)
+                             ? second
+                             : first;
+    return hourMisread(kept, doubt.agreed) ? doubt.agreed : kept;
 }
 
 } // namespace tarvanel::OcrLines

@@ -336,6 +336,15 @@ TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead
     EXPECT_EQ(OcrLines::settle(missing, "", "7:50"), "7:50");
     EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Time}, "#15", "#15"), "#15");
 
+    // A clean time between two rows that agree, off by its hour alone, an hour or more: a
+    // misread hour digit. Other differences stand (a Friday's Dhuhr jamaat).
+    const OcrLines::Doubt hour{0, OcrLines::Doubt::Time, 90, "1:30"};
+    EXPECT_EQ(OcrLines::settle(hour, "11:30", "11:30"), "1:30");
+    EXPECT_EQ(OcrLines::settle(hour, "2:30", "2:31"), "1:30");
+    EXPECT_EQ(OcrLines::settle(hour, "13:30", "11:30"), "13:30");
+    EXPECT_EQ(OcrLines::settle(hour, "1:45", "1:45"), "1:45");
+    EXPECT_EQ(OcrLines::settle(hour, "12:31", "12:31"), "12:31");
+
     // One row read cleanly is no column to go by.
     EXPECT_TRUE(OcrLines::columnDoubts(read({0, 1, 3, 7})).isEmpty());
 }

@@ -3,6 +3,7 @@
 #include "timetable/OcrWords.h"
 
 #include <QMap>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace tarvanel::OcrLines::words {
@@ -46,6 +47,32 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
         if (times[l].size() == columns) clean << l;
     if (columns < 3 || clean.size() < 2) return {};
 
+    // The nearest clean row tells where the columns stand: a tilted photo moves them a little
+    // from row to row.
+    auto nearestClean = [&](qsizetype l) {
+        return *std::min_element(clean.begin(), clean.end(),
+                                 [&](auto a, auto b) { return std::abs(a - l) < std::abs(b - l); });
+    };
+    // A row read too poorly to count among the table's (a photo's edge blurs its last row): a
+    // line in or next to the table, with a time, and a word with digits in every column.
+    static const QRegularExpression digit(QStringLiteral("\\d"));
+    auto poorRow = [&](qsizetype l) {
+        if (l < 0 || l >= lines.size() || table.contains(l)) return false;
+        for (qsizetype i : lines[l])
+            if (isTimeLike(items[i].text)) times[l] << i;
+        const qsizetype model = nearestClean(l);
+        for (qsizetype k = 0; k < columns; ++k) {
+            const QList<qsizetype> in = standingIn(items, lines[l], items[times[model][k]].box);
+            if (std::none_of(in.begin(), in.end(),
+                             [&](qsizetype i) { return asDigits(items[i].text).contains(digit); }))
+                return false;
+        }
+        return !times[l].isEmpty();
+    };
+    QList<qsizetype> rows;
+    for (qsizetype l = table.first() - 1; l <= table.last() + 1; ++l)
+        if (table.contains(l) || poorRow(l)) rows << l;
+
     // The clean time in `column` of line t, if it has one.
     auto cleanTime = [&](qsizetype t, const QRectF& column) {
         for (qsizetype i : standingIn(items, times[t], column))
@@ -53,13 +80,9 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
         return QString();
     };
     QList<Slot> found;
-    for (qsizetype l : table) {
+    for (qsizetype l : rows) {
         if (times[l].size() >= columns || times[l].isEmpty()) continue;
-        // The nearest clean row tells where the columns stand: a tilted photo moves them a
-        // little from row to row.
-        const qsizetype model = *std::min_element(clean.begin(), clean.end(), [&](auto a, auto b) {
-            return std::abs(a - l) < std::abs(b - l);
-        });
+        const qsizetype model = nearestClean(l);
         for (qsizetype k = 0; k < columns; ++k) {
             const QRectF column = items[times[model][k]].box;
             const QList<qsizetype> in = standingIn(items, lines[l], column);
@@ -93,11 +116,11 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             } else {
                 continue;
             }
-            const auto at = table.indexOf(l);
+            const auto at = rows.indexOf(l);
             for (qsizetype t = at - 1; t >= 0 && at - t <= 3 && slot.above.isEmpty(); --t)
-                slot.above = cleanTime(table[t], column);
-            for (qsizetype t = at + 1; t < table.size() && t - at <= 3 && slot.below.isEmpty(); ++t)
-                slot.below = cleanTime(table[t], column);
+                slot.above = cleanTime(rows[t], column);
+            for (qsizetype t = at + 1; t < rows.size() && t - at <= 3 && slot.below.isEmpty(); ++t)
+                slot.below = cleanTime(rows[t], column);
             found << slot;
         }
     }

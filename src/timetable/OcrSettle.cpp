@@ -123,6 +123,15 @@ QString fromColumn(const Doubt& doubt, const QStringList& readings) {
         }
         if (!best.isEmpty()) return best;
     }
+    // The colon read as another character ("7230", "4z43"), when that gives a time near it.
+    static const QRegularExpression colonAsCharacter(
+        QStringLiteral("^([01]?\\d|2[0-3])[^\\s:.]([0-5]\\d)$"));
+    for (const QString& reading : readings) {
+        const QRegularExpressionMatch m = colonAsCharacter.match(reading);
+        if (!m.hasMatch()) continue;
+        const QString time = near.text(m.captured(1).toInt(), m.captured(2).toInt());
+        if (dialDistance(dialMinutes(time), near.hour * 60 + near.minute) <= 30) return time;
+    }
     // One digit left: the nearest time, if it ends in it ("a0" under 9:30).
     static const QRegularExpression digit(QStringLiteral("^\\D{0,2}(\\d)$"));
     const QString nearest = doubt.above.isEmpty() ? doubt.below : doubt.above;

@@ -124,6 +124,28 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             found << slot;
         }
     }
+    // A clean time that the column's times around it say was misread: the nearest times above
+    // and below that read otherwise agree, and it differs from them as a misreading does.
+    for (qsizetype at = 0; at < rows.size(); ++at) {
+        const qsizetype model = nearestClean(rows[at]);
+        for (qsizetype k = 0; k < columns; ++k) {
+            const QRectF column = items[times[model][k]].box;
+            const QString time = cleanTime(rows[at], column);
+            if (time.isEmpty()) continue;
+            auto otherThan = [&](int step) {
+                for (qsizetype t = at + step; t >= 0 && t < rows.size() && std::abs(t - at) <= 3;
+                     t += step)
+                    if (const QString other = cleanTime(rows[t], column);
+                        !other.isEmpty() && other != time)
+                        return other;
+                return QString();
+            };
+            const QString above = otherThan(-1);
+            if (above.isEmpty() || above != otherThan(1) || !misread(time, above)) continue;
+            for (qsizetype i : standingIn(items, times[rows[at]], column))
+                if (items[i].text == time) found.append({i, {}, above, above});
+        }
+    }
     return found;
 }
 

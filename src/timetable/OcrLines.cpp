@@ -285,8 +285,12 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
 QList<Doubt> columnDoubts(const QList<RecognizedItem>& items) {
     const QList<QList<qsizetype>> lines = lineIndices(items);
     QList<Doubt> doubts;
-    for (const words::Slot& slot : words::emptySlots(items, lines, tableLines(items, lines)))
-        doubts.append({slot.item, Doubt::Time, -1, {}, slot.above, slot.below, slot.box});
+    for (const words::Slot& slot : words::emptySlots(items, lines, tableLines(items, lines))) {
+        if (slot.item >= 0 && isTime(items[slot.item].text)) // misread: what the rows agree on
+            doubts.append({slot.item, Doubt::Time, words::dialMinutes(slot.above), slot.above});
+        else
+            doubts.append({slot.item, Doubt::Time, -1, {}, slot.above, slot.below, slot.box});
+    }
     return doubts;
 }
 

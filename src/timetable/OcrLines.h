@@ -66,8 +66,9 @@ struct Doubt {
 QList<Doubt> doubtful(const QList<RecognizedItem>& items);
 // The cells of the table's time columns that hold no time, in the rows that read fewer times
 // than the rows read cleanly: a word that reads as no time, or a place where nothing was read
-// (`item` -1). Meant for items already settled one by one, so that the columns are learned
-// from as many clean rows as there can be.
+// (`item` -1); and clean times the column's times around them say were misread (`agreed`). Meant
+// for items already settled one by one, so that the columns are learned from as many clean rows as
+// there can be.
 QList<Doubt> columnDoubts(const QList<RecognizedItem>& items);
 // The text to keep for a doubtful item read `first` and then, with fewer characters allowed,
 // `second`: a second reading that is no time or day never wins, nor one further from what the

@@ -3,6 +3,7 @@
 #include "timetable/OcrWords.h"
 
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 namespace tarvanel::OcrLines {
@@ -144,14 +145,6 @@ QString fromColumn(const Doubt& doubt, const QStringList& readings) {
     if (std::abs(a - b) > 4) return {};
     return above.text((a + b) / 2 / 60, (a + b) / 2 % 60);
 }
-// "8:00" between two rows of 5:00: the minutes agree and only the hour is off, by an hour or
-// more, which no printed time does for a single day (a change of clock moves the rows after it
-// too). A digit of the hour misread (8 for 5, 1 for 7, 11 for 1).
-bool hourMisread(const QString& time, const QString& agreed) {
-    const Clock read = clockOf(time), around = clockOf(agreed);
-    return read.hour >= 0 && around.hour >= 0 && read.minute == around.minute &&
-           dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
-}
 } // namespace
 
 QString settle(const Doubt& doubt, const QString& first, const QString& second) {
@@ -209,7 +202,32 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
                                  dialDistance(dialMinutes(first), doubt.expected)
                              ? second
                              : first;
-    return hourMisread(kept, doubt.agreed) ? doubt.agreed : kept;
+    return misread(kept, doubt.agreed) ? doubt.agreed : kept;
 }
+
+namespace words {
+
+// A change of clock moves the rows after it too, and a jamaat time changes for days on end,
+// not for one: one day apart from the rows around it by its hour alone, or by one digit's
+// look-alike, is a misreading.
+bool misread(const QString& time, const QString& agreed) {
+    const Clock read = clockOf(time), around = clockOf(agreed);
+    if (read.hour < 0 || around.hour < 0) return false;
+    if (read.minute == around.minute)
+        return dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
+    static const QList<QSet<QChar>> lookalikes{{u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'},
+                                               {u'5', u'6'}, {u'6', u'8'}, {u'1', u'7'},
+                                               {u'3', u'5'}, {u'8', u'9'}, {u'0', u'9'}};
+    if (read.hour != around.hour || time.size() != agreed.size()) return false;
+    qsizetype differ = -1;
+    for (qsizetype c = 0; c < time.size(); ++c)
+        if (time[c] != agreed[c]) {
+            if (differ >= 0) return false;
+            differ = c;
+        }
+    return differ >= 0 && lookalikes.contains(QSet<QChar>{time[differ], agreed[differ]});
+}
+
+} // namespace words
 
 } // namespace tarvanel::OcrLines

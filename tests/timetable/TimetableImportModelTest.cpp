@@ -1,6 +1,7 @@
 #include "timetable/TimetableImportModel.h"
 #include "support/TestEnv.h"
 #include "timetable/OcrLines.h"
+#include "timetable/OcrWords.h"
 #include "timetable/ReaderMessages.h"
 
 #include <QFile>
@@ -287,7 +288,7 @@ TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead
                                 {"2", "5:09", "1:05", "3:31", "6:11", "7:51"},
                                 {"3", "5:08", "#15", "3:32", "6:12", ""},
                                 {"4", "5:07", "1:30", "3:33", "6:13", "7:54"},
-                                {"5", "5:06", "1:30", "3:34", "6:14", "7:55"},
+                                {"5", "5:06", "1:36", "3:34", "6:14", "7:55"},
                                 {"6", "5:05", "1:30", "3:35", "6:15", "7:56"},
                                 {"7", "5:04", "1a30", "3:3b", "6l16", "7:57"},
                                 {"Jumu'ah", "1:30", "in", "winter", "only", ""}};
@@ -308,11 +309,11 @@ TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead
     items.append({"34", box(650, 5, 680)});
 
     const QList<OcrLines::Doubt> doubts = OcrLines::columnDoubts(items);
-    ASSERT_EQ(doubts.size(), 6);
+    ASSERT_EQ(doubts.size(), 7);
     const OcrLines::Doubt junk = doubts[0], missing = doubts[1], halves = doubts[2];
     // The poor row's cells too, the colon read as another character.
     QStringList poor;
-    for (const OcrLines::Doubt& d : doubts.mid(3))
+    for (const OcrLines::Doubt& d : doubts.mid(3, 3))
         poor << items[d.item].text + " " + OcrLines::settle(d, items[d.item].text, "");
     EXPECT_EQ(poor, QStringList({"1a30 1:30", "3:3b 3:36", "6l16 6:16"}));
     EXPECT_EQ(items[junk.item].text, "#15");
@@ -351,6 +352,17 @@ TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead
     EXPECT_EQ(OcrLines::settle(hour, "13:30", "11:30"), "13:30");
     EXPECT_EQ(OcrLines::settle(hour, "1:45", "1:45"), "1:45");
     EXPECT_EQ(OcrLines::settle(hour, "12:31", "12:31"), "12:31");
+
+    // 1:36 between rows of 1:30: a look-alike digit, found by the column and settled so.
+    const OcrLines::Doubt lookalike = doubts[6];
+    EXPECT_EQ(std::tuple(items[lookalike.item].text, lookalike.agreed, lookalike.expected),
+              std::tuple(QString("1:36"), QString("1:30"), 90));
+    EXPECT_EQ(OcrLines::settle(lookalike, "1:36", "1:36"), "1:30");
+    EXPECT_EQ(OcrLines::settle(lookalike, "1:36", "1:31"), "1:31");
+    using OcrLines::words::misread;
+    EXPECT_TRUE(misread("19:36", "19:30") && misread("8:00", "5:00") && misread("4:30", "4:36"));
+    EXPECT_FALSE(misread("13:30", "1:30") || misread("1:34", "1:30") || misread("1:45", "1:30") ||
+                 misread("2:36", "1:30") || misread("7:30pm", "7:36"));
 
     // One row read cleanly is no column to go by.
     EXPECT_TRUE(OcrLines::columnDoubts(read({0, 1, 3, 8})).isEmpty());

@@ -215,9 +215,9 @@ bool misread(const QString& time, const QString& agreed) {
     if (read.hour < 0 || around.hour < 0) return false;
     if (read.minute == around.minute)
         return dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
-    static const QList<QSet<QChar>> lookalikes{{u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'},
-                                               {u'5', u'6'}, {u'6', u'8'}, {u'1', u'7'},
-                                               {u'3', u'5'}, {u'8', u'9'}, {u'0', u'9'}};
+    static const QList<QSet<QChar>> lookalikes{
+        {u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'}, {u'5', u'6'}, {u'6', u'8'},
+        {u'1', u'7'}, {u'3', u'5'}, {u'8', u'9'}, {u'0', u'9'}, {u'5', u'8'}};
     if (read.hour != around.hour || time.size() != agreed.size()) return false;
     qsizetype differ = -1;
     for (qsizetype c = 0; c < time.size(); ++c)

@@ -360,7 +360,8 @@ TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead
     EXPECT_EQ(OcrLines::settle(lookalike, "1:36", "1:36"), "1:30");
     EXPECT_EQ(OcrLines::settle(lookalike, "1:36", "1:31"), "1:31");
     using OcrLines::words::misread;
-    EXPECT_TRUE(misread("19:36", "19:30") && misread("8:00", "5:00") && misread("4:30", "4:36"));
+    EXPECT_TRUE(misread("19:36", "19:30") && misread("8:00", "5:00") && misread("4:30", "4:36") &&
+                misread("5.18", "5.15"));
     EXPECT_FALSE(misread("13:30", "1:30") || misread("1:34", "1:30") || misread("1:45", "1:30") ||
                  misread("2:36", "1:30") || misread("7:30pm", "7:36"));
 

@@ -195,13 +195,13 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
     QList<RecognizedItem> items = relative(words, page);
     const QList<RecognizedItem> first = items;
     repair(items, words, recognizer, page);
-    // A cell the second reading or its neighbours changed is shown to the user to check, once
-    // it reads as a cell the table can use.
     // Cells read where nothing had been read are kept only as times.
     items.erase(
         std::remove_if(items.begin() + first.size(), items.end(),
                        [](const RecognizedItem& item) { return !OcrLines::isTime(item.text); }),
         items.end());
+    // A cell the second reading or its neighbours changed, or one read where nothing had been,
+    // is shown to the user to check, once it reads as a cell the table can use.
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i].doubtful = (i >= first.size() || items[i].text != first[i].text) &&
                             (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));

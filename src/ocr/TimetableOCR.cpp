@@ -8,6 +8,7 @@
 
 #include <QDate>
 #include <QRegularExpression>
+#include <QSet>
 #include <climits>
 #include <leptonica/allheaders.h>
 #include <unistd.h>
@@ -17,7 +18,8 @@ namespace TimetableOCR {
 
 namespace {
 
-// How much of a table the lines hold: the most times that rows of one width give together.
+// How much of a table the lines hold: the most times that rows of one width give together,
+// counting only rows that name their day (a reading that lost the day column gives no day).
 struct TableShape {
     int cells = 0;
     int times = 0;
@@ -26,7 +28,7 @@ TableShape tableShape(const QStringList& lines) {
     QMap<qsizetype, int> rowsWithCount;
     TableShape shape;
     for (const ParsedRow& row : TimetableParser::parse(lines)) {
-        ++rowsWithCount[row.times.size()];
+        if (row.day || row.date) ++rowsWithCount[row.times.size()];
         shape.times += int(row.times.size());
     }
     for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it)
@@ -82,31 +84,56 @@ QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
 
 // Reads again, with only a time's or a day's characters allowed, the words that stand in the
 // table's time and day columns but read as something else, or stand apart from the days
-// around them.
-void repair(QList<RecognizedItem>& items, const QList<Recognizer::Word>& words,
-            Recognizer& recognizer, Pix* page) {
+// around them; then, the columns learned from the rows that now read cleanly, the cells of
+// those columns that still hold no time, and those where nothing was read at all.
+void repair(QList<RecognizedItem>& items, QList<Recognizer::Word> words, Recognizer& recognizer,
+            Pix* page) {
     const QByteArray timeCharacters = OcrLines::timeCharacters(items).toLatin1();
     const QRect whole(0, 0, pixGetWidth(page), pixGetHeight(page));
-    for (const OcrLines::Doubt& doubt : OcrLines::doubtful(items)) {
+    QSet<qsizetype> reread;
+    // Some print reads right only larger (a serif 4 passes for an A).
+    auto readAgain = [&](const OcrLines::Doubt& doubt) {
         QString& text = items[doubt.item].text;
         const bool time = doubt.kind == OcrLines::Doubt::Time;
-        if (!time && doubt.expected > 0) { // the count says it; no need to look again
-            text = OcrLines::settle(doubt, text, {});
-            continue;
-        }
         const QRect box = words[doubt.item].box;
         const int margin = box.height() / 3;
         const QRect area = box.adjusted(-margin, -margin, margin, margin).intersected(whole);
-        // Some print reads right only larger (a serif 4 passes for an A).
+        reread << doubt.item;
         for (int scale : {1, 2, 3}) {
             const QString second = recognizer.reread(
                 page, area, time ? timeCharacters.constData() : "0123456789", scale);
             const QString kept = OcrLines::settle(doubt, text, second);
             if (kept == text) continue;
             text = kept;
-            break;
+            return true;
         }
+        return false;
+    };
+    for (const OcrLines::Doubt& doubt : OcrLines::doubtful(items)) {
+        if (doubt.kind == OcrLines::Doubt::Day && doubt.expected > 0) // the count says it
+            items[doubt.item].text = OcrLines::settle(doubt, items[doubt.item].text, {});
+        else
+            readAgain(doubt);
     }
+    // Twice: a cell settled in the first round is a clean time the second can go by.
+    for (int round = 0; round < 2; ++round)
+        for (OcrLines::Doubt doubt : OcrLines::columnDoubts(items)) {
+            if (doubt.item < 0) {
+                const QRectF at = doubt.box;
+                words.append({QString(),
+                              QRectF(at.left() * whole.width(), (1 - at.bottom()) * whole.height(),
+                                     at.width() * whole.width(), at.height() * whole.height())
+                                  .toRect()});
+                items.append({QString(), at});
+                doubt.item = items.size() - 1;
+            }
+            // What the column says counts only once the cell's own readings have had their say.
+            OcrLines::Doubt alone = doubt;
+            alone.above = alone.below = QString();
+            if (!reread.contains(doubt.item) && readAgain(alone)) continue;
+            QString& text = items[doubt.item].text;
+            text = OcrLines::settle(doubt, text, text);
+        }
 }
 
 // Full dates down the first column count up a day a row: one that is unreadable, or off the
@@ -168,10 +195,15 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
     QList<RecognizedItem> items = relative(words, page);
     const QList<RecognizedItem> first = items;
     repair(items, words, recognizer, page);
-    // A cell the second reading or its neighbours changed is shown to the user to check, once
-    // it reads as a cell the table can use.
+    // Cells read where nothing had been read are kept only as times.
+    items.erase(
+        std::remove_if(items.begin() + first.size(), items.end(),
+                       [](const RecognizedItem& item) { return !OcrLines::isTime(item.text); }),
+        items.end());
+    // A cell the second reading or its neighbours changed, or one read where nothing had been,
+    // is shown to the user to check, once it reads as a cell the table can use.
     for (qsizetype i = 0; i < items.size(); ++i)
-        items[i].doubtful = items[i].text != first[i].text &&
+        items[i].doubtful = (i >= first.size() || items[i].text != first[i].text) &&
                             (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));
     return datesCounted(OcrLines::group(items, marks), marks);
 }

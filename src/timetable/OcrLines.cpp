@@ -40,6 +40,17 @@ QList<QList<qsizetype>> lineIndices(const QList<RecognizedItem>& items) {
     return lines;
 }
 
+// The lines that read as rows of times.
+QList<qsizetype> tableLines(const QList<RecognizedItem>& items,
+                            const QList<QList<qsizetype>>& lines) {
+    QList<qsizetype> table;
+    for (qsizetype l = 0; l < lines.size(); ++l)
+        if (std::count_if(lines[l].begin(), lines[l].end(),
+                          [&](qsizetype i) { return words::isTimeLike(items[i].text); }) >= 3)
+            table << l;
+    return table;
+}
+
 bool isMeridiem(const QString& word) {
     static const QRegularExpression re(QStringLiteral("^[AaPp]\\.?[Mm]\\.?$"));
     return re.match(word).hasMatch();
@@ -138,11 +149,7 @@ QString timeCharacters(const QList<RecognizedItem>& items) {
 QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     using namespace words;
     const QList<QList<qsizetype>> lines = lineIndices(items);
-    QList<qsizetype> table; // the lines that read as rows of times
-    for (qsizetype l = 0; l < lines.size(); ++l)
-        if (std::count_if(lines[l].begin(), lines[l].end(),
-                          [&](qsizetype i) { return isTimeLike(items[i].text); }) >= 3)
-            table << l;
+    const QList<qsizetype> table = tableLines(items, lines);
     if (table.size() < 2) return {};
 
     // The time of another line that stands in the same column as item i: under its middle, or
@@ -220,7 +227,8 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             const int a = dialMinutes(items[above].text), b = dialMinutes(items[below].text);
             const int x = dialMinutes(items[i].text);
             if (dialDistance(a, b) <= 4 && std::min(dialDistance(x, a), dialDistance(x, b)) >= 4)
-                doubts.append({i, Doubt::Time, midway(a, b)});
+                doubts.append(
+                    {i, Doubt::Time, midway(a, b), a == b ? items[above].text : QString()});
         }
     }
 
@@ -270,6 +278,18 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
                             : above < 0 && below > 1                       ? below - 1
                                                                            : -1;
         doubts.append({firsts[k], Doubt::Day, counted});
+    }
+    return doubts;
+}
+
+QList<Doubt> columnDoubts(const QList<RecognizedItem>& items) {
+    const QList<QList<qsizetype>> lines = lineIndices(items);
+    QList<Doubt> doubts;
+    for (const words::Slot& slot : words::emptySlots(items, lines, tableLines(items, lines))) {
+        if (slot.item >= 0 && isTime(items[slot.item].text)) // misread: what the rows agree on
+            doubts.append({slot.item, Doubt::Time, words::dialMinutes(slot.above), slot.above});
+        else
+            doubts.append({slot.item, Doubt::Time, -1, {}, slot.above, slot.below, slot.box});
     }
     return doubts;
 }

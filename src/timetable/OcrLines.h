@@ -55,8 +55,21 @@ struct Doubt {
     // For a time: what the nearest rows above and below it both read in its column, when they
     // agree (a masjid keeps a jamaat time for days on end); empty otherwise.
     QString agreed = {};
+    // For a time standing in a column that holds a time in every row read cleanly, in a row
+    // short of times: the clean times nearest above and below it in that column (empty where
+    // there is none).
+    QString above = {}, below = {};
+    // Where the cell stands when nothing was read there at all (`item` is then -1), in the
+    // items' coordinates.
+    QRectF box = {};
 };
 QList<Doubt> doubtful(const QList<RecognizedItem>& items);
+// The cells of the table's time columns that hold no time, in the rows that read fewer times
+// than the rows read cleanly: a word that reads as no time, or a place where nothing was read
+// (`item` -1); and clean times the column's times around them say were misread (`agreed`). Meant
+// for items already settled one by one, so that the columns are learned from as many clean rows as
+// there can be.
+QList<Doubt> columnDoubts(const QList<RecognizedItem>& items);
 // The text to keep for a doubtful item read `first` and then, with fewer characters allowed,
 // `second`: a second reading that is no time or day never wins, nor one further from what the
 // neighbours say; a day the count gives wins over both readings.

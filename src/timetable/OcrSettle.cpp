@@ -3,6 +3,7 @@
 #include "timetable/OcrWords.h"
 
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 namespace tarvanel::OcrLines {
@@ -84,6 +85,66 @@ QString withHourOf(const QString& first, const QString& second) {
     const QString time = hour + second;
     return isTime(time) ? time : QString();
 }
+// The parts of a clean time: hour, separator, minutes and what follows them ("pm").
+struct Clock {
+    int hour = -1, minute = 0;
+    QString separator, after;
+    QString text(int h, int m) const {
+        return QString::number(h) + separator + QString::asprintf("%02d", m) + after;
+    }
+};
+Clock clockOf(const QString& time) {
+    static const QRegularExpression re(QStringLiteral("^(\\d{1,2})([:.])(\\d\\d)(.*)$"));
+    const QRegularExpressionMatch m = re.match(time);
+    if (!isTime(time) || !m.hasMatch()) return {};
+    return {m.captured(1).toInt(), m.captured(3).toInt(), m.captured(2), m.captured(4)};
+}
+
+// An unreadable cell of a time column, from the clean times nearest above and below it there:
+// minutes still read ("#15") under the hour of the nearest, as long as that keeps it within
+// half an hour of it; else the time both agree on, or the one midway between two a few
+// minutes apart (a begins time moves a minute a day). Empty when they say nothing.
+QString fromColumn(const Doubt& doubt, const QStringList& readings) {
+    const Clock near = clockOf(doubt.above.isEmpty() ? doubt.below : doubt.above);
+    if (near.hour < 0) return {};
+    static const QRegularExpression minutes(QStringLiteral("^\\D{0,2}([0-5]\\d)$"));
+    for (const QString& reading : readings) {
+        const QRegularExpressionMatch m = minutes.match(reading);
+        if (!m.hasMatch()) continue;
+        const int minute = m.captured(1).toInt();
+        QString best;
+        int bestDistance = 31;
+        for (int hour : {near.hour, near.hour - 1, near.hour + 1}) {
+            const QString time = near.text(hour, minute);
+            const int distance = dialDistance(dialMinutes(time), near.hour * 60 + near.minute);
+            if (hour >= 1 && isTime(time) && distance < bestDistance) {
+                best = time;
+                bestDistance = distance;
+            }
+        }
+        if (!best.isEmpty()) return best;
+    }
+    // The colon read as another character ("7230", "4z43"), when that gives a time near it.
+    static const QRegularExpression colonAsCharacter(
+        QStringLiteral("^([01]?\\d|2[0-3])[^\\s:.]([0-5]\\d)$"));
+    for (const QString& reading : readings) {
+        const QRegularExpressionMatch m = colonAsCharacter.match(reading);
+        if (!m.hasMatch()) continue;
+        const QString time = near.text(m.captured(1).toInt(), m.captured(2).toInt());
+        if (dialDistance(dialMinutes(time), near.hour * 60 + near.minute) <= 30) return time;
+    }
+    // One digit left: the nearest time, if it ends in it ("a0" under 9:30).
+    static const QRegularExpression digit(QStringLiteral("^\\D{0,2}(\\d)$"));
+    const QString nearest = doubt.above.isEmpty() ? doubt.below : doubt.above;
+    for (const QString& reading : readings)
+        if (const auto m = digit.match(reading); m.hasMatch() && nearest.endsWith(m.captured(1)))
+            return nearest;
+    const Clock above = clockOf(doubt.above), below = clockOf(doubt.below);
+    if (above.hour < 0 || below.hour < 0) return {};
+    const int a = above.hour * 60 + above.minute, b = below.hour * 60 + below.minute;
+    if (std::abs(a - b) > 4) return {};
+    return above.text((a + b) / 2 / 60, (a + b) / 2 % 60);
+}
 } // namespace
 
 QString settle(const Doubt& doubt, const QString& first, const QString& second) {
@@ -133,13 +194,40 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
                 doubt.agreed.endsWith(reading.right(std::min<qsizetype>(tail, 2))))
                 return doubt.agreed;
         }
+        if (const QString time = fromColumn(doubt, readings); !time.isEmpty()) return time;
         return first;
     }
     if (doubt.expected < 0 || !isTime(first)) return second;
-    return dialDistance(dialMinutes(second), doubt.expected) <
-                   dialDistance(dialMinutes(first), doubt.expected)
-               ? second
-               : first;
+    const QString kept = dialDistance(dialMinutes(second), doubt.expected) <
+                                 dialDistance(dialMinutes(first), doubt.expected)
+                             ? second
+                             : first;
+    return misread(kept, doubt.agreed) ? doubt.agreed : kept;
 }
+
+namespace words {
+
+// A change of clock moves the rows after it too, and a jamaat time changes for days on end,
+// not for one: one day apart from the rows around it by its hour alone, or by one digit's
+// look-alike, is a misreading.
+bool misread(const QString& time, const QString& agreed) {
+    const Clock read = clockOf(time), around = clockOf(agreed);
+    if (read.hour < 0 || around.hour < 0) return false;
+    if (read.minute == around.minute)
+        return dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
+    static const QList<QSet<QChar>> lookalikes{
+        {u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'}, {u'5', u'6'}, {u'6', u'8'},
+        {u'1', u'7'}, {u'3', u'5'}, {u'8', u'9'}, {u'0', u'9'}, {u'5', u'8'}};
+    if (read.hour != around.hour || time.size() != agreed.size()) return false;
+    qsizetype differ = -1;
+    for (qsizetype c = 0; c < time.size(); ++c)
+        if (time[c] != agreed[c]) {
+            if (differ >= 0) return false;
+            differ = c;
+        }
+    return differ >= 0 && lookalikes.contains(QSet<QChar>{time[differ], agreed[differ]});
+}
+
+} // namespace words
 
 } // namespace tarvanel::OcrLines

@@ -1,6 +1,10 @@
 #pragma once
 // What the reading of one recognised word rests on, shared by finding doubtful cells and
 // settling them: look-alike letters, lost colons and the twelve-hour dial.
+#include "timetable/OcrLines.h"
+
+#include <QList>
+#include <QRectF>
 #include <QRegularExpression>
 #include <QString>
 
@@ -16,5 +20,22 @@ QString asDigits(QString reading);
 // Minutes on a twelve-hour dial: a sheet may print 13:05 or 1:05 for the same time.
 int dialMinutes(const QString& time);
 int dialDistance(int a, int b);
+// A clean time that reads as `agreed` misread: only its hour off, by an hour or more (8:00
+// for 5:00, 11:30 for 1:30), or one digit taken for a look-alike (19:36 for 19:30).
+bool misread(const QString& time, const QString& agreed);
+
+// A cell of a time column: in a row that read fewer times than the rows read cleanly, the word
+// standing in it (-1 for none), where it stands, and the clean times nearest above and below
+// it in that column; or a clean time that those times, agreeing, say was misread.
+struct Slot {
+    qsizetype item = -1;
+    QRectF box;
+    QString above, below;
+};
+// The cells of the table's time columns that hold no time, or a misread one (`table`: lines
+// of `lines`, top to bottom, each item indices left to right), judged by the columns of the
+// rows that read cleanly.
+QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
+                       const QList<qsizetype>& table);
 
 } // namespace tarvanel::OcrLines::words

@@ -44,10 +44,9 @@ Score jamaatCells(const Layout& layout, const Sheet& sheet, const QStringList& r
 }
 
 // Photos whose print Tesseract does not read, here or from its own command line: thin serif and
-// typewriter type 8-10 px high, and Arabic am/pm letters that a blurred photo glues to the
-// times as stray characters. Measured and shown, held only to a floor under what they give
+// typewriter type 8-10 px high. Measured and shown, held only to a floor under what they give
 // now, so that losing that shows.
-const QStringList beyondReach{"6-photo", "9-photo", "14-snap"};
+const QStringList beyondReach{"6-photo", "9-photo"};
 
 struct Totals {
     Score held, beyond;
@@ -103,7 +102,7 @@ TEST(TimetableOcrTest, JamaatCellsOfPhotosOfThoseSheetsAreReadBack) {
     const Totals totals = readBack("photo", photos, 1000);
     EXPECT_GE(share(totals.held), 0.97);
     EXPECT_GE(totals.worst, 90);
-    EXPECT_GE(share(totals.beyond), 0.1);
+    EXPECT_GE(share(totals.beyond), 0.35);
 }
 
 // Other months than the clean renders and their photos, in other type and light.
@@ -111,7 +110,6 @@ TEST(TimetableOcrTest, JamaatCellsOfPhotosOfOtherMonthsAreReadBack) {
     const Totals totals = readBack("snap", snapshots, 2000);
     EXPECT_GE(share(totals.held), 0.97);
     EXPECT_GE(totals.worst, 90);
-    EXPECT_GE(share(totals.beyond), 0.5);
 }
 
 // A scanner's PDF holds pictures only: read by the recogniser, both months of the sheet filled.

@@ -1,6 +1,7 @@
 #include "timetable/TimetableImportModel.h"
 #include "support/TestEnv.h"
 #include "timetable/OcrLines.h"
+#include "timetable/OcrWords.h"
 #include "timetable/ReaderMessages.h"
 
 #include <QFile>
@@ -276,6 +277,96 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     EXPECT_EQ(OcrLines::settle(day, "A", "8"), "2");
     EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Day}, "A", "8"), "8");
     EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Day}, "A", "x"), "A");
+}
+
+TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead) {
+    // Day and five time columns. Row 3 reads junk in the second column and nothing at all in
+    // the fifth; row 5 reads a cell as two words; row 7 too poorly to count as a row of times.
+    // The heading and the note are no rows.
+    const QStringList rows[] = {{"Day", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"},
+                                {"1", "5:10", "1:05", "3:30", "6:10", "7:50"},
+                                {"2", "5:09", "1:05", "3:31", "6:11", "7:51"},
+                                {"3", "5:08", "#15", "3:32", "6:12", ""},
+                                {"4", "5:07", "1:30", "3:33", "6:13", "7:54"},
+                                {"5", "5:06", "1:36", "3:34", "6:14", "7:55"},
+                                {"6", "5:05", "1:30", "3:35", "6:15", "7:56"},
+                                {"7", "5:04", "1a30", "3:3b", "6l16", "7:57"},
+                                {"Jumu'ah", "1:30", "in", "winter", "only", ""}};
+    auto box = [](int left, int row, int right) {
+        return OcrLines::relativeBox(left, row * 50, right, row * 50 + 20, 1200, 1000);
+    };
+    auto read = [&](QList<int> which) {
+        QList<RecognizedItem> items;
+        for (int r : which)
+            for (int c = 0; c < 6; ++c)
+                if (!rows[r][c].isEmpty())
+                    items.append({rows[r][c], box(c * 200, r, c * 200 + 80)});
+        return items;
+    };
+    QList<RecognizedItem> items = read({0, 1, 2, 3, 4, 5, 6, 7, 8});
+    for (RecognizedItem& item : items)
+        if (item.text == "3:34") item = {"3:", box(600, 5, 645)};
+    items.append({"34", box(650, 5, 680)});
+
+    const QList<OcrLines::Doubt> doubts = OcrLines::columnDoubts(items);
+    ASSERT_EQ(doubts.size(), 7);
+    const OcrLines::Doubt junk = doubts[0], missing = doubts[1], halves = doubts[2];
+    // The poor row's cells too, the colon read as another character.
+    QStringList poor;
+    for (const OcrLines::Doubt& d : doubts.mid(3, 3))
+        poor << items[d.item].text + " " + OcrLines::settle(d, items[d.item].text, "");
+    EXPECT_EQ(poor, QStringList({"1a30 1:30", "3:3b 3:36", "6l16 6:16"}));
+    EXPECT_EQ(items[junk.item].text, "#15");
+    EXPECT_EQ(std::pair(junk.above, junk.below), std::pair(QString("1:05"), QString("1:30")));
+    // Nothing read: where the column stands, at the row's height.
+    EXPECT_EQ(missing.item, -1);
+    EXPECT_EQ(missing.box, box(1000, 3, 1080));
+    EXPECT_EQ(std::pair(missing.above, missing.below), std::pair(QString("7:51"), QString("7:54")));
+    EXPECT_EQ(items[halves.item].text, "3:"); // the wider of the two
+    EXPECT_EQ(std::pair(halves.above, halves.below), std::pair(QString("3:33"), QString("3:35")));
+
+    // Minutes still read take the hour of the nearest clean time, within half an hour of it.
+    EXPECT_EQ(OcrLines::settle(junk, "#15", "#15"), "1:15");
+    EXPECT_EQ(OcrLines::settle(junk, "#35", "&35"), "1:35");
+    EXPECT_EQ(OcrLines::settle(junk, "#36", "#36"), "#36");
+    EXPECT_EQ(OcrLines::settle(junk, "a5", ""), "1:05"); // one digit: the nearest, if it ends so
+    EXPECT_EQ(OcrLines::settle(junk, "a0", ""), "a0");
+    EXPECT_EQ(OcrLines::settle(junk, "xx", "x"), "xx"); // 1:05 and 1:30 agree on nothing
+    // Midway between times up to four minutes apart, in the print of the one above.
+    EXPECT_EQ(OcrLines::settle(halves, "3:", ""), "3:34");
+    EXPECT_EQ(OcrLines::settle(missing, "", ""), "7:52");
+    OcrLines::Doubt apart = missing;
+    apart.below = "7.55pm";
+    EXPECT_EQ(OcrLines::settle(apart, "", "~"), "7:53");
+    apart.below = "7:56";
+    EXPECT_EQ(OcrLines::settle(apart, "", "~"), "");
+    // A cell that reads as a time keeps it; one without a column to learn from stays as read.
+    EXPECT_EQ(OcrLines::settle(missing, "", "7:50"), "7:50");
+    EXPECT_EQ(OcrLines::settle({0, OcrLines::Doubt::Time}, "#15", "#15"), "#15");
+
+    // A clean time between two rows that agree, off by its hour alone, an hour or more: a
+    // misread hour digit. Other differences stand (a Friday's Dhuhr jamaat).
+    const OcrLines::Doubt hour{0, OcrLines::Doubt::Time, 90, "1:30"};
+    EXPECT_EQ(OcrLines::settle(hour, "11:30", "11:30"), "1:30");
+    EXPECT_EQ(OcrLines::settle(hour, "2:30", "2:31"), "1:30");
+    EXPECT_EQ(OcrLines::settle(hour, "13:30", "11:30"), "13:30");
+    EXPECT_EQ(OcrLines::settle(hour, "1:45", "1:45"), "1:45");
+    EXPECT_EQ(OcrLines::settle(hour, "12:31", "12:31"), "12:31");
+
+    // 1:36 between rows of 1:30: a look-alike digit, found by the column and settled so.
+    const OcrLines::Doubt lookalike = doubts[6];
+    EXPECT_EQ(std::tuple(items[lookalike.item].text, lookalike.agreed, lookalike.expected),
+              std::tuple(QString("1:36"), QString("1:30"), 90));
+    EXPECT_EQ(OcrLines::settle(lookalike, "1:36", "1:36"), "1:30");
+    EXPECT_EQ(OcrLines::settle(lookalike, "1:36", "1:31"), "1:31");
+    using OcrLines::words::misread;
+    EXPECT_TRUE(misread("19:36", "19:30") && misread("8:00", "5:00") && misread("4:30", "4:36") &&
+                misread("5.18", "5.15"));
+    EXPECT_FALSE(misread("13:30", "1:30") || misread("1:34", "1:30") || misread("1:45", "1:30") ||
+                 misread("2:36", "1:30") || misread("7:30pm", "7:36"));
+
+    // One row read cleanly is no column to go by.
+    EXPECT_TRUE(OcrLines::columnDoubts(read({0, 1, 3, 8})).isEmpty());
 }
 
 TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {

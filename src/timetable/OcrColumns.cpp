@@ -1,0 +1,152 @@
+// The time columns of a table, learned from the rows that read cleanly: a row that read fewer
+// times keeps each of its cells in the column it stands in, readable or not.
+#include "timetable/OcrWords.h"
+
+#include <QMap>
+#include <QRegularExpression>
+#include <algorithm>
+
+namespace tarvanel::OcrLines::words {
+
+namespace {
+
+qreal overlap(const QRectF& a, const QRectF& b) {
+    return std::min(a.right(), b.right()) - std::max(a.left(), b.left());
+}
+
+// The words of `line` that stand in `column`: more than half of the narrower of the two
+// lies across the other.
+QList<qsizetype> standingIn(const QList<RecognizedItem>& items, const QList<qsizetype>& line,
+                            const QRectF& column) {
+    QList<qsizetype> in;
+    for (qsizetype i : line)
+        if (overlap(items[i].box, column) > 0.5 * std::min(items[i].box.width(), column.width()))
+            in << i;
+    return in;
+}
+
+} // namespace
+
+QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
+                       const QList<qsizetype>& table) {
+    QMap<qsizetype, QList<qsizetype>> times; // per table line, left to right
+    QMap<qsizetype, int> rowsWith;           // rows per count of times
+    for (qsizetype l : table) {
+        for (qsizetype i : lines[l])
+            if (isTimeLike(items[i].text)) times[l] << i;
+        ++rowsWith[times[l].size()];
+    }
+    // The most times that a fair share of the rows read: a misreading loses times far more
+    // often than it adds them, and on a poor photo most rows may have lost one.
+    const int share = std::max<int>(2, int(table.size() / 5));
+    qsizetype columns = 0;
+    for (auto it = rowsWith.begin(); it != rowsWith.end(); ++it)
+        if (it.value() >= share) columns = it.key();
+    QList<qsizetype> clean;
+    for (qsizetype l : table)
+        if (times[l].size() == columns) clean << l;
+    if (columns < 3 || clean.size() < 2) return {};
+
+    // The nearest clean row tells where the columns stand: a tilted photo moves them a little
+    // from row to row.
+    auto nearestClean = [&](qsizetype l) {
+        return *std::min_element(clean.begin(), clean.end(),
+                                 [&](auto a, auto b) { return std::abs(a - l) < std::abs(b - l); });
+    };
+    // A row read too poorly to count among the table's (a photo's edge blurs its last row): a
+    // line in or next to the table, with a time, and a word with digits in every column.
+    static const QRegularExpression digit(QStringLiteral("\\d"));
+    auto poorRow = [&](qsizetype l) {
+        if (l < 0 || l >= lines.size() || table.contains(l)) return false;
+        for (qsizetype i : lines[l])
+            if (isTimeLike(items[i].text)) times[l] << i;
+        const qsizetype model = nearestClean(l);
+        for (qsizetype k = 0; k < columns; ++k) {
+            const QList<qsizetype> in = standingIn(items, lines[l], items[times[model][k]].box);
+            if (std::none_of(in.begin(), in.end(),
+                             [&](qsizetype i) { return asDigits(items[i].text).contains(digit); }))
+                return false;
+        }
+        return !times[l].isEmpty();
+    };
+    QList<qsizetype> rows;
+    for (qsizetype l = table.first() - 1; l <= table.last() + 1; ++l)
+        if (table.contains(l) || poorRow(l)) rows << l;
+
+    // The clean time in `column` of line t, if it has one.
+    auto cleanTime = [&](qsizetype t, const QRectF& column) {
+        for (qsizetype i : standingIn(items, times[t], column))
+            if (isTime(items[i].text)) return items[i].text;
+        return QString();
+    };
+    QList<Slot> found;
+    for (qsizetype l : rows) {
+        if (times[l].size() >= columns || times[l].isEmpty()) continue;
+        const qsizetype model = nearestClean(l);
+        for (qsizetype k = 0; k < columns; ++k) {
+            const QRectF column = items[times[model][k]].box;
+            const QList<qsizetype> in = standingIn(items, lines[l], column);
+            if (std::any_of(in.begin(), in.end(),
+                            [&](qsizetype i) { return isTimeLike(items[i].text); }))
+                continue;
+            Slot slot;
+            // A word reaching into the next column is cells run together, a case of its own.
+            auto alsoIn = [&](qsizetype i, qsizetype c) {
+                return c >= 0 && c < columns &&
+                       overlap(items[i].box, items[times[model][c]].box) > 0;
+            };
+            // A cell read as two words stands for itself in the widest of them.
+            if (!in.isEmpty() && std::none_of(in.begin(), in.end(), [&](qsizetype i) {
+                    return alsoIn(i, k - 1) || alsoIn(i, k + 1);
+                })) {
+                slot.item = *std::max_element(in.begin(), in.end(), [&](auto a, auto b) {
+                    return items[a].box.width() < items[b].box.width();
+                });
+            } else if (std::none_of(lines[l].begin(), lines[l].end(), [&](qsizetype i) {
+                           return overlap(items[i].box, column) > 0;
+                       })) {
+                // Nothing read there: the cell stands at the height of the row's nearest time.
+                const qsizetype beside =
+                    *std::min_element(times[l].begin(), times[l].end(), [&](auto a, auto b) {
+                        return std::abs(items[a].box.center().x() - column.center().x()) <
+                               std::abs(items[b].box.center().x() - column.center().x());
+                    });
+                const QRectF row = items[beside].box;
+                slot.box = QRectF(column.left(), row.top(), column.width(), row.height());
+            } else {
+                continue;
+            }
+            const auto at = rows.indexOf(l);
+            for (qsizetype t = at - 1; t >= 0 && at - t <= 3 && slot.above.isEmpty(); --t)
+                slot.above = cleanTime(rows[t], column);
+            for (qsizetype t = at + 1; t < rows.size() && t - at <= 3 && slot.below.isEmpty(); ++t)
+                slot.below = cleanTime(rows[t], column);
+            found << slot;
+        }
+    }
+    // A clean time that the column's times around it say was misread: the nearest times above
+    // and below that read otherwise agree, and it differs from them as a misreading does.
+    for (qsizetype at = 0; at < rows.size(); ++at) {
+        const qsizetype model = nearestClean(rows[at]);
+        for (qsizetype k = 0; k < columns; ++k) {
+            const QRectF column = items[times[model][k]].box;
+            const QString time = cleanTime(rows[at], column);
+            if (time.isEmpty()) continue;
+            auto otherThan = [&](int step) {
+                for (qsizetype t = at + step; t >= 0 && t < rows.size() && std::abs(t - at) <= 3;
+                     t += step)
+                    if (const QString other = cleanTime(rows[t], column);
+                        !other.isEmpty() && other != time)
+                        return other;
+                return QString();
+            };
+            const QString above = otherThan(-1);
+            if (above.isEmpty() || above != otherThan(1) || !misread(time, above)) continue;
+            for (qsizetype i : standingIn(items, times[rows[at]], column))
+                if (items[i].text == time) found.append({i, {}, above, above});
+        }
+    }
+    return found;
+}
+
+} // namespace tarvanel::OcrLines::words

@@ -1,6 +1,7 @@
 #include "desktop/UiLanguage.h"
 
 #include "base/Language.h"
+#include "desktop/NastaliqFont.h"
 
 #include <QApplication>
 #include <QFont>
@@ -9,13 +10,14 @@
 namespace tarvanel {
 namespace {
 
-// Arabic and Urdu in Naskh, named first: a Latin family's own Arabic glyphs (DejaVu has some)
-// would otherwise win. Urdu's own Nastaliq face is not used: Qt (6.4 and 6.8 alike) draws Noto
-// Nastaliq Urdu with its marks and cursive joins misplaced, where HarfBuzz alone draws it right,
-// and a legible Naskh beats a garbled Nastaliq.
+// Arabic in Naskh and Urdu in Nastaliq, named first: a Latin family's own Arabic glyphs (DejaVu
+// has some) would otherwise win. Naskh stays behind Nastaliq for a missing Nastaliq font.
 QStringList scriptFamilies(const QString& code) {
-    if (isRightToLeft(code)) return {QStringLiteral("Noto Naskh Arabic")};
-    return {};
+    const QString naskh = QStringLiteral("Noto Naskh Arabic");
+    if (code == QLatin1String("ar")) return {naskh};
+    if (code != QLatin1String("ur")) return {};
+    const QString nastaliq = nastaliqFamily();
+    return nastaliq.isEmpty() ? QStringList{naskh} : QStringList{nastaliq, naskh};
 }
 
 } // namespace

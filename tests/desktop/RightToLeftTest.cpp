@@ -70,6 +70,11 @@ TEST(RightToLeft, ArabicAndUrduMirrorTheSettingsBannerAndLockAndNoLanguageCutsAT
         const bool rtl = code == QLatin1String("ar") || code == QLatin1String("ur");
         ASSERT_EQ(useLanguage(code), code);
         EXPECT_EQ(QApplication::layoutDirection(), rtl ? Qt::RightToLeft : Qt::LeftToRight);
+        // Arabic in Naskh, Urdu in Nastaliq (the copy Qt draws right), ahead of any Latin face.
+        if (rtl) {
+            EXPECT_EQ(QApplication::font().families().first(),
+                      code == QLatin1String("ar") ? "Noto Naskh Arabic" : "Tarvanel Nastaliq");
+        }
 
         // The first-run form: its main button sits at the reading end of the bar.
         SettingsWindow host([] {});

@@ -96,7 +96,8 @@ QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks) {
     for (qsizetype l = 0; l < lines.size(); ++l) {
         Row row{l, lines[l].split(gap), {}, {}, {}};
         bool marked = false;
-        for (qsizetype w = 0; w < row.words.size(); ++w) {
+        // The first word is the row's day or date ("09.03" reads as a time).
+        for (qsizetype w = 1; w < row.words.size(); ++w) {
             if (const auto c = clock(row.words[w])) {
                 row.at.append(w);
                 row.minutes.append(c->first % 12 * 60 + c->second);

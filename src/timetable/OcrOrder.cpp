@@ -1,6 +1,7 @@
 // A row's times in the order of the day: the one cell that breaks it has its hour misread.
 #include "timetable/OcrLines.h"
 
+#include <QMap>
 #include <QRegularExpression>
 #include <climits>
 #include <optional>
@@ -116,8 +117,16 @@ QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks) {
     if (twentyFour)
         for (Row& row : rows)
             row.minutes = row.dayMinutes;
+    // A width that several rows have and none of them in the day's order is a sheet's own
+    // order (an iftar column after isha, say), not a misreading.
+    QMap<qsizetype, int> rowsOfWidth, inDaysOrder;
+    for (const Row& row : rows) {
+        ++rowsOfWidth[row.at.size()];
+        if (span(row.minutes, dial) < day) ++inDaysOrder[row.at.size()];
+    }
     for (qsizetype r = 0; r < rows.size(); ++r) {
         Row& row = rows[r];
+        if (rowsOfWidth[row.at.size()] >= 3 && !inDaysOrder.value(row.at.size())) continue;
         QList<int> offColumn(row.minutes.size(), dial);
         for (qsizetype other : {r - 1, r + 1}) {
             if (other < 0 || other >= rows.size() || rows[other].at.size() != row.at.size())

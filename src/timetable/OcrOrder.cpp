@@ -151,7 +151,7 @@ QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks) {
         bool sameFigures = true;
         for (qsizetype i = 0; i < at.size(); ++i) {
             if ((*minutes)[i] == row.minutes[i]) continue;
-            const int hours = (at[i] + base) / 60;
+            const int hours = ((at[i] + base) % day + day) % day / 60;
             const int hour = twentyFour ? hours % 24 : (hours % 12 == 0 ? 12 : hours % 12);
             QString& word = words[row.at[i]];
             const QString written =

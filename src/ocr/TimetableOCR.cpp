@@ -205,7 +205,7 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i].doubtful = (i >= first.size() || items[i].text != first[i].text) &&
                             (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));
-    return datesCounted(OcrLines::group(items, marks), marks);
+    return datesCounted(OcrLines::hoursInOrder(OcrLines::group(items, marks), marks), marks);
 }
 
 } // namespace

@@ -75,6 +75,10 @@ QList<Doubt> columnDoubts(const QList<RecognizedItem>& items);
 // neighbours say; a day the count gives wins over both readings.
 QString settle(const Doubt& doubt, const QString& first, const QString& second);
 
+// The lines with the one time that breaks a row's order of the day (a day's prayers, left to
+// right, span less than a day on the twelve-hour dial) given the hour that restores it, its
+// minutes kept; the cells changed are added to `marks`.
+QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks);
 // The characters the page's clean times are written with: digits, separators and the letters
 // of its am/pm markers, in the case the page prints them.
 QString timeCharacters(const QList<RecognizedItem>& items);

@@ -43,10 +43,10 @@ Score jamaatCells(const Layout& layout, const Sheet& sheet, const QStringList& r
     return score;
 }
 
-// Photos whose print Tesseract does not read, here or from its own command line: thin serif and
-// typewriter type 8-10 px high. Measured and shown, held only to a floor under what they give
-// now, so that losing that shows.
-const QStringList beyondReach{"6-photo", "9-photo"};
+// A photo whose print Tesseract does not read, here or from its own command line: thin grey
+// typewriter type 8 px high. Measured and shown, held only to a floor under what it gives now,
+// so that losing that shows.
+const QStringList beyondReach{"9-photo"};
 
 struct Totals {
     Score held, beyond;
@@ -102,7 +102,7 @@ TEST(TimetableOcrTest, JamaatCellsOfPhotosOfThoseSheetsAreReadBack) {
     const Totals totals = readBack("photo", photos, 1000);
     EXPECT_GE(share(totals.held), 0.97);
     EXPECT_GE(totals.worst, 90);
-    EXPECT_GE(share(totals.beyond), 0.35);
+    EXPECT_GE(share(totals.beyond), 0.02);
 }
 
 // Other months than the clean renders and their photos, in other type and light.

@@ -124,26 +124,41 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             found << slot;
         }
     }
-    // A clean time that the column's times around it say was misread: the nearest times above
-    // and below that read otherwise agree, and it differs from them as a misreading does.
+    // A clean time that the column's times around it say was misread: a time read both above
+    // and below it within a few rows, more often than it is, that it differs from as a misreading
+    // does. A jamaat time holds for days, so a run of misread cells still has it on both sides.
+    constexpr qsizetype reach = 4;
+    auto same = [](QString a, QString b) { return a.replace(u'.', u':') == b.replace(u'.', u':'); };
     for (qsizetype at = 0; at < rows.size(); ++at) {
         const qsizetype model = nearestClean(rows[at]);
         for (qsizetype k = 0; k < columns; ++k) {
             const QRectF column = items[times[model][k]].box;
             const QString time = cleanTime(rows[at], column);
             if (time.isEmpty()) continue;
-            auto otherThan = [&](int step) {
-                for (qsizetype t = at + step; t >= 0 && t < rows.size() && std::abs(t - at) <= 3;
-                     t += step)
-                    if (const QString other = cleanTime(rows[t], column);
-                        !other.isEmpty() && other != time)
-                        return other;
-                return QString();
+            QStringList above, below;
+            for (qsizetype t = std::max<qsizetype>(0, at - reach); t < at; ++t)
+                if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
+                    above << other;
+            for (qsizetype t = at + 1; t < rows.size() && t - at <= reach; ++t)
+                if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
+                    below << other;
+            auto count = [&](const QString& value) {
+                return std::count_if(above.begin(), above.end(),
+                                     [&](auto& o) { return same(o, value); }) +
+                       std::count_if(below.begin(), below.end(),
+                                     [&](auto& o) { return same(o, value); });
             };
-            const QString above = otherThan(-1);
-            if (above.isEmpty() || above != otherThan(1) || !misread(time, above)) continue;
+            QString agreed;
+            for (const QString& candidate : above)
+                if (!same(candidate, time) &&
+                    std::any_of(below.begin(), below.end(),
+                                [&](auto& o) { return same(o, candidate); }) &&
+                    (agreed.isEmpty() || count(candidate) > count(agreed)))
+                    agreed = candidate;
+            if (agreed.isEmpty() || count(agreed) <= count(time) + 1 || !misread(time, agreed))
+                continue;
             for (qsizetype i : standingIn(items, times[rows[at]], column))
-                if (items[i].text == time) found.append({i, {}, above, above});
+                if (items[i].text == time) found.append({i, {}, agreed, agreed});
         }
     }
     return found;

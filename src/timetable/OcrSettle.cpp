@@ -210,15 +210,18 @@ namespace words {
 // A change of clock moves the rows after it too, and a jamaat time changes for days on end,
 // not for one: one day apart from the rows around it by its hour alone, or by one digit's
 // look-alike, is a misreading.
-bool misread(const QString& time, const QString& agreed) {
+bool misread(QString time, QString agreed) {
     const Clock read = clockOf(time), around = clockOf(agreed);
     if (read.hour < 0 || around.hour < 0) return false;
     if (read.minute == around.minute)
         return dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
     static const QList<QSet<QChar>> lookalikes{
-        {u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'}, {u'5', u'6'}, {u'6', u'8'},
-        {u'1', u'7'}, {u'3', u'5'}, {u'8', u'9'}, {u'0', u'9'}, {u'5', u'8'}};
+        {u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'}, {u'5', u'6'}, {u'6', u'8'}, {u'1', u'7'},
+        {u'3', u'5'}, {u'8', u'9'}, {u'0', u'9'}, {u'5', u'8'}, {u'1', u'4'}};
     if (read.hour != around.hour || time.size() != agreed.size()) return false;
+    // A dotted sheet is read with colons here and there.
+    time.replace(u'.', u':');
+    agreed.replace(u'.', u':');
     qsizetype differ = -1;
     for (qsizetype c = 0; c < time.size(); ++c)
         if (time[c] != agreed[c]) {

@@ -21,12 +21,14 @@ QString asDigits(QString reading);
 int dialMinutes(const QString& time);
 int dialDistance(int a, int b);
 // A clean time that reads as `agreed` misread: only its hour off, by an hour or more (8:00
-// for 5:00, 11:30 for 1:30), or one digit taken for a look-alike (19:36 for 19:30).
-bool misread(const QString& time, const QString& agreed);
+// for 5:00, 11:30 for 1:30), or one digit taken for a look-alike (19:36 for 19:30, 7.45 for
+// 7:15: a dot and a colon are the same separator).
+bool misread(QString time, QString agreed);
 
 // A cell of a time column: in a row that read fewer times than the rows read cleanly, the word
 // standing in it (-1 for none), where it stands, and the clean times nearest above and below
-// it in that column; or a clean time that those times, agreeing, say was misread.
+// it in that column; or a clean time that the column's times on both sides of it say was
+// misread.
 struct Slot {
     qsizetype item = -1;
     QRectF box;

@@ -62,14 +62,22 @@ Totals readBack(const char* kind, const Look* looks, unsigned seeds) {
     QTemporaryDir dir;
     // To look at a few while tuning: their names, and the files are kept.
     const QByteArray only = qgetenv("TARVANEL_SHEETS");
+    const QByteArray font = qgetenv("TARVANEL_SHEETS_FONT");
     dir.setAutoRemove(only.isEmpty());
     Totals totals;
     std::printf("%-8s %-30s %-22s %3s %7s %6s\n", "sheet", "layout", "font", "px", "cells", "ms");
     for (int i = 0; i < int(std::size(layouts)); ++i) {
         const QString name = QString("%1-%2").arg(i).arg(kind);
         if (!only.isEmpty() && !QString(only).split(',').contains(name)) continue;
-        const Sheet sheet = drawSheet(layouts[i], looks[i], seeds + unsigned(i));
-        const QString path = saveSheet(sheet, looks[i], dir.path(), name);
+        // Other months, type or print size, to see how far the tuning carries.
+        Look look = looks[i];
+        if (!font.isEmpty()) look.font = font.constData();
+        if (const int pixels = qEnvironmentVariableIntValue("TARVANEL_SHEETS_PIXELS"))
+            look.pixels = pixels;
+        const unsigned seed =
+            seeds + unsigned(i + qEnvironmentVariableIntValue("TARVANEL_SHEETS_SEED"));
+        const Sheet sheet = drawSheet(layouts[i], look, seed);
+        const QString path = saveSheet(sheet, look, dir.path(), name);
         QElapsedTimer timer;
         timer.start();
         const QStringList read = TimetableOCR::readFile(path);
@@ -82,7 +90,7 @@ Totals readBack(const char* kind, const Look* looks, unsigned seeds) {
         if (!beyond)
             totals.worst = std::min(totals.worst, 100 * score.right / std::max(1, score.all));
         std::printf("%-8s %-30s %-22s %3d %3d/%-3d %6lld\n", qPrintable(name), layouts[i].name,
-                    looks[i].font, looks[i].pixels, score.right, score.all, ms);
+                    look.font, look.pixels, score.right, score.all, ms);
         if (score.right < score.all && !only.isEmpty())
             std::printf("%s\n%s\n", qPrintable(path), qPrintable(read.join('\n')));
     }

@@ -246,12 +246,25 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     }
     const auto days = std::count_if(firsts.begin(), firsts.end(),
                                     [&](qsizetype i) { return isDay(items[i].text); });
-    if (days * 2 < firsts.size()) return doubts;
     auto day = [&](qsizetype k) {
         return k >= 0 && k < firsts.size() && isDay(items[firsts[k]].text)
                    ? items[firsts[k]].text.toInt()
                    : -1;
     };
+    // The readable day nearest row k (up to `reach` rows off) above (step -1) or below (+1),
+    // as the count gives it for row k; -1 for none.
+    auto nearest = [&](qsizetype k, int step, qsizetype reach) {
+        for (qsizetype d = 1; d <= reach; ++d)
+            if (const int v = day(k + step * d); v > 0) return int(v - step * d);
+        return -1;
+    };
+    // A photo may leave most of a column of small print unreadable; what it does read still
+    // counts once several days keep the count with the readable day nearest them.
+    qsizetype counting = 0;
+    for (qsizetype k = 0; k < firsts.size(); ++k)
+        counting += day(k) > 0 && (nearest(k, -1, firsts.size()) == day(k) ||
+                                   nearest(k, 1, firsts.size()) == day(k));
+    if (days * 2 < firsts.size() && (counting < 3 || counting * 2 < days)) return doubts;
     for (qsizetype k = 0; k < firsts.size(); ++k) {
         const int before = day(k - 1), after = day(k + 1);
         const bool between = before > 0 && after == before + 2;
@@ -267,16 +280,15 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             continue;
         }
         // Unreadable: counted from the nearest readable day above, else below (three rows off at
-        // most: unreadable days come in runs).
-        auto nearest = [&](int step) {
-            for (int d = 1; d <= 3; ++d)
-                if (const int v = day(k + step * d); v > 0) return v - step * (d - 1);
-            return -1;
-        };
-        const int above = nearest(-1), below = nearest(1);
-        const int counted = above > 0 && (below < 0 || below == above + 2) ? above + 1
-                            : above < 0 && below > 1                       ? below - 1
-                                                                           : -1;
+        // most: unreadable days come in runs), or from days further off on both sides that keep
+        // the count between them.
+        const int above = nearest(k, -1, 3), below = nearest(k, 1, 3);
+        const int further = nearest(k, -1, firsts.size());
+        int counted = above > 0 && (below < 0 || below == above) ? above
+                      : above < 0 && below > 0                   ? below
+                                                                 : -1;
+        if (counted < 0 && further > 0 && further == nearest(k, 1, firsts.size()))
+            counted = further;
         doubts.append({firsts[k], Doubt::Day, counted});
     }
     return doubts;

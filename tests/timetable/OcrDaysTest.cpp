@@ -1,0 +1,34 @@
+#include "timetable/OcrLines.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarvanel;
+
+namespace {
+
+QStringList dayDoubts(const QStringList& firsts) {
+    QList<RecognizedItem> items;
+    for (int r = 0; r < firsts.size(); ++r) {
+        const QStringList row{firsts[r], "5:10", "1:05", "3:30"};
+        for (int c = 0; c < row.size(); ++c)
+            items.append({row[c], OcrLines::relativeBox(c * 200, r * 50, c * 200 + 80, r * 50 + 20,
+                                                        1000, 1000)});
+    }
+    QStringList found;
+    for (const OcrLines::Doubt& d : OcrLines::doubtful(items))
+        if (d.kind == OcrLines::Doubt::Day)
+            found << items[d.item].text + "/" + QString::number(d.expected);
+    return found;
+}
+
+} // namespace
+
+// Small print: most day numbers unreadable, the few read keeping the count between them.
+TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
+    EXPECT_EQ(dayDoubts({"i", "2", "3", "S", "W", "Vi", "O", "Slan", "x", "W", "11", "12"}),
+              QStringList({"i/1", "S/4", "W/5", "Vi/6", "O/7", "Slan/8", "x/9", "W/10"}));
+    // Numbers that keep no count are no day column to go by.
+    EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());
+    // Two that do are not enough to outweigh a column mostly unread.
+    EXPECT_EQ(dayDoubts({"i", "Q", "3", "4", "x", "W", "y", "z"}), QStringList());
+}

@@ -240,8 +240,10 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     for (qsizetype l : table) {
         const QList<qsizetype>& line = lines[l];
         static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
+        // A month's name before a time ("Jun 445") is a date whose day went unread.
         const bool weekday = line.size() > 1 && name.match(items[line[0]].text).hasMatch() &&
-                             !clock.match(items[line[1]].text).hasMatch();
+                             !clock.match(items[line[1]].text).hasMatch() &&
+                             !words::isTimeLike(items[line[1]].text);
         firsts << line[weekday ? 1 : 0];
     }
     const auto days = std::count_if(firsts.begin(), firsts.end(),

@@ -6,10 +6,13 @@ using namespace tarvanel;
 
 namespace {
 
+// The day doubts of rows that begin with `firsts`, each followed by the same three times unless
+// it holds words of its own.
 QStringList dayDoubts(const QStringList& firsts) {
     QList<RecognizedItem> items;
     for (int r = 0; r < firsts.size(); ++r) {
-        const QStringList row{firsts[r], "5:10", "1:05", "3:30"};
+        QStringList row = firsts[r].split(' ');
+        if (row.size() == 1) row << QStringList{"5:10", "1:05", "3:30"};
         for (int c = 0; c < row.size(); ++c)
             items.append({row[c], OcrLines::relativeBox(c * 200, r * 50, c * 200 + 80, r * 50 + 20,
                                                         1000, 1000)});
@@ -27,6 +30,9 @@ QStringList dayDoubts(const QStringList& firsts) {
 TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"i", "2", "3", "S", "W", "Vi", "O", "Slan", "x", "W", "11", "12"}),
               QStringList({"i/1", "S/4", "W/5", "Vi/6", "O/7", "Slan/8", "x/9", "W/10"}));
+    // A date's month before a time whose colon went unread: the day is what is missing.
+    EXPECT_EQ(dayDoubts({"1", "2", "Jun 445 1:05 3:30", "4", "Mon 5 5:10 1:05 3:30", "6"}),
+              QStringList({"Jun/3"}));
     // Numbers that keep no count are no day column to go by.
     EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());
     // Two that do are not enough to outweigh a column mostly unread.

@@ -6,7 +6,6 @@
 #include "timetable/OcrLines.h"
 #include "timetable/TimetableParser.h"
 
-#include <QDate>
 #include <QRegularExpression>
 #include <QSet>
 #include <climits>
@@ -136,59 +135,6 @@ void repair(QList<RecognizedItem>& items, QList<Recognizer::Word> words, Recogni
         }
 }
 
-// Full dates down the first column count up a day a row: one that is unreadable, or off the
-// count without the row below going on from it, is the day after the row above it. Their thin
-// slashes make dates the first thing small print loses.
-QStringList datesCounted(QStringList lines, QList<TextMark>& marks) {
-    const QString gap = QStringLiteral("   ");
-    const QString format = QStringLiteral("dd/MM/yyyy");
-    struct Row {
-        qsizetype line;
-        qsizetype firstTime; // words before it hold the date
-        QDate date;
-    };
-    QList<Row> rows;
-    for (qsizetype l = 0; l < lines.size(); ++l) {
-        const QStringList words = lines[l].split(gap);
-        const auto times = std::count_if(words.begin(), words.end(), OcrLines::isTime);
-        const auto first = std::find_if(words.begin(), words.end(), OcrLines::isTime);
-        if (times < 3) continue;
-        const qsizetype at = first - words.begin();
-        rows.append({l, at, at == 1 ? QDate::fromString(words[0], format) : QDate()});
-    }
-    const auto dated =
-        std::count_if(rows.begin(), rows.end(), [](const Row& r) { return r.date.isValid(); });
-    if (dated < 2 || dated * 4 < rows.size()) return lines;
-    // A counted date is a settled cell too: marked, and the marks after it on its line moved.
-    auto write = [&](Row& row, QDate date) {
-        row.date = date;
-        QStringList words = lines[row.line].split(gap);
-        const qsizetype oldDate = words.mid(0, row.firstTime).join(gap).size();
-        words.erase(words.begin(), words.begin() + row.firstTime);
-        const QString written = date.toString(format);
-        words.prepend(written);
-        lines[row.line] = words.join(gap);
-        const int line = int(row.line), shift = int(written.size() - oldDate);
-        marks.removeIf([&](const TextMark& m) { return m.line == line && m.start < oldDate; });
-        for (TextMark& m : marks)
-            if (m.line == line) m.start += shift;
-        marks.append({line, 0, int(written.size())});
-    };
-    // Down the rows, each from the one above it (set right already) ...
-    for (qsizetype r = 1; r < rows.size(); ++r) {
-        const QDate counted = rows[r - 1].date.isValid() ? rows[r - 1].date.addDays(1) : QDate();
-        const QDate next = r + 1 < rows.size() ? rows[r + 1].date : QDate();
-        if (!counted.isValid() || rows[r].date == counted) continue;
-        // A readable date off the count stands only when the row below goes on from it.
-        if (!rows[r].date.isValid() || next != rows[r].date.addDays(1)) write(rows[r], counted);
-    }
-    // ... and the rows above the first readable one from below.
-    for (qsizetype r = rows.size() - 2; r >= 0; --r)
-        if (!rows[r].date.isValid() && rows[r + 1].date.isValid())
-            write(rows[r], rows[r + 1].date.addDays(-1));
-    return lines;
-}
-
 QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
                  QList<TextMark>& marks) {
     const QList<Recognizer::Word> words = datesTidied(recognizer.words(page, mode));
@@ -205,7 +151,8 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i].doubtful = (i >= first.size() || items[i].text != first[i].text) &&
                             (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));
-    return datesCounted(OcrLines::hoursInOrder(OcrLines::group(items, marks), marks), marks);
+    return OcrLines::datesCounted(OcrLines::hoursInOrder(OcrLines::group(items, marks), marks),
+                                  marks);
 }
 
 } // namespace

@@ -79,6 +79,11 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second);
 // right, span less than a day on the twelve-hour dial) given the hour that restores it, its
 // minutes kept; the cells changed are added to `marks`.
 QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks);
+// The lines with full dates down the first column counted up a day a row: one that is
+// unreadable, or off the count without the row below going on from it, is the day after the
+// row above it; a short run at the top read ahead of the rows below is counted back from them.
+// The dates written are added to `marks`.
+QStringList datesCounted(QStringList lines, QList<TextMark>& marks);
 // The characters the page's clean times are written with: digits, separators and the letters
 // of its am/pm markers, in the case the page prints them.
 QString timeCharacters(const QList<RecognizedItem>& items);

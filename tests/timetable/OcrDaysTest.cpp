@@ -38,3 +38,25 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // Two that do are not enough to outweigh a column mostly unread.
     EXPECT_EQ(dayDoubts({"i", "Q", "3", "4", "x", "W", "y", "z"}), QStringList());
 }
+
+// Full dates, where a photo of small print misreads a digit or loses a slash.
+TEST(OcrDaysTest, FullDatesCountUpADayARowAndRunForward) {
+    const QString times = "   5:30   1:15   3:30";
+    QStringList lines{"November   2026"};
+    for (const char* date : {"29/11/2026", "30/11/2026", "25/11/2026", "26/11/2026", "2711/2026",
+                             "28/11/2026", "29/11/2026", "30/11/2026", "01/12/2026", "21/12/2026"})
+        lines << date + times;
+    QList<TextMark> marks{{3, 13, 4}};
+    const QStringList counted = OcrLines::datesCounted(lines, marks);
+    QStringList dates;
+    for (const QString& line : counted.mid(1))
+        dates << line.section(' ', 0, 0);
+    EXPECT_EQ(counted[0], "November   2026");
+    EXPECT_EQ(dates,
+              QStringList({"23/11/2026", "24/11/2026", "25/11/2026", "26/11/2026", "27/11/2026",
+                           "28/11/2026", "29/11/2026", "30/11/2026", "01/12/2026", "02/12/2026"}));
+    EXPECT_EQ(counted[5], "27/11/2026" + times);
+    // Each date written is marked; a mark after a rewritten date moves with it.
+    EXPECT_EQ(marks,
+              QList<TextMark>({{3, 13, 4}, {5, 0, 10}, {10, 0, 10}, {2, 0, 10}, {1, 0, 10}}));
+}

@@ -1,0 +1,69 @@
+#include "timetable/OcrLines.h"
+
+#include <QDate>
+#include <algorithm>
+
+namespace tarvanel::OcrLines {
+
+// Full dates of a table, counted a day a row: their thin slashes make dates the first thing
+// small print loses.
+QStringList datesCounted(QStringList lines, QList<TextMark>& marks) {
+    const QString gap = QStringLiteral("   ");
+    const QString format = QStringLiteral("dd/MM/yyyy");
+    struct Row {
+        qsizetype line;
+        qsizetype firstTime; // words before it hold the date
+        QDate date;
+    };
+    QList<Row> rows;
+    for (qsizetype l = 0; l < lines.size(); ++l) {
+        const QStringList words = lines[l].split(gap);
+        const auto times = std::count_if(words.begin(), words.end(), isTime);
+        const auto first = std::find_if(words.begin(), words.end(), isTime);
+        if (times < 3) continue;
+        const qsizetype at = first - words.begin();
+        rows.append({l, at, at == 1 ? QDate::fromString(words[0], format) : QDate()});
+    }
+    const auto dated =
+        std::count_if(rows.begin(), rows.end(), [](const Row& r) { return r.date.isValid(); });
+    if (dated < 2 || dated * 4 < rows.size()) return lines;
+    // A counted date is a settled cell too: marked, and the marks after it on its line moved.
+    auto write = [&](Row& row, QDate date) {
+        row.date = date;
+        QStringList words = lines[row.line].split(gap);
+        const qsizetype oldDate = words.mid(0, row.firstTime).join(gap).size();
+        words.erase(words.begin(), words.begin() + row.firstTime);
+        const QString written = date.toString(format);
+        words.prepend(written);
+        lines[row.line] = words.join(gap);
+        const int line = int(row.line), shift = int(written.size() - oldDate);
+        marks.removeIf([&](const TextMark& m) { return m.line == line && m.start < oldDate; });
+        for (TextMark& m : marks)
+            if (m.line == line) m.start += shift;
+        marks.append({line, 0, int(written.size())});
+    };
+    // Down the rows, each from the one above it (set right already) ...
+    for (qsizetype r = 1; r < rows.size(); ++r) {
+        const QDate counted = rows[r - 1].date.isValid() ? rows[r - 1].date.addDays(1) : QDate();
+        const QDate next = r + 1 < rows.size() ? rows[r + 1].date : QDate();
+        if (!counted.isValid() || rows[r].date == counted) continue;
+        // A readable date off the count stands only when the row below goes on from it.
+        if (!rows[r].date.isValid() || next != rows[r].date.addDays(1)) write(rows[r], counted);
+    }
+    // A short run at the top read ahead of the rows below it (23 and 24 read as 29 and 30) is
+    // counted back from them: a timetable's rows run forward.
+    for (qsizetype r = 0; r + 1 < rows.size() && r < 3; ++r)
+        if (rows[r].date.isValid() && rows[r + 1].date.isValid() &&
+            rows[r].date >= rows[r + 1].date) {
+            for (qsizetype up = r; up >= 0; --up)
+                write(rows[up], rows[up + 1].date.addDays(-1));
+            break;
+        }
+    // ... and the rows above the first readable one from below.
+    for (qsizetype r = rows.size() - 2; r >= 0; --r)
+        if (!rows[r].date.isValid() && rows[r + 1].date.isValid())
+            write(rows[r], rows[r + 1].date.addDays(-1));
+    return lines;
+}
+
+} // namespace tarvanel::OcrLines

@@ -240,10 +240,14 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     for (qsizetype l : table) {
         const QList<qsizetype>& line = lines[l];
         static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
-        // A month's name before a time ("Jun 445") is a date whose day went unread.
-        const bool weekday = line.size() > 1 && name.match(items[line[0]].text).hasMatch() &&
-                             !clock.match(items[line[1]].text).hasMatch() &&
-                             !words::isTimeLike(items[line[1]].text);
+        // A month's name first ("Jun 445") is a date whose day went unread.
+        static const QRegularExpression month(
+            QStringLiteral("^(jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)"),
+            QRegularExpression::CaseInsensitiveOption);
+        const QString& first = items[line[0]].text;
+        const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
+                             !month.match(first).hasMatch() &&
+                             !clock.match(items[line[1]].text).hasMatch();
         firsts << line[weekday ? 1 : 0];
     }
     const auto days = std::count_if(firsts.begin(), firsts.end(),

@@ -33,6 +33,8 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // A date's month before a time whose colon went unread: the day is what is missing.
     EXPECT_EQ(dayDoubts({"1", "2", "Jun 445 1:05 3:30", "4", "Mon 5 5:10 1:05 3:30", "6"}),
               QStringList({"Jun/3"}));
+    // A weekday's name before its day read as four digits: the day, not a time.
+    EXPECT_EQ(dayDoubts({"11", "12", "Sat 1300 5:10 1:05 3:30", "14"}), QStringList({"1300/13"}));
     // Numbers that keep no count are no day column to go by.
     EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());
     // Two that do are not enough to outweigh a column mostly unread.

@@ -14,18 +14,11 @@ done
 
 scratch="$(mktemp -d)"
 trap 'kill $server 2>/dev/null; rm -rf "$scratch"' EXIT
-export HOME="$scratch/home" XDG_CONFIG_HOME="$scratch/home/.config" \
-    XDG_DATA_HOME="$scratch/home/.local/share" XDG_RUNTIME_DIR="$scratch/run" TZ=Asia/Karachi
-mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
-chmod 700 "$XDG_RUNTIME_DIR"
+. "$here/../support/scratch-display.sh"
+scratch_home Asia/Karachi
 unset LC_ALL LC_MESSAGES LANG
 
-exec 3>"$scratch/displayfd"
-Xvfb -displayfd 3 -screen 0 1280x1000x24 -noreset -nolisten tcp 2>/dev/null &
-server=$!
-for _ in $(seq 100); do [ -s "$scratch/displayfd" ] && break; sleep 0.1; done
-export DISPLAY=":$(cat "$scratch/displayfd")"
-unset QT_QPA_PLATFORM WAYLAND_DISPLAY
+start_display
 
 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1 TARVANEL_AGENT=com.velmora.tarvanel \
     dbus-run-session -- sh -c '

@@ -14,10 +14,8 @@ done
 app=""
 scratch="$(mktemp -d)"
 trap 'kill $app $server 2>/dev/null; rm -rf "$scratch"' EXIT
-export HOME="$scratch/home" XDG_CONFIG_HOME="$scratch/home/.config" \
-    XDG_DATA_HOME="$scratch/home/.local/share" XDG_RUNTIME_DIR="$scratch/run" TZ=Europe/London
-mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
-chmod 700 "$XDG_RUNTIME_DIR"
+. "$here/../support/scratch-display.sh"
+scratch_home Europe/London
 if [ "$scenario" = guardian ]; then
     # Set up already, so the window opens on request rather than for a first run.
     mkdir -p "$HOME/.tarvanel"
@@ -30,12 +28,7 @@ if [ "$scenario" = guardian ]; then
         > "$XDG_CONFIG_HOME/com.velmora.tarvanel/settings.ini"
 fi
 
-exec 3>"$scratch/displayfd"
-Xvfb -displayfd 3 -screen 0 1280x1000x24 -noreset -nolisten tcp 2>/dev/null &
-server=$!
-for _ in $(seq 100); do [ -s "$scratch/displayfd" ] && break; sleep 0.1; done
-export DISPLAY=":$(cat "$scratch/displayfd")"
-unset QT_QPA_PLATFORM WAYLAND_DISPLAY
+start_display
 
 dbus-run-session -- sh -c '
     /usr/libexec/at-spi-bus-launcher --launch-immediately &

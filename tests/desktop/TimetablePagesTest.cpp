@@ -198,7 +198,8 @@ TEST(TimetablePagesTest, TheWindowShowsEachPageAndClosingItStopsTheReading) {
     ASSERT_NE(status, nullptr);
     // The event loop keeps running while the pages are read.
     EXPECT_TRUE(
-        test::waitFor([&] { return status->text() == "Reading page 2 of 12\u2026"; }, 20000));
+        test::waitFor([&] { return status->text() == "Reading page 2 of 12\u2026"; }, 20000))
+        << status->text().toStdString();
     // It is read in a process of its own, which Cancel ends at once.
     EXPECT_EQ(readersOf(scans), 1);
     QElapsedTimer cancelling;

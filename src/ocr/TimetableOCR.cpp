@@ -183,7 +183,10 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         return column;
     }
     const QStringList layout = read(recognizer, page.get(), tesseract::PSM_AUTO, layoutMarks);
-    const bool byLayout = tableShape(layout).cells > shape.cells;
+    // The automatic layout sometimes sets a column of the table apart as a picture and drops it:
+    // a reading with fewer times has lost cells, however alike its rows come out.
+    const TableShape other = tableShape(layout);
+    const bool byLayout = other.cells > shape.cells && other.times >= shape.times;
     marks = byLayout ? layoutMarks : columnMarks;
     return byLayout ? layout : column;
 }

@@ -237,7 +237,7 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     // The first word of a row, or the second after a weekday's name.
     static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
     QList<qsizetype> firsts;
-    for (qsizetype l : table) {
+    for (qsizetype l = table.first(); l <= table.last(); ++l) {
         const QList<qsizetype>& line = lines[l];
         static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
         // A month's name first ("Jun 445") is a date whose day went unread.
@@ -248,7 +248,10 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
                              !month.match(first).hasMatch() &&
                              !clock.match(items[line[1]].text).hasMatch();
-        firsts << line[weekday ? 1 : 0];
+        // A row whose times all went unreadable still holds its place in the count; a heading
+        // between two months' tables does not.
+        if (table.contains(l) || isDay(items[line[weekday ? 1 : 0]].text))
+            firsts << line[weekday ? 1 : 0];
     }
     const auto days = std::count_if(firsts.begin(), firsts.end(),
                                     [&](qsizetype i) { return isDay(items[i].text); });
@@ -276,9 +279,12 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         const bool between = before > 0 && after == before + 2;
         if (day(k) > 0) {
             // A number is only overruled by two neighbours that agree; at either end of the
-            // table, by the two rows next to it.
-            const bool last = k + 1 == firsts.size() && before > 1 && day(k - 2) == before - 1;
-            const bool first = k == 0 && after > 0 && day(k + 2) == after + 1;
+            // count, by the two rows next to it. A footer's or heading's line may stand inside
+            // the table (it holds a time) and ends the count as the table's edge does.
+            const bool last =
+                nearest(k, 1, firsts.size()) < 0 && before > 1 && day(k - 2) == before - 1;
+            const bool first =
+                nearest(k, -1, firsts.size()) < 0 && after > 0 && day(k + 2) == after + 1;
             if ((between || last) && day(k) != before + 1)
                 doubts.append({firsts[k], Doubt::Day, before + 1});
             else if (first && day(k) != after - 1)
@@ -290,6 +296,11 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         // the count between them.
         const int above = nearest(k, -1, 3), below = nearest(k, 1, 3);
         const int further = nearest(k, -1, firsts.size());
+        // Past the readable days a word is a misread day only when it could be one: a footer's
+        // "Jumu'ah 12:45 1:30 2:15" is no day's row, "1440" (14 run into 4:40) is.
+        static const QRegularExpression word(QStringLiteral("^\\D{4,}$"));
+        const bool outside = further < 0 || nearest(k, 1, firsts.size()) < 0;
+        if (outside && word.match(items[firsts[k]].text).hasMatch()) continue;
         int counted = above > 0 && (below < 0 || below == above) ? above
                       : above < 0 && below > 0                   ? below
                                                                  : -1;

@@ -35,6 +35,13 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
               QStringList({"Jun/3"}));
     // A weekday's name before its day read as four digits: the day, not a time.
     EXPECT_EQ(dayDoubts({"11", "12", "Sat 1300 5:10 1:05 3:30", "14"}), QStringList({"1300/13"}));
+    // The last day, and the first, read wrong: the count of the two rows beside it gives it,
+    // also when a footer with times stands after the table ("13" is 14 here, "7" is 1).
+    EXPECT_EQ(dayDoubts({"7", "2", "3", "11", "12", "13", "13", "Jumu'ah 12:45 1:30 2:15"}),
+              QStringList({"7/1", "13/14"}));
+    // A row whose times ran together into one unreadable word keeps its place in the count.
+    EXPECT_EQ(dayDoubts({"10", "11", "12", "13 4400«-500)0«6612 0", "1440 5:10 1:05 3:30"}),
+              QStringList({"1440/14"}));
     // Numbers that keep no count are no day column to go by.
     EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());
     // Two that do are not enough to outweigh a column mostly unread.

@@ -25,3 +25,22 @@ TEST(OcrColumnsTest, ATimeReadOnBothSidesOfAMisreadRunIsWhatTheRunSays) {
     // The new Isha time's first day stands: it is read below, never above.
     EXPECT_EQ(settled, QStringList({"7.45 7.15", "4.06 4.00", "4:08 4.00", "4.06 4:00"}));
 }
+
+// A begins time that moves a minute a day, one day read an hour off (a 5 taken for a 6), on
+// twelve- and twenty-four-hour sheets; one off by its minutes is left to its second reading.
+TEST(OcrColumnsTest, ADayApartByItsHourAloneTakesTheHourOfTheDaysAround) {
+    const QStringList rows[] = {{"1", "5:18", "17:18", "5:18"},
+                                {"2", "6:20", "18:20", "5:40"},
+                                {"3", "5:22", "17:22", "5:22"}};
+    QList<RecognizedItem> items;
+    for (int r = 0; r < 3; ++r)
+        for (int c = 0; c < 4; ++c)
+            items.append({rows[r][c], OcrLines::relativeBox(c * 200, r * 50, c * 200 + 80,
+                                                            r * 50 + 20, 1000, 600)});
+    QStringList settled;
+    for (const OcrLines::Doubt& doubt : OcrLines::doubtful(items)) {
+        const QString read = items[doubt.item].text;
+        settled << read + " " + doubt.agreed + " " + OcrLines::settle(doubt, read, read);
+    }
+    EXPECT_EQ(settled, QStringList({"6:20 5:20 5:20", "18:20 17:20 17:20", "5:40  5:40"}));
+}

@@ -26,8 +26,8 @@ QStringList timesRunTogether(const QString& text) {
     return times;
 }
 
-// A 6 where a time cannot hold one (12:62, 65:15) is a 0 whose gap blurred shut; empty when
-// that makes no time either.
+// A 6 where a time cannot hold one (12:62, 65:15, 26:12) is a 0 whose gap blurred shut; empty
+// when that makes no time either.
 QString zeroForSix(const QString& reading) {
     static const QRegularExpression shape(QStringLiteral("^(\\d{1,2})([:.])(\\d)(\\d.*)$"));
     const QRegularExpressionMatch m = shape.match(reading);
@@ -35,6 +35,7 @@ QString zeroForSix(const QString& reading) {
     QString hours = m.captured(1), tens = m.captured(3);
     if (tens == u"6") tens = QStringLiteral("0");
     if (hours.size() == 2 && hours[0] == u'6') hours[0] = u'0';
+    if (hours.size() == 2 && hours[1] == u'6' && hours.toInt() > 23) hours[1] = u'0';
     const QString fixed = hours + m.captured(2) + tens + m.captured(4);
     return fixed != reading && isTime(fixed) ? fixed : QString();
 }
@@ -208,11 +209,16 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second) 
 namespace words {
 
 // A change of clock moves the rows after it too, and a jamaat time changes for days on end,
-// not for one: one day apart from the rows around it by its hour alone, or by one digit's
-// look-alike, is a misreading.
+// not for one: one day apart from the rows around it by its hour alone, by one digit's
+// look-alike, or by one more digit after its own (a dot or a mark beside it, 13:00 for 1.30),
+// is a misreading.
 bool misread(QString time, QString agreed) {
     const Clock read = clockOf(time), around = clockOf(agreed);
     if (read.hour < 0 || around.hour < 0) return false;
+    static const QRegularExpression notDigit(QStringLiteral("\\D"));
+    const QString digits = QString(time).remove(notDigit);
+    const QString agreedDigits = QString(agreed).remove(notDigit);
+    if (digits.size() == agreedDigits.size() + 1 && digits.startsWith(agreedDigits)) return true;
     if (read.minute == around.minute)
         return dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
     static const QList<QSet<QChar>> lookalikes{

@@ -352,6 +352,9 @@ TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead
     EXPECT_EQ(OcrLines::settle(hour, "13:30", "11:30"), "13:30");
     EXPECT_EQ(OcrLines::settle(hour, "1:45", "1:45"), "1:45");
     EXPECT_EQ(OcrLines::settle(hour, "12:31", "12:31"), "12:31");
+    EXPECT_EQ(OcrLines::settle(hour, "13:00", "13:00"), "1:30"); // a dot read as a 0
+    // A 0 closed into a 6 where an hour cannot hold one.
+    EXPECT_EQ(OcrLines::settle(hour, "26:12", "26:12"), "20:12");
 
     // 1:36 between rows of 1:30: a look-alike digit, found by the column and settled so.
     const OcrLines::Doubt lookalike = doubts[6];
@@ -361,7 +364,7 @@ TEST(TimetableImportModelTest, CellsOfATimeColumnKeepTheirColumnWhateverTheyRead
     EXPECT_EQ(OcrLines::settle(lookalike, "1:36", "1:31"), "1:31");
     using OcrLines::words::misread;
     EXPECT_TRUE(misread("19:36", "19:30") && misread("8:00", "5:00") && misread("4:30", "4:36") &&
-                misread("5.18", "5.15"));
+                misread("5.18", "5.15") && misread("13:00", "1.30"));
     EXPECT_FALSE(misread("13:30", "1:30") || misread("1:34", "1:30") || misread("1:45", "1:30") ||
                  misread("2:36", "1:30") || misread("7:30pm", "7:36"));
 

@@ -275,11 +275,31 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     }
     const auto days = std::count_if(firsts.begin(), firsts.end(),
                                     [&](qsizetype i) { return isDay(items[i].text); });
-    auto day = [&](qsizetype k) {
+    auto read = [&](qsizetype k) {
         return k >= 0 && k < firsts.size() && isDay(items[firsts[k]].text)
                    ? items[firsts[k]].text.toInt()
                    : -1;
     };
+    // Serif print loses a day's tens digit to the gap before it: 13, 14, 15 read as 3, 4, 5
+    // after 12. Such a run counts on from the row before it; a new month (30, then 1) does not
+    // drop by ten or twenty.
+    QHash<qsizetype, int> tensLost;
+    for (qsizetype k = 1, run = -1; k < firsts.size(); ++k) {
+        if (read(k) < 0) continue;
+        if (run >= 0 && read(k) == read(run) + (k - run)) {
+            tensLost[k] = tensLost[run] + int(k - run);
+            run = k;
+            continue;
+        }
+        run = -1;
+        const int before = tensLost.value(k - 1, read(k - 1));
+        const int lost = before + 1 - read(k);
+        if (before > 0 && (lost == 10 || lost == 20) && isDay(QString::number(before + 1))) {
+            tensLost[k] = before + 1;
+            run = k;
+        }
+    }
+    auto day = [&](qsizetype k) { return tensLost.value(k, read(k)); };
     // The readable day nearest row k (up to `reach` rows off) above (step -1) or below (+1),
     // as the count gives it for row k; -1 for none.
     auto nearest = [&](qsizetype k, int step, qsizetype reach) {
@@ -297,6 +317,10 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     for (qsizetype k = 0; k < firsts.size(); ++k) {
         const int before = day(k - 1), after = day(k + 1);
         const bool between = before > 0 && after == before + 2;
+        if (tensLost.contains(k)) {
+            doubts.append({firsts[k], Doubt::Day, day(k)});
+            continue;
+        }
         if (day(k) > 0) {
             // A number is only overruled by two neighbours that agree; at either end of the
             // count, by the two rows next to it. A footer's or heading's line may stand inside

@@ -42,6 +42,10 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // A row whose times ran together into one unreadable word keeps its place in the count.
     EXPECT_EQ(dayDoubts({"10", "11", "12", "13 4400«-500)0«6612 0", "1440 5:10 1:05 3:30"}),
               QStringList({"1440/14"}));
+    // Tens lost: 13, 14, 15 read as 3, 4, 5; a new month's 1 after 30 is left alone.
+    EXPECT_EQ(dayDoubts({"11", "12", "3", "4", "5"}), QStringList({"3/13", "4/14", "5/15"}));
+    EXPECT_EQ(dayDoubts({"11", "12", "3", "l4", "5"}), QStringList({"3/13", "l4/14", "5/15"}));
+    EXPECT_EQ(dayDoubts({"28", "29", "30", "1", "2", "3"}), QStringList());
     // Numbers that keep no count are no day column to go by.
     EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());
     // Two that do are not enough to outweigh a column mostly unread.

@@ -292,10 +292,12 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             continue;
         }
         run = -1;
-        const int before = tensLost.value(k - 1, read(k - 1));
-        const int lost = before + 1 - read(k);
-        if (before > 0 && (lost == 10 || lost == 20) && isDay(QString::number(before + 1))) {
-            tensLost[k] = before + 1;
+        int counted = -1; // from the nearest readable day above, a few rows off at most
+        for (qsizetype d = 1; d <= 3 && counted < 0 && k - d >= 0; ++d)
+            if (const int v = tensLost.value(k - d, read(k - d)); v > 0) counted = v + int(d);
+        const int lost = counted - read(k);
+        if (counted > 0 && (lost == 10 || lost == 20) && isDay(QString::number(counted))) {
+            tensLost[k] = counted;
             run = k;
         }
     }

@@ -45,6 +45,7 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // Tens lost: 13, 14, 15 read as 3, 4, 5; a new month's 1 after 30 is left alone.
     EXPECT_EQ(dayDoubts({"11", "12", "3", "4", "5"}), QStringList({"3/13", "4/14", "5/15"}));
     EXPECT_EQ(dayDoubts({"11", "12", "3", "l4", "5"}), QStringList({"3/13", "l4/14", "5/15"}));
+    EXPECT_EQ(dayDoubts({"9", "10", "ll", "2", "13"}), QStringList({"ll/11", "2/12"}));
     EXPECT_EQ(dayDoubts({"28", "29", "30", "1", "2", "3"}), QStringList());
     // Numbers that keep no count are no day column to go by.
     EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());

@@ -129,6 +129,32 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     // does. A jamaat time holds for days, so a run of misread cells still has it on both sides.
     constexpr qsizetype reach = 4;
     auto same = [](QString a, QString b) { return a.replace(u'.', u':') == b.replace(u'.', u':'); };
+    // At a run's edge (a table's or a month's first or last rows) the two days beyond a cell
+    // tell its hour, "6:25" above 5:27 and 5:29 being 5:25; not when a day next to it agrees
+    // with it: a change of clock moves every day after it.
+    auto hourFromBeyond = [&](qsizetype at, const QRectF& column, const QString& time) {
+        const int x = dialMinutes(time);
+        for (qsizetype t : {at - 1, at + 1})
+            if (t >= 0 && t < rows.size())
+                if (const QString next = cleanTime(rows[t], column);
+                    !next.isEmpty() && dialDistance(dialMinutes(next), x) <= 4)
+                    return QString();
+        for (int step : {1, -1}) {
+            const qsizetype b = at + 2 * step;
+            if (b < 0 || b >= rows.size()) continue;
+            const QString near = cleanTime(rows[at + step], column);
+            const QString far = cleanTime(rows[b], column);
+            if (near.isEmpty() || far.isEmpty()) continue;
+            const int n = dialMinutes(near), f = dialMinutes(far);
+            const int daily = (n - f + 1080) % 720 - 360; // towards this cell
+            const int expected = (n + daily + 720) % 720;
+            if (std::abs(daily) > 4 || std::abs(dialDistance(x, expected) - 60) > 3) continue;
+            const QString fixed =
+                withHourNear(time, near, (expected + 717) % 720, (expected + 3) % 720);
+            if (!fixed.isEmpty()) return fixed;
+        }
+        return QString();
+    };
     for (qsizetype at = 0; at < rows.size(); ++at) {
         const qsizetype model = nearestClean(rows[at]);
         for (qsizetype k = 0; k < columns; ++k) {
@@ -156,7 +182,8 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                     (agreed.isEmpty() || count(candidate) > count(agreed)))
                     agreed = candidate;
             if (agreed.isEmpty() || count(agreed) <= count(time) + 1 || !misread(time, agreed))
-                continue;
+                agreed = hourFromBeyond(at, column, time);
+            if (agreed.isEmpty()) continue;
             for (qsizetype i : standingIn(items, times[rows[at]], column))
                 if (items[i].text == time) found.append({i, {}, agreed, agreed});
         }

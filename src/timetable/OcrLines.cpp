@@ -129,25 +129,6 @@ int dialDistance(int a, int b) {
 
 namespace {
 
-// `time` with the hour of `above` (or the next) when that puts it between `above` and `below`
-// (dial minutes): a begins time one day apart from the days around it by its hour alone, as
-// 6:20 between 5:18 and 5:22. Empty when no hour does.
-QString withHourBetween(const QString& time, const QString& above, int below) {
-    static const QRegularExpression separator(QStringLiteral("[:.]"));
-    const int a = words::dialMinutes(above);
-    const qsizetype colon = time.indexOf(separator);
-    const int hour = above.left(above.indexOf(separator)).toInt();
-    for (int h : {hour, hour + 1}) {
-        const QString candidate = QString::number(h) + time.mid(colon);
-        const int c = words::dialMinutes(candidate);
-        if (isTime(candidate) && candidate != time &&
-            words::dialDistance(a, c) + words::dialDistance(c, below) ==
-                words::dialDistance(a, below))
-            return candidate;
-    }
-    return {};
-}
-
 int midway(int a, int b) {
     int d = (b - a + 720) % 720;
     if (d > 360) d -= 720;
@@ -248,7 +229,7 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             if (dialDistance(a, b) <= 4 && std::min(dialDistance(x, a), dialDistance(x, b)) >= 4)
                 doubts.append({i, Doubt::Time, midway(a, b),
                                a == b ? items[above].text
-                                      : withHourBetween(items[i].text, items[above].text, b)});
+                                      : withHourNear(items[i].text, items[above].text, a, b)});
         }
     }
 

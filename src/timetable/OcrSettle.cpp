@@ -237,6 +237,20 @@ bool misread(QString time, QString agreed) {
     return differ >= 0 && lookalikes.contains(QSet<QChar>{time[differ], agreed[differ]});
 }
 
+QString withHourNear(const QString& time, const QString& near, int low, int high) {
+    static const QRegularExpression separator(QStringLiteral("[:.]"));
+    const qsizetype colon = time.indexOf(separator);
+    const int hour = near.left(near.indexOf(separator)).toInt();
+    for (int h : {hour, hour + 1, hour - 1}) {
+        const QString candidate = QString::number(h) + time.mid(colon);
+        const int c = dialMinutes(candidate);
+        if (h >= 0 && isTime(candidate) && candidate != time &&
+            dialDistance(low, c) + dialDistance(c, high) == dialDistance(low, high))
+            return candidate;
+    }
+    return {};
+}
+
 } // namespace words
 
 } // namespace tarvanel::OcrLines

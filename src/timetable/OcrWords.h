@@ -24,6 +24,10 @@ int dialDistance(int a, int b);
 // for 5:00, 11:30 for 1:30), or one digit taken for a look-alike (19:36 for 19:30, 7.45 for
 // 7:15: a dot and a colon are the same separator).
 bool misread(QString time, QString agreed);
+// `time` with the hour of `near` (or one either side) that puts it between `low` and `high`
+// (dial minutes, low first): a time read with its hour alone wrong, as 6:20 between 5:18 and
+// 5:22. Empty when no such hour does.
+QString withHourNear(const QString& time, const QString& near, int low, int high);
 
 // A cell of a time column: in a row that read fewer times than the rows read cleanly, the word
 // standing in it (-1 for none), where it stands, and the clean times nearest above and below

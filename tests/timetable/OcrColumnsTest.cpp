@@ -56,3 +56,14 @@ TEST(OcrColumnsTest, ADayApartByItsHourAloneTakesTheHourOfTheDaysAround) {
     EXPECT_EQ(settled(items, OcrLines::doubtful(items)),
               QStringList({"6:20 5:20 5:20", "18:20 17:20 17:20", "5:40  5:40"}));
 }
+
+// A month's first day read an hour off: the two days after it tell the hour. A column whose
+// times move by an hour for good (a change of clock) is left alone, as is a new month's time.
+TEST(OcrColumnsTest, ARunsFirstDayTakesTheHourTheDaysAfterItGive) {
+    const auto items = table({{"30", "4:38", "4:15", "7:45"},
+                              {"1", "6:25", "5:00", "7:45"},
+                              {"2", "5:27", "5.00", "8:45"},
+                              {"3", "5:29", "5.00", "8:45"},
+                              {"4", "5:31", "5.00", "8:45"}});
+    EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)), QStringList({"6:25 5:25 5:25"}));
+}

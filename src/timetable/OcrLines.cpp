@@ -261,27 +261,7 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
                    ? items[firsts[k]].text.toInt()
                    : -1;
     };
-    // Serif print loses a day's tens digit to the gap before it: 13, 14, 15 read as 3, 4, 5
-    // after 12. Such a run counts on from the row before it; a new month (30, then 1) does not
-    // drop by ten or twenty.
-    QHash<qsizetype, int> tensLost;
-    for (qsizetype k = 1, run = -1; k < firsts.size(); ++k) {
-        if (read(k) < 0) continue;
-        if (run >= 0 && read(k) == read(run) + (k - run)) {
-            tensLost[k] = tensLost[run] + int(k - run);
-            run = k;
-            continue;
-        }
-        run = -1;
-        int counted = -1; // from the nearest readable day above, a few rows off at most
-        for (qsizetype d = 1; d <= 3 && counted < 0 && k - d >= 0; ++d)
-            if (const int v = tensLost.value(k - d, read(k - d)); v > 0) counted = v + int(d);
-        const int lost = counted - read(k);
-        if (counted > 0 && (lost == 10 || lost == 20) && isDay(QString::number(counted))) {
-            tensLost[k] = counted;
-            run = k;
-        }
-    }
+    QHash<qsizetype, int> tensLost; // days read without their tens digit, and the day
     auto day = [&](qsizetype k) { return tensLost.value(k, read(k)); };
     // The readable day nearest row k (up to `reach` rows off) above (step -1) or below (+1),
     // as the count gives it for row k; -1 for none.
@@ -290,6 +270,24 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             if (const int v = day(k + step * d); v > 0) return int(v - step * d);
         return -1;
     };
+    // Serif print loses a day's tens digit to the gap before it: 13, 14, 15 read as 3, 4, 5
+    // after 12. Such a run counts on from the days above it; a new month (30, then 1) does not
+    // drop by ten or twenty.
+    for (qsizetype k = 1, run = -1; k < firsts.size(); ++k) {
+        if (read(k) < 0) continue;
+        if (run >= 0 && read(k) == read(run) + (k - run)) {
+            tensLost[k] = tensLost[run] + int(k - run);
+            run = k;
+            continue;
+        }
+        run = -1;
+        const int counted = nearest(k, -1, 3); // as the rows above count it
+        const int lost = counted - read(k);
+        if (counted > 0 && (lost == 10 || lost == 20) && isDay(QString::number(counted))) {
+            tensLost[k] = counted;
+            run = k;
+        }
+    }
     // A photo may leave most of a column of small print unreadable; what it does read still
     // counts once several days keep the count with the readable day nearest them.
     qsizetype counting = 0;

@@ -4,6 +4,7 @@
 
 #include <QMap>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 namespace tarvanel::OcrLines::words {
@@ -23,6 +24,34 @@ QList<qsizetype> standingIn(const QList<RecognizedItem>& items, const QList<qsiz
         if (overlap(items[i].box, column) > 0.5 * std::min(items[i].box.width(), column.width()))
             in << i;
     return in;
+}
+
+bool round(const QString& time) {
+    return time.right(2).toInt() % 5 == 0;
+}
+
+// A jamaat column keeps to round minutes (4:00, 1:15, 7:30), most of its times: one that is not
+// round and becomes so with a look-alike digit of its minutes (1:38, 4:06) is that time misread,
+// when the column holds it elsewhere; the one it holds most often. Empty when it is not.
+QString roundAgain(const QString& time, const QStringList& column) {
+    const auto rounded = std::count_if(column.begin(), column.end(), round);
+    if (round(time) || column.size() < 5 || rounded * 2 <= column.size()) return {};
+    auto count = [&](QString value) {
+        value.replace(u'.', u':');
+        return std::count_if(column.begin(), column.end(),
+                             [&](QString other) { return other.replace(u'.', u':') == value; });
+    };
+    QString best;
+    for (qsizetype at = time.size() - 2; at < time.size(); ++at)
+        for (QChar digit = u'0'; digit <= u'9'; digit = QChar(digit.unicode() + 1)) {
+            QString candidate = time;
+            candidate[at] = digit;
+            if (!lookalike(time[at], digit) || !isTime(candidate) || !round(candidate) ||
+                count(candidate) == 0)
+                continue;
+            if (best.isEmpty() || count(candidate) > count(best)) best = candidate;
+        }
+    return best;
 }
 
 } // namespace
@@ -155,6 +184,14 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
         }
         return QString();
     };
+    // Each column's clean times, top to bottom.
+    QList<QStringList> columnTimes(columns);
+    for (qsizetype at = 0; at < rows.size(); ++at)
+        for (qsizetype k = 0; k < columns; ++k)
+            if (const QString time =
+                    cleanTime(rows[at], items[times[nearestClean(rows[at])][k]].box);
+                !time.isEmpty())
+                columnTimes[k] << time;
     for (qsizetype at = 0; at < rows.size(); ++at) {
         const qsizetype model = nearestClean(rows[at]);
         for (qsizetype k = 0; k < columns; ++k) {
@@ -183,6 +220,12 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                     agreed = candidate;
             if (agreed.isEmpty() || count(agreed) <= count(time) + 1 || !misread(time, agreed))
                 agreed = hourFromBeyond(at, column, time);
+            // Only where the column holds its times for days: a column that moves a minute a
+            // day (Maghrib at sunset) may be round at times and hold the look-alike too.
+            QSet<QString> around{QString(time).replace(u'.', u':')};
+            for (QString other : above + below)
+                around << other.replace(u'.', u':');
+            if (agreed.isEmpty() && around.size() <= 3) agreed = roundAgain(time, columnTimes[k]);
             if (agreed.isEmpty()) continue;
             for (qsizetype i : standingIn(items, times[rows[at]], column))
                 if (items[i].text == time) found.append({i, {}, agreed, agreed});

@@ -42,6 +42,26 @@ QStringList datesCounted(QStringList lines, QList<TextMark>& marks) {
             if (m.line == line) m.start += shift;
         marks.append({line, 0, int(written.size())});
     };
+    // A short run that the rows on both sides count past (06 and 07 read as 16 and 17, each
+    // going on from the other) is counted with them.
+    struct Run {
+        qint64 offset; // the date less its row's place: the same all down a run
+        QList<qsizetype> rows;
+    };
+    QList<Run> runs;
+    for (qsizetype r = 0; r < rows.size(); ++r) {
+        if (!rows[r].date.isValid()) continue;
+        const qint64 offset = rows[r].date.toJulianDay() - r;
+        if (runs.isEmpty() || runs.last().offset != offset) runs.append(Run{offset, {}});
+        runs.last().rows << r;
+    }
+    for (qsizetype i = 1; i + 1 < runs.size(); ++i)
+        if (runs[i - 1].offset == runs[i + 1].offset && runs[i].rows.size() <= 3 &&
+            runs[i].rows.size() < std::min(runs[i - 1].rows.size(), runs[i + 1].rows.size())) {
+            for (qsizetype r : runs[i].rows)
+                write(rows[r], QDate::fromJulianDay(runs[i - 1].offset + r));
+            runs[i].offset = runs[i - 1].offset;
+        }
     // Down the rows, each from the one above it (set right already) ...
     for (qsizetype r = 1; r < rows.size(); ++r) {
         const QDate counted = rows[r - 1].date.isValid() ? rows[r - 1].date.addDays(1) : QDate();

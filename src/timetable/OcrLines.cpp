@@ -43,12 +43,25 @@ QList<QList<qsizetype>> lineIndices(const QList<RecognizedItem>& items) {
 // The lines that read as rows of times.
 QList<qsizetype> tableLines(const QList<RecognizedItem>& items,
                             const QList<QList<qsizetype>>& lines) {
+    auto times = [&](qsizetype l) { return words::timesIn(items, lines[l]); };
     QList<qsizetype> table;
     for (qsizetype l = 0; l < lines.size(); ++l)
-        if (std::count_if(lines[l].begin(), lines[l].end(),
-                          [&](qsizetype i) { return words::isTimeLike(items[i].text); }) >= 3)
-            table << l;
-    return table;
+        if (times(l) >= 3) table << l;
+    if (table.isEmpty()) return table;
+    // A row read so poorly that two of its times are left is one still, between the table's
+    // rows or next to them; at the ends not a footer's line ("Jumu'ah 1:00 pm 1:30 pm").
+    auto poor = [&](qsizetype l) {
+        return times(l) == 2 && !words::wordOnly(items[lines[l][0]].text);
+    };
+    qsizetype top = table.first(), bottom = table.last();
+    while (top > 0 && poor(top - 1))
+        --top;
+    while (bottom + 1 < lines.size() && poor(bottom + 1))
+        ++bottom;
+    QList<qsizetype> rows;
+    for (qsizetype l = top; l <= bottom; ++l)
+        if (table.contains(l) || times(l) == 2) rows << l;
+    return rows;
 }
 
 bool isMeridiem(const QString& word) {
@@ -72,6 +85,14 @@ const QRegularExpression& colonless() {
 // A time, or one whose colon went missing.
 bool isTimeLike(const QString& word) {
     return isTime(word) || colonless().match(word).hasMatch();
+}
+qsizetype timesIn(const QList<RecognizedItem>& items, const QList<qsizetype>& line) {
+    return std::count_if(line.begin(), line.end(),
+                         [&](qsizetype i) { return isTimeLike(items[i].text); });
+}
+bool wordOnly(const QString& text) {
+    static const QRegularExpression word(QStringLiteral("^\\D{4,}$"));
+    return word.match(text).hasMatch();
 }
 // S for 5, O for 0, l for 1 and the like: what a blurred digit is read as without a list of
 // the characters allowed.
@@ -204,7 +225,9 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         }
         for (qsizetype i : lines[l]) {
             if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
-            const QString digits = asDigits(items[i].text);
+            // Its am/pm marker aside: "iSpm" is a blurred 1:15pm.
+            static const QRegularExpression marker(QStringLiteral("\\s*[AaPp]\\.?[Mm]\\.?$"));
+            const QString digits = asDigits(QString(items[i].text).remove(marker));
             const bool amongTimes =
                 table.contains(l) && items[i].box.left() >= firstTime &&
                 (items[i].text.contains(digit) || digits.count(digit) * 2 >= digits.size());
@@ -233,106 +256,7 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         }
     }
 
-    // Day numbers down the first column: one that is no number, or breaks the count between
-    // its neighbours, is read again; the count tells what it should be.
-    // The first word of a row, or the second after a weekday's name.
-    static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
-    QList<qsizetype> firsts;
-    for (qsizetype l = table.first(); l <= table.last(); ++l) {
-        const QList<qsizetype>& line = lines[l];
-        static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
-        // A month's name first ("Jun 445") is a date whose day went unread.
-        static const QRegularExpression month(
-            QStringLiteral("^(jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)"),
-            QRegularExpression::CaseInsensitiveOption);
-        const QString& first = items[line[0]].text;
-        const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
-                             !month.match(first).hasMatch() &&
-                             !clock.match(items[line[1]].text).hasMatch();
-        // A row whose times all went unreadable still holds its place in the count; a heading
-        // between two months' tables does not.
-        if (table.contains(l) || isDay(items[line[weekday ? 1 : 0]].text))
-            firsts << line[weekday ? 1 : 0];
-    }
-    const auto days = std::count_if(firsts.begin(), firsts.end(),
-                                    [&](qsizetype i) { return isDay(items[i].text); });
-    auto read = [&](qsizetype k) {
-        return k >= 0 && k < firsts.size() && isDay(items[firsts[k]].text)
-                   ? items[firsts[k]].text.toInt()
-                   : -1;
-    };
-    QHash<qsizetype, int> tensLost; // days read without their tens digit, and the day
-    auto day = [&](qsizetype k) { return tensLost.value(k, read(k)); };
-    // The readable day nearest row k (up to `reach` rows off) above (step -1) or below (+1),
-    // as the count gives it for row k; -1 for none.
-    auto nearest = [&](qsizetype k, int step, qsizetype reach) {
-        for (qsizetype d = 1; d <= reach; ++d)
-            if (const int v = day(k + step * d); v > 0) return int(v - step * d);
-        return -1;
-    };
-    // Serif print loses a day's tens digit to the gap before it: 13, 14, 15 read as 3, 4, 5
-    // after 12. Such a run counts on from the days above it; a new month (30, then 1) does not
-    // drop by ten or twenty.
-    for (qsizetype k = 1, run = -1; k < firsts.size(); ++k) {
-        if (read(k) < 0) continue;
-        if (run >= 0 && read(k) == read(run) + (k - run)) {
-            tensLost[k] = tensLost[run] + int(k - run);
-            run = k;
-            continue;
-        }
-        run = -1;
-        const int counted = nearest(k, -1, 3); // as the rows above count it
-        const int lost = counted - read(k);
-        if (counted > 0 && (lost == 10 || lost == 20) && isDay(QString::number(counted))) {
-            tensLost[k] = counted;
-            run = k;
-        }
-    }
-    // A photo may leave most of a column of small print unreadable; what it does read still
-    // counts once several days keep the count with the readable day nearest them.
-    qsizetype counting = 0;
-    for (qsizetype k = 0; k < firsts.size(); ++k)
-        counting += day(k) > 0 && (nearest(k, -1, firsts.size()) == day(k) ||
-                                   nearest(k, 1, firsts.size()) == day(k));
-    if (days * 2 < firsts.size() && (counting < 3 || counting * 2 < days)) return doubts;
-    for (qsizetype k = 0; k < firsts.size(); ++k) {
-        const int before = day(k - 1), after = day(k + 1);
-        const bool between = before > 0 && after == before + 2;
-        if (tensLost.contains(k)) {
-            doubts.append({firsts[k], Doubt::Day, day(k)});
-            continue;
-        }
-        if (day(k) > 0) {
-            // A number is only overruled by two neighbours that agree; at either end of the
-            // count, by the two rows next to it. A footer's or heading's line may stand inside
-            // the table (it holds a time) and ends the count as the table's edge does.
-            const bool last =
-                nearest(k, 1, firsts.size()) < 0 && before > 1 && day(k - 2) == before - 1;
-            const bool first =
-                nearest(k, -1, firsts.size()) < 0 && after > 0 && day(k + 2) == after + 1;
-            if ((between || last) && day(k) != before + 1)
-                doubts.append({firsts[k], Doubt::Day, before + 1});
-            else if (first && day(k) != after - 1)
-                doubts.append({firsts[k], Doubt::Day, after - 1});
-            continue;
-        }
-        // Unreadable: counted from the nearest readable day above, else below (three rows off at
-        // most: unreadable days come in runs), or from days further off on both sides that keep
-        // the count between them.
-        const int above = nearest(k, -1, 3), below = nearest(k, 1, 3);
-        const int further = nearest(k, -1, firsts.size());
-        // Past the readable days a word is a misread day only when it could be one: a footer's
-        // "Jumu'ah 12:45 1:30 2:15" is no day's row, "1440" (14 run into 4:40) is.
-        static const QRegularExpression word(QStringLiteral("^\\D{4,}$"));
-        const bool outside = further < 0 || nearest(k, 1, firsts.size()) < 0;
-        if (outside && word.match(items[firsts[k]].text).hasMatch()) continue;
-        int counted = above > 0 && (below < 0 || below == above) ? above
-                      : above < 0 && below > 0                   ? below
-                                                                 : -1;
-        if (counted < 0 && further > 0 && further == nearest(k, 1, firsts.size()))
-            counted = further;
-        doubts.append({firsts[k], Doubt::Day, counted});
-    }
+    doubts << dayDoubts(items, lines, table);
     return doubts;
 }
 

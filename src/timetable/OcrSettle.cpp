@@ -74,17 +74,21 @@ QString leadingTime(const QString& reading) {
 // in a shape it did not allow (a serif 5 taken for an S); the first reading, its look-alike
 // letters read as digits, still holds that hour before the minutes. Empty when it does not.
 QString withHourOf(const QString& first, const QString& second) {
-    static const QRegularExpression minutesOnly(QStringLiteral("^[:.]([0-5]\\d)$"));
+    static const QRegularExpression minutesOnly(
+        QStringLiteral("^[:.]([0-5]\\d)(\\s*[AaPp]\\.?[Mm]\\.?)?$"));
     const QRegularExpressionMatch m = minutesOnly.match(second);
     if (!m.hasMatch()) return {};
     QString digits;
     for (QChar c : asDigits(first))
         if (c.isDigit()) digits += c;
-    const QString hour = digits.endsWith(m.captured(1)) && digits.size() > 2
-                             ? digits.left(digits.size() - 2)
-                             : digits.left(1);
-    const QString time = hour + second;
-    return isTime(time) ? time : QString();
+    // The digits before the minutes, or the first alone when the separator was read as one
+    // ("S$33pm", its $ the colon).
+    for (const QString& hour :
+         {digits.endsWith(m.captured(1)) && digits.size() > 2 ? digits.left(digits.size() - 2)
+                                                              : QString(),
+          digits.left(1)})
+        if (!hour.isEmpty() && isTime(hour + second)) return hour + second;
+    return {};
 }
 // The parts of a clean time: hour, separator, minutes and what follows them ("pm").
 struct Clock {
@@ -212,6 +216,13 @@ namespace words {
 // not for one: one day apart from the rows around it by its hour alone, by one digit's
 // look-alike, or by one more digit after its own (a dot or a mark beside it, 13:00 for 1.30),
 // is a misreading.
+bool lookalike(QChar a, QChar b) {
+    static const QList<QSet<QChar>> pairs{{u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'}, {u'5', u'6'},
+                                          {u'6', u'8'}, {u'1', u'7'}, {u'3', u'5'}, {u'8', u'9'},
+                                          {u'0', u'9'}, {u'5', u'8'}, {u'1', u'4'}};
+    return pairs.contains(QSet<QChar>{a, b});
+}
+
 bool misread(QString time, QString agreed) {
     const Clock read = clockOf(time), around = clockOf(agreed);
     if (read.hour < 0 || around.hour < 0) return false;
@@ -221,9 +232,6 @@ bool misread(QString time, QString agreed) {
     if (digits.size() == agreedDigits.size() + 1 && digits.startsWith(agreedDigits)) return true;
     if (read.minute == around.minute)
         return dialDistance(dialMinutes(time), dialMinutes(agreed)) >= 60;
-    static const QList<QSet<QChar>> lookalikes{
-        {u'0', u'6'}, {u'0', u'8'}, {u'3', u'8'}, {u'5', u'6'}, {u'6', u'8'}, {u'1', u'7'},
-        {u'3', u'5'}, {u'8', u'9'}, {u'0', u'9'}, {u'5', u'8'}, {u'1', u'4'}};
     if (read.hour != around.hour || time.size() != agreed.size()) return false;
     // A dotted sheet is read with colons here and there.
     time.replace(u'.', u':');
@@ -234,7 +242,7 @@ bool misread(QString time, QString agreed) {
             if (differ >= 0) return false;
             differ = c;
         }
-    return differ >= 0 && lookalikes.contains(QSet<QChar>{time[differ], agreed[differ]});
+    return differ >= 0 && lookalike(time[differ], agreed[differ]);
 }
 
 QString withHourNear(const QString& time, const QString& near, int low, int high) {

@@ -67,3 +67,19 @@ TEST(OcrColumnsTest, ARunsFirstDayTakesTheHourTheDaysAfterItGive) {
                               {"4", "5:31", "5.00", "8:45"}});
     EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)), QStringList({"6:25 5:25 5:25"}));
 }
+
+// Small print misreads a jamaat time's minutes for the rest of the table (1:38 for 1:30), where
+// no day below can outvote it. A column kept to round minutes takes the round look-alike it
+// holds elsewhere; one that keeps to other minutes, and one that moves a minute a day after a
+// month of round times, are left alone.
+TEST(OcrColumnsTest, ARoundColumnTakesBackTheRoundTimeAMisreadDigitHid) {
+    const auto items = table({{"10", "5:08", "1:30", "6:05"},
+                              {"11", "5:08", "1:30", "6:05"},
+                              {"12", "5:08", "1.30", "6:05"},
+                              {"13", "5:00", "1:30", "6:05"},
+                              {"14", "5:03", "1:38", "5:29"},
+                              {"15", "5:03", "1:38", "5:30"},
+                              {"16", "5:03", "1.38", "5:36"}});
+    EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
+              QStringList({"1:38 1:30 1:30", "1:38 1:30 1:30", "1.38 1.30 1.30"}));
+}

@@ -12,7 +12,7 @@ QStringList dayDoubts(const QStringList& firsts) {
     QList<RecognizedItem> items;
     for (int r = 0; r < firsts.size(); ++r) {
         QStringList row = firsts[r].split(' ');
-        if (row.size() == 1) row << QStringList{"5:10", "1:05", "3:30"};
+        if (row.size() == 1) row << QStringList{"5:10", "1:05", "3:30", "7:00"};
         for (int c = 0; c < row.size(); ++c)
             items.append({row[c], OcrLines::relativeBox(c * 200, r * 50, c * 200 + 80, r * 50 + 20,
                                                         1000, 1000)});
@@ -34,11 +34,15 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"1", "2", "Jun 445 1:05 3:30", "4", "Mon 5 5:10 1:05 3:30", "6"}),
               QStringList({"Jun/3"}));
     // A weekday's name before its day read as four digits: the day, not a time.
-    EXPECT_EQ(dayDoubts({"11", "12", "Sat 1300 5:10 1:05 3:30", "14"}), QStringList({"1300/13"}));
+    EXPECT_EQ(dayDoubts({"11", "12", "Sat 1300 5:10 1:05 3:30 7:00", "14"}),
+              QStringList({"1300/13"}));
     // The last day, and the first, read wrong: the count of the two rows beside it gives it,
     // also when a footer with times stands after the table ("13" is 14 here, "7" is 1).
     EXPECT_EQ(dayDoubts({"7", "2", "3", "11", "12", "13", "13", "Jumu'ah 12:45 1:30 2:15"}),
               QStringList({"7/1", "13/14"}));
+    // A last day misread as a word holds a whole row of times, a footer does not.
+    EXPECT_EQ(dayDoubts({"15", "16", "Wian 5:10 1:05 3:30 7:00"}), QStringList({"Wian/17"}));
+    EXPECT_EQ(dayDoubts({"15", "16", "Wian 510 1:05 3:30 7:00"}), QStringList({"Wian/17"}));
     // A row whose times ran together into one unreadable word keeps its place in the count.
     EXPECT_EQ(dayDoubts({"10", "11", "12", "13 4400«-500)0«6612 0", "1440 5:10 1:05 3:30"}),
               QStringList({"1440/14"}));
@@ -47,6 +51,11 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"11", "12", "3", "l4", "5"}), QStringList({"3/13", "l4/14", "5/15"}));
     EXPECT_EQ(dayDoubts({"9", "10", "ll", "2", "13"}), QStringList({"ll/11", "2/12"}));
     EXPECT_EQ(dayDoubts({"28", "29", "30", "1", "2", "3"}), QStringList());
+    // Small print: a run of days unread, and rows with two times left, still count; so do the
+    // last rows, read as poorly.
+    EXPECT_EQ(dayDoubts({"8", "9", "100", "1h 4:30) 1:05 3:30", "120", "13900430 1:05 3:30", "4",
+                         "5", "6 4390 1:05 3:30", "17 4390 1:05 3:30"}),
+              QStringList({"100/10", "1h/11", "120/12", "13900430/13", "4/14", "5/15", "6/16"}));
     // Numbers that keep no count are no day column to go by.
     EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());
     // Two that do are not enough to outweigh a column mostly unread.
@@ -73,4 +82,16 @@ TEST(OcrDaysTest, FullDatesCountUpADayARowAndRunForward) {
     // Each date written is marked; a mark after a rewritten date moves with it.
     EXPECT_EQ(marks,
               QList<TextMark>({{3, 13, 4}, {5, 0, 10}, {10, 0, 10}, {2, 0, 10}, {1, 0, 10}}));
+    // Two days read ten on (06 and 07 as 16 and 17), each going on from the other: the days on
+    // both sides count past them.
+    QStringList misread;
+    for (const char* date : {"03/12/2026", "04/12/2026", "05/12/2026", "16/12/2026", "17/12/2026",
+                             "08/12/2026", "09/12/2026", "10/12/2026"})
+        misread << date + times;
+    marks.clear();
+    const QStringList recounted = OcrLines::datesCounted(misread, marks);
+    EXPECT_EQ(recounted[3], "06/12/2026" + times);
+    EXPECT_EQ(recounted[4], "07/12/2026" + times);
+    EXPECT_EQ(recounted.mid(5), misread.mid(5));
+    EXPECT_EQ(marks, QList<TextMark>({{3, 0, 10}, {4, 0, 10}}));
 }

@@ -262,6 +262,7 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     EXPECT_EQ(OcrLines::settle(cell, "Sal", ".11"), "5.11");
     EXPECT_EQ(OcrLines::settle(cell, "1Z30", ":30"), "12:30");
     EXPECT_EQ(OcrLines::settle(cell, "xx", ".15"), "xx");
+    EXPECT_EQ(OcrLines::settle(cell, "S$33pm", ":33pm"), "5:33pm"); // its $ the colon
     // A mark read after the time: the time it begins with.
     EXPECT_EQ(OcrLines::settle(cell, "4:26.62", "4:26.62"), "4:26");
     EXPECT_EQ(OcrLines::settle(cell, "442~", "442~"), "4:42");

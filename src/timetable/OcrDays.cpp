@@ -1,0 +1,133 @@
+// The day column: numbers counted down the rows, where small print and photos lose them. One
+// that is no number, or breaks the count between its neighbours, is read again; the count tells
+// what it should be.
+#include "timetable/OcrWords.h"
+
+#include <QHash>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+#include <algorithm>
+
+namespace tarvanel::OcrLines::words {
+
+QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
+                       const QList<qsizetype>& table) {
+    QList<Doubt> doubts;
+    // The times a whole row holds: the count most of the table's rows read.
+    QMap<qsizetype, int> rowsWith;
+    for (qsizetype l : table)
+        ++rowsWith[timesIn(items, lines[l])];
+    const qsizetype whole =
+        std::max_element(rowsWith.keyValueBegin(), rowsWith.keyValueEnd(), [](auto a, auto b) {
+            return a.second < b.second;
+        })->first;
+    // The first word of a row, or the second after a weekday's name.
+    static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
+    QList<qsizetype> firsts;
+    for (qsizetype l = table.first(); l <= table.last(); ++l) {
+        const QList<qsizetype>& line = lines[l];
+        static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
+        // A month's name first ("Jun 445") is a date whose day went unread.
+        static const QRegularExpression month(
+            QStringLiteral("^(jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)"),
+            QRegularExpression::CaseInsensitiveOption);
+        const QString& first = items[line[0]].text;
+        // After the name, four digits are a day run into what follows it ("Sat 1300") when the
+        // row holds a time more than whole rows do; else they are the first time, and the name
+        // a misread day ("Wian 445").
+        const QString second = line.size() > 1 ? items[line[1]].text : QString();
+        const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
+                             !month.match(first).hasMatch() && !clock.match(second).hasMatch() &&
+                             (!words::isTimeLike(second) || timesIn(items, line) > whole);
+        // A row whose times all went unreadable still holds its place in the count; a heading
+        // between two months' tables does not.
+        if (table.contains(l) || isDay(items[line[weekday ? 1 : 0]].text))
+            firsts << line[weekday ? 1 : 0];
+    }
+    QSet<qsizetype> wholeRows; // the first words of lines that hold as many
+    for (qsizetype l : table)
+        if (timesIn(items, lines[l]) >= whole) wholeRows << lines[l][0];
+    const auto days = std::count_if(firsts.begin(), firsts.end(),
+                                    [&](qsizetype i) { return isDay(items[i].text); });
+    auto read = [&](qsizetype k) {
+        return k >= 0 && k < firsts.size() && isDay(items[firsts[k]].text)
+                   ? items[firsts[k]].text.toInt()
+                   : -1;
+    };
+    QHash<qsizetype, int> tensLost; // days read without their tens digit, and the day
+    auto day = [&](qsizetype k) { return tensLost.value(k, read(k)); };
+    // The readable day nearest row k (up to `reach` rows off) above (step -1) or below (+1),
+    // as the count gives it for row k; -1 for none.
+    auto nearest = [&](qsizetype k, int step, qsizetype reach) {
+        for (qsizetype d = 1; d <= reach; ++d)
+            if (const int v = day(k + step * d); v > 0) return int(v - step * d);
+        return -1;
+    };
+    // Serif print loses a day's tens digit to the gap before it: 13, 14, 15 read as 3, 4, 5
+    // after 12. Such a run counts on from the nearest readable day above it, past any rows
+    // read too poorly to tell (small print loses several in a row); a new month (30, then 1)
+    // does not drop by ten or twenty.
+    for (qsizetype k = 1, run = -1; k < firsts.size(); ++k) {
+        if (read(k) < 0) continue;
+        if (run >= 0 && read(k) == read(run) + (k - run)) {
+            tensLost[k] = tensLost[run] + int(k - run);
+            run = k;
+            continue;
+        }
+        run = -1;
+        const int counted = nearest(k, -1, firsts.size()); // as the rows above count it
+        const int lost = counted - read(k);
+        if (counted > 0 && (lost == 10 || lost == 20) && isDay(QString::number(counted))) {
+            tensLost[k] = counted;
+            run = k;
+        }
+    }
+    // A photo may leave most of a column of small print unreadable; what it does read still
+    // counts once several days keep the count with the readable day nearest them.
+    qsizetype counting = 0;
+    for (qsizetype k = 0; k < firsts.size(); ++k)
+        counting += day(k) > 0 && (nearest(k, -1, firsts.size()) == day(k) ||
+                                   nearest(k, 1, firsts.size()) == day(k));
+    if (days * 2 < firsts.size() && (counting < 3 || counting * 2 < days)) return doubts;
+    for (qsizetype k = 0; k < firsts.size(); ++k) {
+        const int before = day(k - 1), after = day(k + 1);
+        const bool between = before > 0 && after == before + 2;
+        if (tensLost.contains(k)) {
+            doubts.append({firsts[k], Doubt::Day, day(k)});
+            continue;
+        }
+        if (day(k) > 0) {
+            // A number is only overruled by two neighbours that agree; at either end of the
+            // count, by the two rows next to it. A footer's or heading's line may stand inside
+            // the table (it holds a time) and ends the count as the table's edge does.
+            const bool last =
+                nearest(k, 1, firsts.size()) < 0 && before > 1 && day(k - 2) == before - 1;
+            const bool first =
+                nearest(k, -1, firsts.size()) < 0 && after > 0 && day(k + 2) == after + 1;
+            if ((between || last) && day(k) != before + 1)
+                doubts.append({firsts[k], Doubt::Day, before + 1});
+            else if (first && day(k) != after - 1)
+                doubts.append({firsts[k], Doubt::Day, after - 1});
+            continue;
+        }
+        // Unreadable: counted from the nearest readable day above, else below (three rows off at
+        // most: unreadable days come in runs), or from days further off on both sides that keep
+        // the count between them.
+        const int above = nearest(k, -1, 3), below = nearest(k, 1, 3);
+        const int further = nearest(k, -1, firsts.size());
+        // Past the readable days a word is a misread day only when it could be one.
+        // A last day misread as a word ("Wian 4:45 1:30 ...") holds a whole row of times.
+        const bool outside = further < 0 || nearest(k, 1, firsts.size()) < 0;
+        if (outside && wordOnly(items[firsts[k]].text) && !wholeRows.contains(firsts[k])) continue;
+        int counted = above > 0 && (below < 0 || below == above) ? above
+                      : above < 0 && below > 0                   ? below
+                                                                 : -1;
+        if (counted < 0 && further > 0 && further == nearest(k, 1, firsts.size()))
+            counted = further;
+        doubts.append({firsts[k], Doubt::Day, counted});
+    }
+    return doubts;
+}
+
+} // namespace tarvanel::OcrLines::words

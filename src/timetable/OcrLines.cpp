@@ -228,8 +228,11 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             // Its am/pm marker aside: "iSpm" is a blurred 1:15pm.
             static const QRegularExpression marker(QStringLiteral("\\s*[AaPp]\\.?[Mm]\\.?$"));
             const QString digits = asDigits(QString(items[i].text).remove(marker));
+            // A word with a digit and the marker is a time wherever it stands: the row's first
+            // time may be the one misread ("4tlam").
+            const bool marked = marker.match(items[i].text).hasMatch() && digits.contains(digit);
             const bool amongTimes =
-                table.contains(l) && items[i].box.left() >= firstTime &&
+                table.contains(l) && (items[i].box.left() >= firstTime || marked) &&
                 (items[i].text.contains(digit) || digits.count(digit) * 2 >= digits.size());
             const auto rows = std::count_if(table.begin(), table.end(), [&](qsizetype t) {
                 return t != l && timeBelowOrAbove(t, i, true) >= 0;

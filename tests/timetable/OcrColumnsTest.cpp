@@ -6,11 +6,11 @@ using namespace tarvanel;
 
 namespace {
 
-// Rows of four cells, each where a table puts it.
+// Rows of cells, each where a table puts it.
 QList<RecognizedItem> table(const QList<QStringList>& rows) {
     QList<RecognizedItem> items;
     for (int r = 0; r < rows.size(); ++r)
-        for (int c = 0; c < 4; ++c)
+        for (int c = 0; c < rows[r].size(); ++c)
             items.append({rows[r][c], OcrLines::relativeBox(c * 200, r * 50, c * 200 + 80,
                                                             r * 50 + 20, 1000, 600)});
     return items;
@@ -97,4 +97,14 @@ TEST(OcrColumnsTest, AnHourNoPrayerKeepsWithinASheetTakesTheColumnsHour) {
                               {"7", "4:45", "1:15", "7:30"}});
     EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
               QStringList({"9:15 1:15 1:15", "4.15 1:15 1:15"}));
+}
+
+// A first time column that small print left unreadable in every row: a word with a digit and
+// the page's am/pm mark is a time to read again, though no clean time stands before it.
+TEST(OcrColumnsTest, AWordWithADigitAndAnAmPmMarkIsATimeToReadAgain) {
+    const auto items = table({{"1", "4tlam", "4:45am", "5:46am", "1:15pm"},
+                              {"2", "4:ilam", "4:45am", "5:46am", "1:15pm"},
+                              {"3", "4tlam", "4:45am", "5:45am", "1:15pm"}});
+    EXPECT_EQ(settled(items, OcrLines::doubtful(items)),
+              QStringList({"4tlam  4tlam", "4:ilam  4:ilam", "4tlam  4tlam"}));
 }

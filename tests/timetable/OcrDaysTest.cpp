@@ -37,6 +37,9 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     const QString times = " 5:10 1:05 3:30 7:00";
     EXPECT_EQ(dayDoubts({"Thu 11" + times, "Fri 12" + times, "Sat 1300" + times, "Sun 14" + times}),
               QStringList({"1300/13"}));
+    // Where most rows' first time lost its colon too, a misread day before it is still the day.
+    EXPECT_EQ(dayDoubts({"10 414" + times, "ll 414" + times, "12 414" + times}),
+              QStringList({"ll/11"}));
     // The last day, and the first, read wrong: the count of the two rows beside it gives it,
     // also when a footer with times stands after the table ("13" is 14 here, "7" is 1).
     EXPECT_EQ(dayDoubts({"7", "2", "3", "11", "12", "13", "13", "Jumu'ah 12:45 1:30 2:15"}),

@@ -210,7 +210,10 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     // A word with digits right of a row's first time is taken for a time too: a column the
     // print made hard to read may hold no clean time in any row. Letters that look like
     // digits count as digits there ("SS" for a blurred 5.15).
-    const int evidence = std::max<int>(2, int(table.size() / 3));
+    // Rows read too poorly to count as evidence themselves do not raise the bar.
+    const auto whole = std::count_if(table.begin(), table.end(),
+                                     [&](qsizetype l) { return timesIn(items, lines[l]) >= 3; });
+    const int evidence = std::max<int>(2, int(whole / 3));
     static const QRegularExpression digit(QStringLiteral("\\d"));
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
         // Where the row's times begin: its first time, or first word of three or four digits

@@ -108,3 +108,18 @@ TEST(OcrColumnsTest, AWordWithADigitAndAnAmPmMarkIsATimeToReadAgain) {
     EXPECT_EQ(settled(items, OcrLines::doubtful(items)),
               QStringList({"4tlam  4tlam", "4:ilam  4:ilam", "4tlam  4tlam"}));
 }
+
+// A time column read in a few rows only, among many rows read poorly: the poor rows do not
+// raise the evidence a word standing under those times needs to be read again.
+TEST(OcrColumnsTest, PoorRowsDoNotHideAColumnsMisreadCell) {
+    QList<QStringList> rows;
+    for (const char* first : {"4:37", "y0", "43440", "4:33", "4:31", "y1"})
+        rows << QStringList{"1", first, "5:00", "6:12", "12:02"};
+    for (int poor = 0; poor < 7; ++poor)
+        rows << QStringList{"1", "yy", "5:00", "zz", "12:04"};
+    const auto items = table(rows);
+    QStringList doubted;
+    for (const OcrLines::Doubt& doubt : OcrLines::doubtful(items))
+        doubted << items[doubt.item].text;
+    EXPECT_TRUE(doubted.contains("43440")) << doubted.join(' ').toStdString();
+}

@@ -26,7 +26,7 @@ QList<qsizetype> standingIn(const QList<RecognizedItem>& items, const QList<qsiz
     return in;
 }
 
-bool round(const QString& time) {
+bool roundTime(const QString& time) {
     return time.right(2).toInt() % 5 == 0;
 }
 
@@ -34,8 +34,8 @@ bool round(const QString& time) {
 // round and becomes so with a look-alike digit of its minutes (1:38, 4:06) is that time misread,
 // when the column holds it elsewhere; the one it holds most often. Empty when it is not.
 QString roundAgain(const QString& time, const QStringList& column) {
-    const auto rounded = std::count_if(column.begin(), column.end(), round);
-    if (round(time) || column.size() < 5 || rounded * 2 <= column.size()) return {};
+    const auto rounded = std::count_if(column.begin(), column.end(), roundTime);
+    if (roundTime(time) || column.size() < 5 || rounded * 2 <= column.size()) return {};
     auto count = [&](QString value) {
         value.replace(u'.', u':');
         return std::count_if(column.begin(), column.end(),
@@ -46,7 +46,7 @@ QString roundAgain(const QString& time, const QStringList& column) {
         for (QChar digit = u'0'; digit <= u'9'; digit = QChar(digit.unicode() + 1)) {
             QString candidate = time;
             candidate[at] = digit;
-            if (!lookalike(time[at], digit) || !isTime(candidate) || !round(candidate) ||
+            if (!lookalike(time[at], digit) || !isTime(candidate) || !roundTime(candidate) ||
                 count(candidate) == 0)
                 continue;
             if (best.isEmpty() || count(candidate) > count(best)) best = candidate;

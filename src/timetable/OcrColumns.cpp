@@ -26,6 +26,11 @@ QList<qsizetype> standingIn(const QList<RecognizedItem>& items, const QList<qsiz
     return in;
 }
 
+// A time as one of its column: a dotted sheet is read with colons here and there.
+QString withColon(QString time) {
+    return time.replace(u'.', u':');
+}
+
 bool roundTime(const QString& time) {
     return time.right(2).toInt() % 5 == 0;
 }
@@ -36,10 +41,10 @@ bool roundTime(const QString& time) {
 QString roundAgain(const QString& time, const QStringList& column) {
     const auto rounded = std::count_if(column.begin(), column.end(), roundTime);
     if (roundTime(time) || column.size() < 5 || rounded * 2 <= column.size()) return {};
-    auto count = [&](QString value) {
-        value.replace(u'.', u':');
-        return std::count_if(column.begin(), column.end(),
-                             [&](QString other) { return other.replace(u'.', u':') == value; });
+    auto count = [&](const QString& value) {
+        return std::count_if(column.begin(), column.end(), [&](const QString& other) {
+            return withColon(other) == withColon(value);
+        });
     };
     QString best;
     for (qsizetype at = time.size() - 2; at < time.size(); ++at)
@@ -177,7 +182,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     // and below it within a few rows, more often than it is, that it differs from as a misreading
     // does. A jamaat time holds for days, so a run of misread cells still has it on both sides.
     constexpr qsizetype reach = 4;
-    auto same = [](QString a, QString b) { return a.replace(u'.', u':') == b.replace(u'.', u':'); };
+    auto same = [](const QString& a, const QString& b) { return withColon(a) == withColon(b); };
     // At a run's edge (a table's or a month's first or last rows) the two days beyond a cell
     // tell its hour, "6:25" above 5:27 and 5:29 being 5:25; not when a day next to it agrees
     // with it: a change of clock moves every day after it.
@@ -242,9 +247,9 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                 agreed = hourFromBeyond(at, column, time);
             // Only where the column holds its times for days: a column that moves a minute a
             // day (Maghrib at sunset) may be round at times and hold the look-alike too.
-            QSet<QString> around{QString(time).replace(u'.', u':')};
-            for (QString other : above + below)
-                around << other.replace(u'.', u':');
+            QSet<QString> around{withColon(time)};
+            for (const QString& other : above + below)
+                around << withColon(other);
             if (agreed.isEmpty() && around.size() <= 3) agreed = roundAgain(time, columnTimes[k]);
             if (agreed.isEmpty()) agreed = hourOfColumn(time, columnTimes[k]);
             if (agreed.isEmpty()) continue;

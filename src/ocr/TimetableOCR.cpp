@@ -114,6 +114,9 @@ void repair(QList<RecognizedItem>& items, QList<Recognizer::Word> words, Recogni
         else
             readAgain(doubt);
     }
+    // Day cells read again one by one may count now, and the count settles those still unread.
+    for (const OcrLines::Doubt& doubt : OcrLines::dayDoubts(items))
+        items[doubt.item].text = OcrLines::settle(doubt, items[doubt.item].text, {});
     // Twice: a cell settled in the first round is a clean time the second can go by.
     for (int round = 0; round < 2; ++round)
         for (OcrLines::Doubt doubt : OcrLines::columnDoubts(items)) {

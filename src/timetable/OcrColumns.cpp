@@ -186,6 +186,19 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     // At a run's edge (a table's or a month's first or last rows) the two days beyond a cell
     // tell its hour, "6:25" above 5:27 and 5:29 being 5:25; not when a day next to it agrees
     // with it: a change of clock moves every day after it.
+    // A day whose other times move half an hour or more from the day next to it, in two columns
+    // or more, is a change of timetable (the clocks going back at the month's end), not a
+    // misread hour.
+    auto timetableChanges = [&](qsizetype at, qsizetype next, const QRectF& column) {
+        const QList<qsizetype>& model = times[nearestClean(rows[at])];
+        return 2 <= std::count_if(model.begin(), model.end(), [&](qsizetype i) {
+                   const QRectF other = items[i].box;
+                   const QString here = cleanTime(rows[at], other),
+                                 there = cleanTime(rows[next], other);
+                   return overlap(other, column) <= 0 && !here.isEmpty() && !there.isEmpty() &&
+                          dialDistance(dialMinutes(here), dialMinutes(there)) >= 30;
+               });
+    };
     auto hourFromBeyond = [&](qsizetype at, const QRectF& column, const QString& time) {
         const int x = dialMinutes(time);
         for (qsizetype t : {at - 1, at + 1})
@@ -198,7 +211,8 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             if (b < 0 || b >= rows.size()) continue;
             const QString near = cleanTime(rows[at + step], column);
             const QString far = cleanTime(rows[b], column);
-            if (near.isEmpty() || far.isEmpty()) continue;
+            if (near.isEmpty() || far.isEmpty() || timetableChanges(at, at + step, column))
+                continue;
             const int n = dialMinutes(near), f = dialMinutes(far);
             const int daily = (n - f + 1080) % 720 - 360; // towards this cell
             const int expected = (n + daily + 720) % 720;

@@ -99,7 +99,18 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
     for (qsizetype k = 0; k < firsts.size(); ++k)
         counting += day(k) > 0 && (nearest(k, -1, firsts.size()) == day(k) ||
                                    nearest(k, 1, firsts.size()) == day(k));
-    if (days * 2 < firsts.size() && (counting < 3 || counting * 2 < days)) return doubts;
+    if (days * 2 < firsts.size() && (counting < 3 || counting * 2 < days)) {
+        // Too few to count by: a short word where the days stand is each read again on its own
+        // ("01" read as "o" among the table's rules); a whole date or a weekday is no day.
+        static const QRegularExpression weekday(QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)"),
+                                                QRegularExpression::CaseInsensitiveOption);
+        for (qsizetype i : firsts)
+            if (const QString& text = items[i].text;
+                text.size() <= 3 && !text.contains(u'/') && !isTimeLike(text) &&
+                !weekday.match(text).hasMatch() && items[i].box.right() < timesBegin)
+                doubts.append({i, Doubt::Day, -1});
+        return doubts;
+    }
     for (qsizetype k = 0; k < firsts.size(); ++k) {
         const int before = day(k - 1), after = day(k + 1);
         const bool between = before > 0 && after == before + 2;

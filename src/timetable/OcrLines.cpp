@@ -108,7 +108,7 @@ QString asDigits(QString reading) {
 } // namespace words
 
 bool isDay(const QString& word) {
-    static const QRegularExpression re(QStringLiteral("^([1-9]|[12]\\d|3[01])$"));
+    static const QRegularExpression re(QStringLiteral("^(0?[1-9]|[12]\\d|3[01])$"));
     return re.match(word).hasMatch();
 }
 
@@ -263,6 +263,15 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     }
 
     doubts << dayDoubts(items, lines, table);
+    return doubts;
+}
+
+QList<Doubt> dayDoubts(const QList<RecognizedItem>& items) {
+    const QList<QList<qsizetype>> lines = lineIndices(items);
+    const QList<qsizetype> table = tableLines(items, lines);
+    if (table.size() < 2) return {};
+    QList<Doubt> doubts = words::dayDoubts(items, lines, table);
+    doubts.removeIf([](const Doubt& doubt) { return doubt.expected <= 0; });
     return doubts;
 }
 

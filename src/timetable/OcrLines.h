@@ -64,6 +64,9 @@ struct Doubt {
     QRectF box = {};
 };
 QList<Doubt> doubtful(const QList<RecognizedItem>& items);
+// The day cells the count of the table's days settles; meant for after a day column read too
+// poorly to count has been read again cell by cell.
+QList<Doubt> dayDoubts(const QList<RecognizedItem>& items);
 // The cells of the table's time columns that hold no time, in the rows that read fewer times
 // than the rows read cleanly: a word that reads as no time, or a place where nothing was read
 // (`item` -1); and clean times the column's times around them say were misread (`agreed`). Meant

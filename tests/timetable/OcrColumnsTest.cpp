@@ -68,6 +68,19 @@ TEST(OcrColumnsTest, ARunsFirstDayTakesTheHourTheDaysAfterItGive) {
     EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)), QStringList({"6:25 5:25 5:25"}));
 }
 
+// A table's last day read an hour off takes the hour of the days before it, unless its other
+// times move too: then the clocks went back that day, and every jamaat time with them.
+TEST(OcrColumnsTest, ALastDayAnHourOffIsAChangeOfClockWhenTheWholeDayMoves) {
+    QList<QStringList> rows{{"29", "6:30", "1:30", "3:45", "8:05"},
+                            {"30", "6:30", "1:30", "3:45", "8:05"},
+                            {"31", "6:30", "12:30", "3:45", "8:05"}};
+    auto items = table(rows);
+    EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)), QStringList({"12:30 1:30 1:30"}));
+    rows[2] = QStringList{"31", "5:30", "12:30", "2:45", "7:05"};
+    items = table(rows);
+    EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)), QStringList());
+}
+
 // Small print misreads a jamaat time's minutes for the rest of the table (1:38 for 1:30), where
 // no day below can outvote it. A column kept to round minutes takes the round look-alike it
 // holds elsewhere; one that keeps to other minutes, and one that moves a minute a day after a

@@ -60,10 +60,25 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"8", "9", "100", "1h 4:30) 1:05 3:30", "120", "13900430 1:05 3:30", "4",
                          "5", "6 4390 1:05 3:30", "17 4390 1:05 3:30"}),
               QStringList({"100/10", "1h/11", "120/12", "13900430/13", "4/14", "5/15", "6/16"}));
-    // Numbers that keep no count are no day column to go by.
-    EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "3", "y"}), QStringList());
+    // Numbers that keep no count are no day column to go by: each short word is read again on
+    // its own, a whole date or a weekday's name is not.
+    EXPECT_EQ(dayDoubts({"i", "Q", "5", "W", "12", "x", "Sat", "y", "01/08/2026"}),
+              QStringList({"i/-1", "Q/-1", "5/-1", "W/-1", "12/-1", "x/-1", "y/-1"}));
     // Two that do are not enough to outweigh a column mostly unread.
-    EXPECT_EQ(dayDoubts({"i", "Q", "3", "4", "x", "W", "y", "z"}), QStringList());
+    EXPECT_EQ(dayDoubts({"i", "Q", "3", "4", "x", "W", "yy", "z"}),
+              QStringList({"i/-1", "Q/-1", "3/-1", "4/-1", "x/-1", "W/-1", "yy/-1", "z/-1"}));
+    // Read again one by one, the days that come back count the rest; a day may keep its zero.
+    QList<RecognizedItem> items;
+    const QStringList read{"01", "oo", "03", "4", "5", "w", "7"};
+    for (int r = 0; r < read.size(); ++r)
+        for (int c = 0; c < 4; ++c)
+            items.append(
+                {c ? QStringLiteral("5:1%1").arg(c) : read[r],
+                 OcrLines::relativeBox(c * 200, r * 50, c * 200 + 80, r * 50 + 20, 1000, 1000)});
+    QStringList counted;
+    for (const OcrLines::Doubt& d : OcrLines::dayDoubts(items))
+        counted << items[d.item].text + "/" + QString::number(d.expected);
+    EXPECT_EQ(counted, QStringList({"oo/2", "w/6"}));
 }
 
 // Full dates, where a photo of small print misreads a digit or loses a slash.

@@ -86,8 +86,6 @@ bool Recognizer::load() {
     }
     // Tesseract's diagnostics (statistics of an empty cell) are no use in the log.
     api_.SetVariable("debug_file", "/dev/null");
-    // Sauvola's local threshold copes with the uneven light of a phone photo.
-    api_.SetVariable("thresholding_method", "2");
     // Retrying doubtful words as white on black doubles the time and never helps a sheet.
     api_.SetVariable("tessedit_do_invert", "0");
     api_.SetVariable("tessedit_char_blacklist", lookalikeCapitals);
@@ -109,7 +107,9 @@ bool Recognizer::recognize() {
     return false;
 }
 
-QList<Recognizer::Word> Recognizer::words(Pix* page, tesseract::PageSegMode mode) {
+QList<Recognizer::Word> Recognizer::words(Pix* page, tesseract::PageSegMode mode,
+                                          Threshold threshold) {
+    api_.SetVariable("thresholding_method", threshold == Threshold::Local ? "2" : "0");
     api_.SetPageSegMode(mode);
     api_.SetImage(page);
     api_.SetSourceResolution(300);

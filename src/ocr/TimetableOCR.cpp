@@ -139,8 +139,8 @@ void repair(QList<RecognizedItem>& items, QList<Recognizer::Word> words, Recogni
 }
 
 QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
-                 QList<TextMark>& marks) {
-    const QList<Recognizer::Word> words = datesTidied(recognizer.words(page, mode));
+                 Recognizer::Threshold threshold, QList<TextMark>& marks) {
+    const QList<Recognizer::Word> words = datesTidied(recognizer.words(page, mode, threshold));
     QList<RecognizedItem> items = relative(words, page);
     const QList<RecognizedItem> first = items;
     repair(items, words, recognizer, page);
@@ -176,22 +176,43 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         PageImage::prepare(image, [&recognizer] { return recognizer.stopped(); });
     if (!page) return {};
     // A sheet read as one block of rows is quickest and keeps wide rows whole; a page with
-    // several blocks of text needs the automatic layout.
-    QList<TextMark> columnMarks, layoutMarks;
-    const QStringList column =
-        read(recognizer, page.get(), tesseract::PSM_SINGLE_BLOCK, columnMarks);
-    const TableShape shape = tableShape(column);
-    if (shape.times == 0 || shape.cells == shape.times) {
-        marks = columnMarks;
-        return column;
-    }
-    const QStringList layout = read(recognizer, page.get(), tesseract::PSM_AUTO, layoutMarks);
+    // several blocks of text needs the automatic layout. Each threshold reads some photos far
+    // better than the other, and the table each finds tells which did.
+    struct Reading {
+        QStringList lines;
+        QList<TextMark> marks;
+        TableShape shape;
+    };
+    auto readAs = [&](tesseract::PageSegMode mode, Recognizer::Threshold threshold) {
+        Reading reading;
+        reading.lines = read(recognizer, page.get(), mode, threshold, reading.marks);
+        reading.shape = tableShape(reading.lines);
+        return reading;
+    };
+    auto whole = [](const TableShape& shape) {
+        return shape.times > 0 && shape.cells == shape.times;
+    };
     // The automatic layout sometimes sets a column of the table apart as a picture and drops it:
     // a reading with fewer times has lost cells, however alike its rows come out.
-    const TableShape other = tableShape(layout);
-    const bool byLayout = other.cells > shape.cells && other.times >= shape.times;
-    marks = byLayout ? layoutMarks : columnMarks;
-    return byLayout ? layout : column;
+    auto better = [](const TableShape& one, const TableShape& than) {
+        return one.cells > than.cells && one.times >= than.times;
+    };
+    using Threshold = Recognizer::Threshold;
+    Reading best = readAs(tesseract::PSM_SINGLE_BLOCK, Threshold::Local);
+    Threshold threshold = Threshold::Local;
+    if (!whole(best.shape)) {
+        Reading global = readAs(tesseract::PSM_SINGLE_BLOCK, Threshold::Global);
+        if (better(global.shape, best.shape)) {
+            best = std::move(global);
+            threshold = Threshold::Global;
+        }
+    }
+    if (!whole(best.shape)) {
+        Reading layout = readAs(tesseract::PSM_AUTO, threshold);
+        if (better(layout.shape, best.shape)) best = std::move(layout);
+    }
+    marks = best.marks;
+    return best.lines;
 }
 
 QStringList readFile(const QString& path) {

@@ -32,8 +32,11 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
             }
     std::sort(starts.begin(), starts.end());
     const qreal timesBegin = starts.isEmpty() ? 0 : starts[starts.size() / 2];
-    // The first word of a row, or the second after a weekday's name.
-    static const QRegularExpression name(QStringLiteral("^[A-Za-z]{2,9}\\.?$"));
+    // The first word of a row, or the second after a weekday's name, perhaps misread; two
+    // letters only as a weekday's short name ("ll" is 11 misread).
+    static const QRegularExpression name(
+        QStringLiteral("^([A-Za-z]{3,9}|mo|tu|we|th|fr|sa|su)\\.?$"),
+        QRegularExpression::CaseInsensitiveOption);
     QList<qsizetype> firsts;
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
         const QList<qsizetype>& line = lines[l];
@@ -112,6 +115,8 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         return doubts;
     }
     for (qsizetype k = 0; k < firsts.size(); ++k) {
+        // A row that lost its day begins with a time, where the times stand.
+        if (items[firsts[k]].box.left() >= timesBegin) continue;
         const int before = day(k - 1), after = day(k + 1);
         const bool between = before > 0 && after == before + 2;
         if (tensLost.contains(k)) {

@@ -37,6 +37,21 @@ QList<QList<qsizetype>> lineIndices(const QList<RecognizedItem>& items) {
         std::stable_sort(line.begin(), line.end(), [&](qsizetype a, qsizetype b) {
             return items[a].box.left() < items[b].box.left();
         });
+    // A row photographed askew falls across the page and may come apart into pieces side by
+    // side, each level in itself: a piece that goes on where the line above it ends, at the
+    // height that one reached, is the same row.
+    auto goesOn = [&](const QList<qsizetype>& left, const QList<qsizetype>& right) {
+        return items[left.last()].box.right() <= items[right.first()].box.left() &&
+               std::abs(middle(left.last()) - middle(right.first())) < 0.6 * typical;
+    };
+    for (qsizetype l = 0; l + 1 < lines.size();) {
+        if (goesOn(lines[l], lines[l + 1]))
+            lines[l] += lines.takeAt(l + 1);
+        else if (goesOn(lines[l + 1], lines[l]))
+            lines[l] = lines.takeAt(l + 1) + lines[l];
+        else
+            ++l;
+    }
     return lines;
 }
 

@@ -40,6 +40,9 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // Where most rows' first time lost its colon too, a misread day before it is still the day.
     EXPECT_EQ(dayDoubts({"10 414" + times, "ll 414" + times, "12 414" + times}),
               QStringList({"ll/11"}));
+    // Nor is "ll" a weekday before the second date column (the Hijri day): 11 misread.
+    EXPECT_EQ(dayDoubts({"10 20" + times, "ll 21" + times, "12 22" + times, "13 23" + times}),
+              QStringList({"ll/11"}));
     // The last day, and the first, read wrong: the count of the two rows beside it gives it,
     // also when a footer with times stands after the table ("13" is 14 here, "7" is 1).
     EXPECT_EQ(dayDoubts({"7", "2", "3", "11", "12", "13", "13", "Jumu'ah 12:45 1:30 2:15"}),
@@ -79,6 +82,11 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     for (const OcrLines::Doubt& d : OcrLines::dayDoubts(items))
         counted << items[d.item].text + "/" + QString::number(d.expected);
     EXPECT_EQ(counted, QStringList({"oo/2", "w/6"}));
+    // A row whose day went unread keeps its first time.
+    for (int c = 1; c < 4; ++c)
+        items.append({QStringLiteral("5:1%1").arg(c),
+                      OcrLines::relativeBox(c * 200, 350, c * 200 + 80, 370, 1000, 1000)});
+    EXPECT_EQ(OcrLines::dayDoubts(items).size(), 2);
 }
 
 // Full dates, where a photo of small print misreads a digit or loses a slash.

@@ -167,6 +167,14 @@ TEST(TimetableImportModelTest, RecognisedWordsGroupIntoLevelLines) {
                                          item("1:15", 500, 108), item("Sat", 100, 100),
                                          item("2", 10, 200),     item("TITLE", 10, 10, 60)};
     EXPECT_EQ(OcrLines::group(items), QStringList({"TITLE", "1   Sat   5:12   1:15", "2"}));
+    // Two rows photographed askew, each falling more than half a word's height from its first
+    // word to its last, still a row's height apart.
+    QList<RecognizedItem> askew;
+    for (int row = 0; row < 2; ++row)
+        for (int c = 0; c < 5; ++c)
+            askew << item(c ? "4:10" : row ? "4" : "3", 10 + 200 * c, 300 + 40 * row + 5 * c);
+    EXPECT_EQ(OcrLines::group(askew),
+              QStringList({"3   4:10   4:10   4:10   4:10", "4   4:10   4:10   4:10   4:10"}));
     EXPECT_EQ(OcrLines::relativeBox(100, 0, 300, 50, 1000, 500), QRectF(0.1, 0.9, 0.2, 0.1));
     EXPECT_TRUE(OcrLines::group({}).isEmpty());
 

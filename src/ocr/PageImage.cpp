@@ -211,7 +211,7 @@ QImage load(const QString& path) {
     return image;
 }
 
-PixPtr prepare(const QImage& image, const std::function<bool()>& stop) {
+PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Size size) {
     if (image.isNull()) return {};
     auto stopped = [&] { return stop && stop(); };
     PixPtr page = evenlyLit(greyPix(image));
@@ -219,12 +219,21 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop) {
     page = levelled(std::move(page));
     if (stopped()) return {};
     int character = typicalCharacterHeight(page.get());
-    if (character > 0 && character < smallCharacterPixels &&
-        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * 4 <= maxPixels) {
-        PixPtr twice(pixScaleGrayLI(page.get(), 2, 2));
-        if (twice) {
-            page = std::move(twice);
-            character *= 2;
+    // Small print is enlarged twice; a second look takes it half as large again, and print
+    // a little larger than small half as large again as it is.
+    float enlarge = character > 0 && character < smallCharacterPixels ? 2 : 1;
+    if (size == Size::Other)
+        enlarge = enlarge == 2                                            ? 1.5f
+                  : character > 0 && character < 2 * smallCharacterPixels ? 1.5f
+                                                                          : 0;
+    if (enlarge == 0) return {};
+    if (enlarge > 1 &&
+        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * enlarge * enlarge <=
+            maxPixels) {
+        PixPtr larger(pixScaleGrayLI(page.get(), enlarge, enlarge));
+        if (larger) {
+            page = std::move(larger);
+            character = int(character * enlarge);
         }
     }
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled

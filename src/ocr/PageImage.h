@@ -32,7 +32,12 @@ QImage tiffPage(const QString& path, int index);
 
 // Grey, opaque and evenly lit, turned level when the page is tilted, with the table's
 // horizontal and vertical rules painted out, and enlarged twice when the print is small.
-// Null for a null image, and when `stop` (asked between the steps) says so.
-PixPtr prepare(const QImage& image, const std::function<bool()>& stop = {});
+// `Size::Other` gives the same page at another size, for a second look at print the recogniser
+// reads poorly at the first: Tesseract reads some print far better at one size than at another
+// close to it. Null for a null image, when `stop` (asked between the steps) says so, and for
+// another size of print large enough as it is.
+enum class Size { Usual, Other };
+PixPtr prepare(const QImage& image, const std::function<bool()>& stop = {},
+               Size size = Size::Usual);
 
 } // namespace tarvanel::PageImage

@@ -183,9 +183,10 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         QList<TextMark> marks;
         TableShape shape;
     };
-    auto readAs = [&](tesseract::PageSegMode mode, Recognizer::Threshold threshold) {
+    auto readAs = [&](tesseract::PageSegMode mode, Recognizer::Threshold threshold,
+                      Pix* at = nullptr) {
         Reading reading;
-        reading.lines = read(recognizer, page.get(), mode, threshold, reading.marks);
+        reading.lines = read(recognizer, at ? at : page.get(), mode, threshold, reading.marks);
         reading.shape = tableShape(reading.lines);
         return reading;
     };
@@ -210,6 +211,14 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
     if (!whole(best.shape)) {
         Reading layout = readAs(tesseract::PSM_AUTO, threshold);
         if (better(layout.shape, best.shape)) best = std::move(layout);
+    }
+    if (!whole(best.shape)) {
+        const PageImage::PixPtr other = PageImage::prepare(
+            image, [&recognizer] { return recognizer.stopped(); }, PageImage::Size::Other);
+        if (other) {
+            Reading resized = readAs(tesseract::PSM_SINGLE_BLOCK, threshold, other.get());
+            if (better(resized.shape, best.shape)) best = std::move(resized);
+        }
     }
     marks = best.marks;
     return best.lines;

@@ -219,8 +219,8 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Size size
     page = levelled(std::move(page));
     if (stopped()) return {};
     int character = typicalCharacterHeight(page.get());
-    // Small print is enlarged twice; a second look takes it half as large again, and print
-    // a little larger than small half as large again as it is.
+    // Small print is enlarged twice. A second look enlarges it 1.5 times instead, and print up
+    // to twice that size 1.5 times; larger print gets no second look.
     float enlarge = character > 0 && character < smallCharacterPixels ? 2 : 1;
     if (size == Size::Other)
         enlarge = enlarge == 2                                            ? 1.5f

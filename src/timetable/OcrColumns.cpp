@@ -183,9 +183,6 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     // does. A jamaat time holds for days, so a run of misread cells still has it on both sides.
     constexpr qsizetype reach = 4;
     auto same = [](const QString& a, const QString& b) { return withColon(a) == withColon(b); };
-    // At a run's edge (a table's or a month's first or last rows) the two days beyond a cell
-    // tell its hour, "6:25" above 5:27 and 5:29 being 5:25; not when a day next to it agrees
-    // with it: a change of clock moves every day after it.
     // A day whose other times move half an hour or more from the day next to it, in two columns
     // or more, is a change of timetable (the clocks going back at the month's end), not a
     // misread hour.
@@ -199,6 +196,9 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                           dialDistance(dialMinutes(here), dialMinutes(there)) >= 30;
                });
     };
+    // At a run's edge (a table's or a month's first or last rows) the two days beyond a cell
+    // tell its hour, "6:25" above 5:27 and 5:29 being 5:25; not when a day next to it agrees
+    // with it: a change of clock moves every day after it.
     auto hourFromBeyond = [&](qsizetype at, const QRectF& column, const QString& time) {
         const int x = dialMinutes(time);
         for (qsizetype t : {at - 1, at + 1})

@@ -211,7 +211,7 @@ QImage load(const QString& path) {
     return image;
 }
 
-PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Size size) {
+PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look) {
     if (image.isNull()) return {};
     auto stopped = [&] { return stop && stop(); };
     PixPtr page = evenlyLit(greyPix(image));
@@ -219,10 +219,10 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Size size
     page = levelled(std::move(page));
     if (stopped()) return {};
     int character = typicalCharacterHeight(page.get());
-    // Small print is enlarged twice. A second look enlarges it 1.5 times instead, and print up
-    // to twice that size 1.5 times; larger print gets no second look.
+    // Small print is enlarged twice. Another size enlarges it 1.5 times instead, and print up
+    // to twice that size 1.5 times; larger print has no other size.
     float enlarge = character > 0 && character < smallCharacterPixels ? 2 : 1;
-    if (size == Size::Other)
+    if (look == Look::Resized)
         enlarge = enlarge == 2                                            ? 1.5f
                   : character > 0 && character < 2 * smallCharacterPixels ? 1.5f
                                                                           : 0;
@@ -235,6 +235,11 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Size size
             page = std::move(larger);
             character = int(character * enlarge);
         }
+    }
+    // Edges steepened again: a shaking hand or a lens too close blurs print past reading.
+    if (look == Look::Sharpened) {
+        PixPtr sharp(pixUnsharpMaskingGray(page.get(), 3, 1.0f));
+        if (sharp) page = std::move(sharp);
     }
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled
     // again, which runs in steps, still counts. Small print is enlarged first: its rules are

@@ -32,12 +32,13 @@ QImage tiffPage(const QString& path, int index);
 
 // Grey, opaque and evenly lit, turned level when the page is tilted, with the table's
 // horizontal and vertical rules painted out, and enlarged twice when the print is small.
-// `Size::Other` gives the same page at another size, for a second look at print the recogniser
-// reads poorly at the first: Tesseract reads some print far better at one size than at another
-// close to it. Null for a null image, when `stop` (asked between the steps) says so, and for
-// another size of print large enough as it is.
-enum class Size { Usual, Other };
+// The other looks are for print the recogniser reads poorly at the first: `Look::Resized` gives
+// the page at another size (Tesseract reads some print far better at one size than at another
+// close to it), `Look::Sharpened` with its edges steepened (a blurred photo). Null for a null
+// image, when `stop` (asked between the steps) says so, and for another size of print large
+// enough as it is.
+enum class Look { Usual, Resized, Sharpened };
 PixPtr prepare(const QImage& image, const std::function<bool()>& stop = {},
-               Size size = Size::Usual);
+               Look look = Look::Usual);
 
 } // namespace tarvanel::PageImage

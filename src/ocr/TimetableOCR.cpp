@@ -212,13 +212,13 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         Reading layout = readAs(tesseract::PSM_AUTO, threshold);
         if (better(layout.shape, best.shape)) best = std::move(layout);
     }
-    if (!whole(best.shape)) {
+    for (const PageImage::Look look : {PageImage::Look::Resized, PageImage::Look::Sharpened}) {
+        if (whole(best.shape)) break;
         const PageImage::PixPtr other = PageImage::prepare(
-            image, [&recognizer] { return recognizer.stopped(); }, PageImage::Size::Other);
-        if (other) {
-            Reading resized = readAs(tesseract::PSM_SINGLE_BLOCK, threshold, other.get());
-            if (better(resized.shape, best.shape)) best = std::move(resized);
-        }
+            image, [&recognizer] { return recognizer.stopped(); }, look);
+        if (!other) continue;
+        Reading reading = readAs(tesseract::PSM_SINGLE_BLOCK, threshold, other.get());
+        if (better(reading.shape, best.shape)) best = std::move(reading);
     }
     marks = best.marks;
     return best.lines;

@@ -212,6 +212,7 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         Reading layout = readAs(tesseract::PSM_AUTO, threshold);
         if (better(layout.shape, best.shape)) best = std::move(layout);
     }
+    // Still no whole table: the page at another size, then with its edges steepened.
     for (const PageImage::Look look : {PageImage::Look::Resized, PageImage::Look::Sharpened}) {
         if (whole(best.shape)) break;
         const PageImage::PixPtr other = PageImage::prepare(

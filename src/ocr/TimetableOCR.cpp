@@ -172,8 +172,8 @@ QStringList lines(const QImage& image) {
 }
 
 QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& marks) {
-    const PageImage::PixPtr page =
-        PageImage::prepare(image, [&recognizer] { return recognizer.stopped(); });
+    const std::function<bool()> stopped = [&recognizer] { return recognizer.stopped(); };
+    const PageImage::PixPtr page = PageImage::prepare(image, stopped);
     if (!page) return {};
     // A sheet read as one block of rows is quickest and keeps wide rows whole; a page with
     // several blocks of text needs the automatic layout. Each threshold reads some photos far
@@ -215,8 +215,7 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
     // Still no whole table: the page at another size, then with its edges steepened.
     for (const PageImage::Look look : {PageImage::Look::Resized, PageImage::Look::Sharpened}) {
         if (whole(best.shape)) break;
-        const PageImage::PixPtr other = PageImage::prepare(
-            image, [&recognizer] { return recognizer.stopped(); }, look);
+        const PageImage::PixPtr other = PageImage::prepare(image, stopped, look);
         if (!other) continue;
         Reading reading = readAs(tesseract::PSM_SINGLE_BLOCK, threshold, other.get());
         if (better(reading.shape, best.shape)) best = std::move(reading);

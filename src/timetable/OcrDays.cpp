@@ -33,9 +33,13 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
     std::sort(starts.begin(), starts.end());
     const qreal timesBegin = starts.isEmpty() ? 0 : starts[starts.size() / 2];
     // The first word of a row, or the second after a weekday's name, perhaps misread; two
-    // letters only as a weekday's short name ("ll" is 11 misread).
+    // letters only as a weekday's short name ("ll" is 11 misread). A short name with a digit
+    // run into it ("Sunt", "Mon1") holds the day itself.
     static const QRegularExpression name(
         QStringLiteral("^([A-Za-z]{3,9}|mo|tu|we|th|fr|sa|su)\\.?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression withDay(
+        QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)[\\dlIit|]{1,2}$"),
         QRegularExpression::CaseInsensitiveOption);
     QList<qsizetype> firsts;
     for (qsizetype l = table.first(); l <= table.last(); ++l) {
@@ -51,7 +55,8 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         // day ("Wian 445").
         const QString second = line.size() > 1 ? items[line[1]].text : QString();
         const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
-                             !month.match(first).hasMatch() && !clock.match(second).hasMatch() &&
+                             !withDay.match(first).hasMatch() && !month.match(first).hasMatch() &&
+                             !clock.match(second).hasMatch() &&
                              (!isTimeLike(second) || items[line[1]].box.center().x() < timesBegin);
         // A row whose times all went unreadable still holds its place in the count; a heading
         // between two months' tables does not.
@@ -146,8 +151,9 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         // A last day misread as a word ("Wian 4:45 1:30 ...") holds a whole row of times.
         const bool outside = further < 0 || nearest(k, 1, firsts.size()) < 0;
         if (outside && wordOnly(items[firsts[k]].text) && !wholeRows.contains(firsts[k])) continue;
+        // Above a 2, a new month's first day, whatever the month before ended on.
         int counted = above > 0 && (below < 0 || below == above) ? above
-                      : above < 0 && below > 0                   ? below
+                      : below > 0 && (above < 0 || below == 1)   ? below
                                                                  : -1;
         if (counted < 0 && further > 0 && further == nearest(k, 1, firsts.size()))
             counted = further;

@@ -43,6 +43,11 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // Nor is "ll" a weekday before the second date column (the Hijri day): 11 misread.
     EXPECT_EQ(dayDoubts({"10 20" + times, "ll 21" + times, "12 22" + times, "13 23" + times}),
               QStringList({"ll/11"}));
+    // A weekday's name and its day read as one word ("Sunt" for "Sun 1") is no weekday before
+    // a Hijri day: the new month's first day.
+    EXPECT_EQ(dayDoubts({"Fri 27 12" + times, "Sat 28 13" + times, "Sunt 14" + times,
+                         "Mon 2 15" + times, "Tue 3 16" + times}),
+              QStringList({"Sunt/1"}));
     // The last day, and the first, read wrong: the count of the two rows beside it gives it,
     // also when a footer with times stands after the table ("13" is 14 here, "7" is 1).
     EXPECT_EQ(dayDoubts({"7", "2", "3", "11", "12", "13", "13", "Jumu'ah 12:45 1:30 2:15"}),

@@ -91,9 +91,9 @@ void inked(Pix* page) {
 }
 
 // The paper made evenly light: a photo's shadow would pass for ink in the steps that follow.
-PixPtr evenlyLit(PixPtr page) {
+PixPtr evenlyLit(PixPtr page, bool ink) {
     PixPtr even(pixBackgroundNorm(page.get(), nullptr, nullptr, 10, 15, 100, 40, 255, 2, 1));
-    if (even) inked(even.get());
+    if (even && ink) inked(even.get());
     return even ? std::move(even) : std::move(page);
 }
 
@@ -214,7 +214,9 @@ QImage load(const QString& path) {
 PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look) {
     if (image.isNull()) return {};
     auto stopped = [&] { return stop && stop(); };
-    PixPtr page = evenlyLit(greyPix(image));
+    // Print blurred past a stroke's width runs into its neighbours once made black; the
+    // sharpened look steepens its edges from the grey instead.
+    PixPtr page = evenlyLit(greyPix(image), look != Look::Sharpened);
     if (stopped()) return {};
     page = levelled(std::move(page));
     if (stopped()) return {};
@@ -238,7 +240,7 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look
     }
     // Edges steepened again: a shaking hand or a lens too close blurs print past reading.
     if (look == Look::Sharpened) {
-        PixPtr sharp(pixUnsharpMaskingGray(page.get(), 3, 1.0f));
+        PixPtr sharp(pixUnsharpMaskingGray(page.get(), 4, 1.5f));
         if (sharp) page = std::move(sharp);
     }
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled

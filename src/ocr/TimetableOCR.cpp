@@ -21,6 +21,7 @@ namespace {
 // counting only rows that name their day (a reading that lost the day column gives no day).
 struct TableShape {
     int cells = 0;
+    int columns = 0; // the times in each of those rows
     int times = 0;
 };
 TableShape tableShape(const QStringList& lines) {
@@ -31,7 +32,10 @@ TableShape tableShape(const QStringList& lines) {
         shape.times += int(row.times.size());
     }
     for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it)
-        shape.cells = std::max(shape.cells, it.value() * int(it.key()));
+        if (it.value() * int(it.key()) > shape.cells) {
+            shape.cells = it.value() * int(it.key());
+            shape.columns = int(it.key());
+        }
     return shape;
 }
 
@@ -193,24 +197,28 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
     auto whole = [](const TableShape& shape) {
         return shape.times > 0 && shape.cells == shape.times;
     };
-    // The automatic layout sometimes sets a column of the table apart as a picture and drops it:
-    // a reading with fewer times has lost cells, however alike its rows come out.
-    auto better = [](const TableShape& one, const TableShape& than) {
-        return one.cells > than.cells && one.times >= than.times;
+    // The table with more cells, a cell settled from its neighbours or read again counting half:
+    // a page read poorly fills a table with guesses. The automatic layout sometimes sets a column
+    // of the table apart as a picture and drops it: a table with fewer cells to a row and fewer
+    // cells in all has lost one, however sure its cells.
+    auto better = [](const Reading& one, const Reading& than) {
+        auto sure = [](const Reading& r) { return 2 * r.shape.cells - r.marks.size(); };
+        return sure(one) > sure(than) &&
+               (one.shape.columns >= than.shape.columns || one.shape.cells >= than.shape.cells);
     };
     using Threshold = Recognizer::Threshold;
     Reading best = readAs(tesseract::PSM_SINGLE_BLOCK, Threshold::Local);
     Threshold threshold = Threshold::Local;
     if (!whole(best.shape)) {
         Reading global = readAs(tesseract::PSM_SINGLE_BLOCK, Threshold::Global);
-        if (better(global.shape, best.shape)) {
+        if (better(global, best)) {
             best = std::move(global);
             threshold = Threshold::Global;
         }
     }
     if (!whole(best.shape)) {
         Reading layout = readAs(tesseract::PSM_AUTO, threshold);
-        if (better(layout.shape, best.shape)) best = std::move(layout);
+        if (better(layout, best)) best = std::move(layout);
     }
     // Still no whole table: the page at another size, then with its edges steepened.
     for (const PageImage::Look look : {PageImage::Look::Resized, PageImage::Look::Sharpened}) {
@@ -218,7 +226,7 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         const PageImage::PixPtr other = PageImage::prepare(image, stopped, look);
         if (!other) continue;
         Reading reading = readAs(tesseract::PSM_SINGLE_BLOCK, threshold, other.get());
-        if (better(reading.shape, best.shape)) best = std::move(reading);
+        if (better(reading, best)) best = std::move(reading);
     }
     marks = best.marks;
     return best.lines;

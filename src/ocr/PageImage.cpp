@@ -97,11 +97,33 @@ PixPtr evenlyLit(PixPtr page, bool ink) {
     return even ? std::move(even) : std::move(page);
 }
 
+// The angle that turns the text lines of `binary`, or of the part `x`, `width` across, level.
+bool skew(Pix* binary, int x, int width, float& degrees, float& confidence) {
+    if (x == 0 && width == pixGetWidth(binary))
+        return pixFindSkew(binary, &degrees, &confidence) == 0;
+    Box* box = boxCreate(x, 0, width, pixGetHeight(binary));
+    const PixPtr part(box ? pixClipRectangle(binary, box, nullptr) : nullptr);
+    boxDestroy(&box);
+    return part && pixFindSkew(part.get(), &degrees, &confidence) == 0;
+}
+
 // Turns the page level when its text lines lean (a photo held askew).
 PixPtr levelled(PixPtr page) {
     const PixPtr binary(pixThresholdToBinary(page.get(), 150));
+    if (!binary) return page;
+    const int width = pixGetWidth(binary.get());
     float degrees = 0, confidence = 0;
-    if (!binary || pixFindSkew(binary.get(), &degrees, &confidence) != 0) return page;
+    if (!skew(binary.get(), 0, width, degrees, confidence)) return page;
+    // Across a wide table a row also lines up with the next one at a wrong angle, and the whole
+    // page may favour that; where both halves agree on another angle, theirs holds.
+    float left = 0, right = 0, leftSure = 0, rightSure = 0;
+    if (skew(binary.get(), 0, width / 2, left, leftSure) &&
+        skew(binary.get(), width / 2, width - width / 2, right, rightSure) && leftSure >= 3 &&
+        rightSure >= 3 && std::abs(left - right) < 0.5f &&
+        std::abs((left + right) / 2 - degrees) > 0.5f) {
+        degrees = (left + right) / 2;
+        confidence = std::min(leftSure, rightSure);
+    }
     if (confidence < 3 || std::abs(degrees) < 0.05f) return page;
     PixPtr level(pixRotateAMGray(page.get(), degrees * float(M_PI / 180), 255));
     return level ? std::move(level) : std::move(page);

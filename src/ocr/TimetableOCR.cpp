@@ -198,13 +198,13 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         return shape.times > 0 && shape.cells == shape.times;
     };
     // The table with more cells, a cell settled from its neighbours or read again counting half:
-    // a page read poorly fills a table with guesses. The automatic layout sometimes sets a column
-    // of the table apart as a picture and drops it: a table with fewer cells to a row and fewer
-    // cells in all has lost one, however sure its cells.
+    // a page read poorly fills a table with guesses. A threshold or the automatic layout may lose
+    // a column of the table (the layout sets it apart as a picture): a table with fewer cells to
+    // a row has lost one, however sure its cells, unless it holds a quarter more cells in all.
     auto better = [](const Reading& one, const Reading& than) {
         auto sure = [](const Reading& r) { return 2 * r.shape.cells - r.marks.size(); };
-        return sure(one) > sure(than) &&
-               (one.shape.columns >= than.shape.columns || one.shape.cells >= than.shape.cells);
+        return sure(one) > sure(than) && (one.shape.columns >= than.shape.columns ||
+                                          4 * one.shape.cells >= 5 * than.shape.cells);
     };
     using Threshold = Recognizer::Threshold;
     Reading best = readAs(tesseract::PSM_SINGLE_BLOCK, Threshold::Local);

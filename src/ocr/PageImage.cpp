@@ -107,13 +107,13 @@ bool skew(Pix* binary, int x, int width, float& degrees, float& confidence) {
     return part && pixFindSkew(part.get(), &degrees, &confidence) == 0;
 }
 
-// Turns the page level when its text lines lean (a photo held askew).
-PixPtr levelled(PixPtr page) {
+// Turns the page level when its text lines lean (a photo held askew); as it is once `stopped`.
+PixPtr levelled(PixPtr page, const std::function<bool()>& stopped) {
     const PixPtr binary(pixThresholdToBinary(page.get(), 150));
     if (!binary) return page;
     const int width = pixGetWidth(binary.get());
     float degrees = 0, confidence = 0;
-    if (!skew(binary.get(), 0, width, degrees, confidence)) return page;
+    if (!skew(binary.get(), 0, width, degrees, confidence) || stopped()) return page;
     // Across a wide table a row also lines up with the next one at a wrong angle, and the whole
     // page may favour that; where both halves agree on another angle, theirs holds.
     float left = 0, right = 0, leftSure = 0, rightSure = 0;
@@ -124,7 +124,7 @@ PixPtr levelled(PixPtr page) {
         degrees = (left + right) / 2;
         confidence = std::min(leftSure, rightSure);
     }
-    if (confidence < 3 || std::abs(degrees) < 0.05f) return page;
+    if (confidence < 3 || std::abs(degrees) < 0.05f || stopped()) return page;
     PixPtr level(pixRotateAMGray(page.get(), degrees * float(M_PI / 180), 255));
     return level ? std::move(level) : std::move(page);
 }
@@ -235,12 +235,12 @@ QImage load(const QString& path) {
 
 PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look) {
     if (image.isNull()) return {};
-    auto stopped = [&] { return stop && stop(); };
+    const std::function<bool()> stopped = [&] { return stop && stop(); };
     // Print blurred past a stroke's width runs into its neighbours once made black; the
     // sharpened look steepens its edges from the grey instead.
     PixPtr page = evenlyLit(greyPix(image), look != Look::Sharpened);
     if (stopped()) return {};
-    page = levelled(std::move(page));
+    page = levelled(std::move(page), stopped);
     if (stopped()) return {};
     int character = typicalCharacterHeight(page.get());
     // Small print is enlarged twice. Another size enlarges it 1.5 times instead, and print up

@@ -97,10 +97,8 @@ PixPtr evenlyLit(PixPtr page, bool ink) {
     return even ? std::move(even) : std::move(page);
 }
 
-// The angle that turns the text lines of `binary`, or of the part `x`, `width` across, level.
+// The angle that turns the text lines of the part of `binary` `x`, `width` across level.
 bool skew(Pix* binary, int x, int width, float& degrees, float& confidence) {
-    if (x == 0 && width == pixGetWidth(binary))
-        return pixFindSkew(binary, &degrees, &confidence) == 0;
     Box* box = boxCreate(x, 0, width, pixGetHeight(binary));
     const PixPtr part(box ? pixClipRectangle(binary, box, nullptr) : nullptr);
     boxDestroy(&box);

@@ -223,7 +223,38 @@ QList<ParsedRow> usable(const QList<ParsedRow>& rows, int largest) {
 // A sheet of several months numbered by day alone (a Ramadan sheet, one month a page): where
 // the count falls from the month's last days back to its first, the rows that follow belong to
 // the next month. Those rows get that month's date; a day it does not have gets none.
+// A Ramadan sheet numbers its fasts before the dates, and both count up a row at a time. The
+// date is the number that runs from the month's last day back to the 1st, unless the first
+// number does so itself or runs through the whole month (then a later one is a Hijri day).
+QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
+    const int monthEnd = QDate(year, month, 1).daysInMonth();
+    auto numbers = [&](qsizetype column) {
+        QList<int> down;
+        for (const ParsedRow& row : rows)
+            if (row.dayNumbers.size() > column) down << row.dayNumbers[column];
+        return down;
+    };
+    auto turns = [&](const QList<int>& down) {
+        for (qsizetype i = 1; i < down.size(); ++i)
+            if (down[i - 1] == monthEnd && down[i] <= 2) return true;
+        return false;
+    };
+    const QList<int> first = numbers(0);
+    if (first.isEmpty() || turns(first) || (first.first() == 1 && first.last() == monthEnd))
+        return rows;
+    for (qsizetype column = 1; column < 3; ++column) {
+        if (!turns(numbers(column))) continue;
+        for (ParsedRow& row : rows)
+            if (!row.dayNumbers.isEmpty())
+                row.day = row.dayNumbers.size() > column ? std::optional(row.dayNumbers[column])
+                                                         : std::nullopt;
+        break;
+    }
+    return rows;
+}
+
 QList<ParsedRow> continuedMonths(QList<ParsedRow> rows, int month, int year) {
+    rows = datesChosen(std::move(rows), month, year);
     int monthsOn = 0;
     int last = 0;
     for (ParsedRow& row : rows) {

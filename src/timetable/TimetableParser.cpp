@@ -26,6 +26,7 @@ struct Patterns {
     QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
     QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
+    QRegularExpression dayNumber = compile(R"(\b([0-2]?\d|3[01])\b)");
 };
 
 const Patterns& patterns() {
@@ -97,8 +98,14 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
     if (row.times.size() < 3) return std::nullopt;
 
     if (!row.date) {
-        const QRegularExpressionMatch d = p.leadingDay.match(line.left(firstTime));
-        if (d.hasMatch()) row.day = d.captured(1).toInt();
+        const QString before = line.left(firstTime);
+        const QRegularExpressionMatch d = p.leadingDay.match(before);
+        if (d.hasMatch()) {
+            row.day = d.captured(1).toInt();
+            for (auto more = p.dayNumber.globalMatch(before, d.capturedEnd()); more.hasNext();)
+                row.dayNumbers << more.next().captured(1).toInt();
+            row.dayNumbers.prepend(*row.day);
+        }
     }
     return row;
 }

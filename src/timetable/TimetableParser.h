@@ -27,6 +27,7 @@ struct ParsedTime {
 
 struct ParsedRow {
     std::optional<int> day;    // day of the month at the start of the line
+    QList<int> dayNumbers;     // the numbers up to 31 before the first time, `day` the first
     std::optional<QDate> date; // a full date printed on the line
     QList<ParsedTime> times;   // every time on the line, left to right: the columns
     QString raw;

@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <tuple>
 
 using namespace tarvanel;
 
@@ -399,4 +400,24 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     // A count that falls in the middle of a month is a misread day, not a new month.
     model.setText("10 5:00 6:00 7:00\n1 5:00 6:00 7:00\n12 5:00 6:00 7:00");
     EXPECT_EQ(model.days().keys(), QStringList({"2026-03-01", "2026-03-10", "2026-03-12"}));
+    // The fasts numbered before the dates (19 February to 19 March), and a month's dates before
+    // their Hijri days, which start again at 1 after the 30th: the date is told from the fast and
+    // from the Hijri day by where its count starts again.
+    for (const auto& [title, rows, fast] :
+         {std::tuple{"February 2026", 29, true}, std::tuple{"June 2026", 30, false}}) {
+        text = QString::fromLatin1(title) + "\nFast  Date  Day\n";
+        for (int i = 0; i < rows; ++i) {
+            const int date = fast ? (i < 10 ? 19 + i : i - 9) : i + 1;
+            const int second = fast ? date : (i + 15 - 1) % 30 + 1;
+            text += QString::asprintf("%d  %d  Sat  5:%02d  1:10  4:%02d  7:%02d  8:40\n",
+                                      fast ? i + 1 : date, second, i, i, i);
+        }
+        model.setText(text);
+        const DayTable read = model.days();
+        EXPECT_EQ(read.size(), rows) << title;
+        EXPECT_EQ(read.firstKey(), fast ? "2026-02-19" : "2026-06-01") << title;
+        EXPECT_EQ(read.lastKey(), fast ? "2026-03-19" : "2026-06-30") << title;
+        EXPECT_EQ(read.value(fast ? "2026-03-01" : "2026-06-11")["Fajr"], "05:10") << title;
+        EXPECT_TRUE(model.problems().isEmpty()) << title;
+    }
 }

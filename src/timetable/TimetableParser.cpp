@@ -27,6 +27,10 @@ struct Patterns {
     QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
     QRegularExpression dayNumber = compile(R"(\b([0-2]?\d|3[01])\b)");
+    // Between two times, the start of a second table's row: its day, perhaps with a weekday's
+    // or a month's name.
+    QRegularExpression rowStart =
+        compile(R"(^\s*\b([0-2]?\d|3[01])\b\s*([A-Za-z]{2,9}\.?\s*){0,2}$)");
 };
 
 const Patterns& patterns() {
@@ -110,6 +114,23 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
     return row;
 }
 
+// Where a second table's row starts on the line (two months side by side): a day after three
+// times or more and before three more; -1 where there is none.
+qsizetype secondTable(const QString& line) {
+    const Patterns& p = patterns();
+    QList<std::pair<qsizetype, qsizetype>> times; // where each starts and ends
+    for (auto it = p.time.globalMatch(line); it.hasNext();) {
+        const QRegularExpressionMatch m = it.next();
+        times.append({m.capturedStart(), m.capturedEnd()});
+    }
+    for (qsizetype t = 3; t + 3 <= times.size(); ++t) {
+        const qsizetype end = times[t - 1].second;
+        const QRegularExpressionMatch day = p.rowStart.match(line.mid(end, times[t].first - end));
+        if (day.hasMatch()) return end + day.capturedStart(1);
+    }
+    return -1;
+}
+
 } // namespace
 
 QString ParsedTime::label() const {
@@ -165,13 +186,34 @@ QString plainDigits(const QString& line) {
 
 QList<ParsedRow> parse(const QStringList& lines) {
     QList<ParsedRow> rows;
+    QList<qsizetype> splits;
     for (int i = 0; i < lines.size(); ++i) {
         if (auto row = parseLine(lines[i])) {
             row->line = i;
+            splits << secondTable(plainDigits(lines[i]));
             rows << std::move(*row);
         }
     }
-    return rows;
+    // Two months side by side: when most rows hold a second table's row, that is a row of its
+    // own, and those rows follow all of the first table's.
+    const auto split =
+        std::count_if(splits.begin(), splits.end(), [](qsizetype at) { return at >= 0; });
+    if (split < 3 || 2 * split < rows.size()) return rows;
+    QList<ParsedRow> first, second;
+    for (qsizetype r = 0; r < rows.size(); ++r) {
+        if (splits[r] < 0) {
+            first << rows[r];
+            continue;
+        }
+        const QString line = plainDigits(lines[rows[r].line]);
+        for (auto [half, to] :
+             {std::pair{line.left(splits[r]), &first}, std::pair{line.mid(splits[r]), &second}})
+            if (auto row = parseLine(half)) {
+                row->line = rows[r].line;
+                *to << std::move(*row);
+            }
+    }
+    return first + second;
 }
 
 ColumnMap guessColumns(int columnCount) {

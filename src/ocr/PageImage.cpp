@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
+#include <QRect>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -97,27 +98,76 @@ PixPtr evenlyLit(PixPtr page, bool ink) {
     return even ? std::move(even) : std::move(page);
 }
 
-// The angle that turns the text lines of the part of `binary` `x`, `width` across level.
-bool skew(Pix* binary, int x, int width, float& degrees, float& confidence) {
-    Box* box = boxCreate(x, 0, width, pixGetHeight(binary));
-    const PixPtr part(box ? pixClipRectangle(binary, box, nullptr) : nullptr);
+// The angle that turns the text lines of `part` of `binary` level.
+bool skew(Pix* binary, QRect part, float& degrees, float& confidence) {
+    Box* box = boxCreate(part.x(), part.y(), part.width(), part.height());
+    const PixPtr clipped(box ? pixClipRectangle(binary, box, nullptr) : nullptr);
     boxDestroy(&box);
-    return part && pixFindSkew(part.get(), &degrees, &confidence) == 0;
+    return clipped && pixFindSkew(clipped.get(), &degrees, &confidence) == 0;
+}
+
+// A page photographed from below or above (a keystone) leans one way at the top and another at
+// the bottom, and no one turn levels all its rows. The slant is measured in bands down the
+// page; where it changes by more than a degree, steadily, the page is mapped so that the slant
+// at each height is undone there. Null when the page has no such keystone.
+PixPtr keystoneUndone(Pix* page, Pix* binary) {
+    constexpr int bands = 4;
+    constexpr float sure = 3; // pixFindSkew's confidence that a band's slant is read
+    const int width = pixGetWidth(binary), height = pixGetHeight(binary);
+    std::vector<std::pair<double, double>> slants; // (middle of the band, degrees)
+    for (int b = 0; b < bands; ++b) {
+        float degrees = 0, confidence = 0;
+        const QRect band(0, b * height / bands, width, height / bands);
+        if (skew(binary, band, degrees, confidence) && confidence >= sure)
+            slants.emplace_back(band.center().y(), degrees);
+    }
+    if (slants.size() < 3) return {};
+    // The slant as a straight line down the page, by least squares.
+    double n = 0, sy = 0, sd = 0, syy = 0, syd = 0;
+    for (const auto& [y, d] : slants) {
+        n += 1, sy += y, sd += d, syy += y * y, syd += y * d;
+    }
+    const double perPixel = (n * syd - sy * sd) / (n * syy - sy * sy);
+    const double atTop = (sd - perPixel * sy) / n;
+    auto slantAt = [&](double y) { return atTop + perPixel * y; };
+    for (const auto& [y, d] : slants)
+        if (std::abs(slantAt(y) - d) > 0.5) return {}; // not a keystone, or a band misread
+    if (std::abs(slantAt(slants.back().first) - slantAt(slants.front().first)) <= 1) return {};
+    // Each corner of the level page comes from where the slant at its height takes it, turning
+    // about the middle of the page.
+    const double top = std::tan(slantAt(0) * M_PI / 180);
+    const double bottom = std::tan(slantAt(height) * M_PI / 180);
+    const double middle = width / 2.0;
+    Pta* to = ptaCreate(4);
+    Pta* from = ptaCreate(4);
+    const double corners[4][2] = {
+        {0, 0}, {double(width), 0}, {0, double(height)}, {double(width), double(height)}};
+    for (const auto& [x, y] : corners) {
+        ptaAddPt(to, float(x), float(y));
+        ptaAddPt(from, float(x), float(y - (y > 0 ? bottom : top) * (x - middle)));
+    }
+    PixPtr level(pixBilinearPtaGray(page, to, from, 255));
+    ptaDestroy(&to);
+    ptaDestroy(&from);
+    return level;
 }
 
 // Turns the page level when its text lines lean (a photo held askew); as it is once `stopped`.
 PixPtr levelled(PixPtr page, const std::function<bool()>& stopped) {
     const PixPtr binary(pixThresholdToBinary(page.get(), 150));
     if (!binary) return page;
-    const int width = pixGetWidth(binary.get());
+    const int width = pixGetWidth(binary.get()), height = pixGetHeight(binary.get());
+    if (PixPtr level = keystoneUndone(page.get(), binary.get())) return level;
+    if (stopped()) return page;
     float degrees = 0, confidence = 0;
-    if (!skew(binary.get(), 0, width, degrees, confidence) || stopped()) return page;
+    if (!skew(binary.get(), QRect(0, 0, width, height), degrees, confidence) || stopped())
+        return page;
     // Across a wide table a row also lines up with the next one at a wrong angle, and the whole
     // page may favour that; where both halves agree on another angle, theirs holds.
     float left = 0, right = 0, leftSure = 0, rightSure = 0;
-    if (skew(binary.get(), 0, width / 2, left, leftSure) &&
-        skew(binary.get(), width / 2, width - width / 2, right, rightSure) && leftSure >= 3 &&
-        rightSure >= 3 && std::abs(left - right) < 0.5f &&
+    if (skew(binary.get(), QRect(0, 0, width / 2, height), left, leftSure) &&
+        skew(binary.get(), QRect(width / 2, 0, width - width / 2, height), right, rightSure) &&
+        leftSure >= 3 && rightSure >= 3 && std::abs(left - right) < 0.5f &&
         std::abs((left + right) / 2 - degrees) > 0.5f) {
         degrees = (left + right) / 2;
         confidence = std::min(leftSure, rightSure);

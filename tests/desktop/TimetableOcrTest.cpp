@@ -160,8 +160,9 @@ TEST(TimetableOcrTest, ScannedPdfsOfTwoMonthsFillBothMonths) {
 // read with the columns guessed as the window first shows them: a photo that Sauvola's threshold
 // reads poorly, zero-padded days lost to a grid, a scan, the clocks going back on the 31st,
 // 8-pixel serif print that reads only at another size, blurred photos of narrow print and of a
-// grid, a Ramadan sheet over two months whose weekdays run into their days ("Sunt"), and a
-// blurred photo whose first readings fill the table with guesses.
+// grid, a Ramadan sheet over two months whose weekdays run into their days ("Sunt"), a
+// blurred photo whose first readings fill the table with guesses, and a photo taken from one
+// side, its rows leaning one way at the top and the other at the bottom.
 TEST(TimetableOcrTest, SheetsDrawnWithOtherToolsAreReadBack) {
     const QDir dir(QStringLiteral(TARVANEL_DRAWN_ELSEWHERE));
     QFile file(dir.filePath("jamaat.json"));
@@ -172,7 +173,7 @@ TEST(TimetableOcrTest, SheetsDrawnWithOtherToolsAreReadBack) {
         {"december-serif-scan.pdf", 135},        {"october-clocks-back.png", 155},
         {"october-small-serif-photo.jpg", 115},  {"july-blurred-narrow-photo.jpg", 70},
         {"february-blurred-grid-photo.jpg", 85}, {"ramadan-two-months-photo.jpg", 140},
-        {"july-full-dates-photo.jpg", 140}};
+        {"july-full-dates-photo.jpg", 140},      {"october-keystone-photo.jpg", 150}};
     for (const auto& [name, floor] : floors) {
         const QJsonObject days = sheets.value(name).toObject();
         const QDate first = QDate::fromString(days.keys().first(), Qt::ISODate);

@@ -291,17 +291,26 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look
     page = levelled(std::move(page), stopped);
     if (stopped()) return {};
     int character = typicalCharacterHeight(page.get());
-    // Small print is enlarged twice. Another size enlarges it 1.5 times instead, and print up
-    // to twice that size 1.5 times; larger print has no other size.
-    float enlarge = character > 0 && character < smallCharacterPixels ? 2 : 1;
-    if (look == Look::Resized)
-        enlarge = enlarge == 2                                            ? 1.5f
-                  : character > 0 && character < 2 * smallCharacterPixels ? 1.5f
-                                                                          : 0;
-    if (enlarge == 0) return {};
-    if (enlarge > 1 &&
-        qint64(pixGetWidth(page.get())) * pixGetHeight(page.get()) * enlarge * enlarge <=
-            maxPixels) {
+    // Small print is enlarged twice, or as much as the pixel budget allows: a large page of small
+    // print reads far better a little larger than as it is. Another size enlarges small print
+    // 1.5 times, or leaves it as it is when the budget held the first back, and print up to
+    // twice that size 1.5 times; larger print has no other size, nor has print the budget keeps
+    // at one size.
+    const float room = float(std::sqrt(
+        double(maxPixels) / (double(pixGetWidth(page.get())) * pixGetHeight(page.get()))));
+    const bool small = character > 0 && character < smallCharacterPixels;
+    const float first = small ? std::min(2.0f, room) : 1;
+    float enlarge = first;
+    if (look == Look::Resized) {
+        if (small)
+            enlarge = room >= 2 ? 1.5f : 1;
+        else if (character > 0 && character < 2 * smallCharacterPixels)
+            enlarge = std::min(1.5f, room);
+        else
+            return {};
+        if (std::abs(enlarge - first) < 0.1f) return {};
+    }
+    if (enlarge >= 1.1f) {
         PixPtr larger(pixScaleGrayLI(page.get(), enlarge, enlarge));
         if (larger) {
             page = std::move(larger);

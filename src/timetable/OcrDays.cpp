@@ -73,8 +73,8 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
                    ? items[firsts[k]].text.toInt()
                    : -1;
     };
-    QHash<qsizetype, int> tensLost; // days read without their tens digit, and the day
-    auto day = [&](qsizetype k) { return tensLost.value(k, read(k)); };
+    QHash<qsizetype, int> digitLost; // days read with a digit lost, and the day
+    auto day = [&](qsizetype k) { return digitLost.value(k, read(k)); };
     // The readable day nearest row k (up to `reach` rows off) above (step -1) or below (+1),
     // as the count gives it for row k; -1 for none.
     auto nearest = [&](qsizetype k, int step, qsizetype reach) {
@@ -83,21 +83,24 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         return -1;
     };
     // Serif print loses a day's tens digit to the gap before it: 13, 14, 15 read as 3, 4, 5
-    // after 12. Such a run counts on from the nearest readable day above it, past any rows
-    // read too poorly to tell (small print loses several in a row); a new month (30, then 1)
-    // does not drop by ten or twenty.
+    // after 12; and a last digit to a rule after it: 30 and 31 read as 3 and 3 after 29. Such
+    // a run counts on from the nearest readable day above it, past any rows read too poorly to
+    // tell (small print loses several in a row); a new month (30, then 1) does not drop by ten
+    // or twenty, nor to its tens.
     for (qsizetype k = 1, run = -1; k < firsts.size(); ++k) {
         if (read(k) < 0) continue;
         if (run >= 0 && read(k) == read(run) + (k - run)) {
-            tensLost[k] = tensLost[run] + int(k - run);
+            digitLost[k] = digitLost[run] + int(k - run);
             run = k;
             continue;
         }
         run = -1;
         const int counted = nearest(k, -1, firsts.size()); // as the rows above count it
         const int lost = counted - read(k);
-        if (counted > 0 && (lost == 10 || lost == 20) && isDay(QString::number(counted))) {
-            tensLost[k] = counted;
+        if (counted > 0 &&
+            (lost == 10 || lost == 20 || (counted >= 10 && counted / 10 == read(k))) &&
+            isDay(QString::number(counted))) {
+            digitLost[k] = counted;
             run = k;
         }
     }
@@ -124,7 +127,7 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         if (items[firsts[k]].box.left() >= timesBegin) continue;
         const int before = day(k - 1), after = day(k + 1);
         const bool between = before > 0 && after == before + 2;
-        if (tensLost.contains(k)) {
+        if (digitLost.contains(k)) {
             doubts.append({firsts[k], Doubt::Day, day(k)});
             continue;
         }

@@ -63,6 +63,9 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"11", "12", "3", "l4", "5"}), QStringList({"3/13", "l4/14", "5/15"}));
     EXPECT_EQ(dayDoubts({"9", "10", "ll", "2", "13"}), QStringList({"ll/11", "2/12"}));
     EXPECT_EQ(dayDoubts({"28", "29", "30", "1", "2", "3"}), QStringList());
+    // Last digits lost: 30 and 31 read as 3 after 29, the last rows of a month's table.
+    EXPECT_EQ(dayDoubts({"27", "28", "29", "3", "3", "APRIL 2026", "1", "2", "3"}),
+              QStringList({"3/30", "3/31"}));
     // Small print: a run of days unread, and rows with two times left, still count; so do the
     // last rows, read as poorly.
     EXPECT_EQ(dayDoubts({"8", "9", "100", "1h 4:30) 1:05 3:30", "120", "13900430 1:05 3:30", "4",

@@ -3,8 +3,10 @@
 #include "engine/DayTimes.h"
 #include "engine/Digits.h"
 
+#include <QMap>
 #include <QRegularExpression>
 #include <QtGlobal>
+#include <algorithm>
 
 namespace tarvanel {
 namespace {
@@ -115,8 +117,9 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
 }
 
 // Where a second table's row starts on the line (two months side by side): a day after three
-// times or more and before three more; -1 where there is none.
-qsizetype secondTable(const QString& line) {
+// times or more and before three more, else, its day unread, after the `perTable` times of the
+// first table's row; -1 where there is none.
+qsizetype secondTable(const QString& line, qsizetype perTable = 0) {
     const Patterns& p = patterns();
     QList<std::pair<qsizetype, qsizetype>> times; // where each starts and ends
     for (auto it = p.time.globalMatch(line); it.hasNext();) {
@@ -128,7 +131,7 @@ qsizetype secondTable(const QString& line) {
         const QRegularExpressionMatch day = p.rowStart.match(line.mid(end, times[t].first - end));
         if (day.hasMatch()) return end + day.capturedStart(1);
     }
-    return -1;
+    return perTable >= 3 && times.size() >= perTable + 3 ? times[perTable - 1].second : -1;
 }
 
 } // namespace
@@ -199,6 +202,20 @@ QList<ParsedRow> parse(const QStringList& lines) {
     const auto split =
         std::count_if(splits.begin(), splits.end(), [](qsizetype at) { return at >= 0; });
     if (split < 3 || 2 * split < rows.size()) return rows;
+    // A row whose second day went unread is cut after as many times as most first tables' rows
+    // hold: its second half has no day, and is shown as such rather than lost.
+    QMap<qsizetype, int> perTable;
+    for (qsizetype r = 0; r < rows.size(); ++r)
+        if (splits[r] >= 0)
+            if (const auto row = parseLine(plainDigits(lines[rows[r].line]).left(splits[r])))
+                ++perTable[row->times.size()];
+    if (perTable.isEmpty()) return rows;
+    const qsizetype most =
+        std::max_element(perTable.keyValueBegin(), perTable.keyValueEnd(), [](auto a, auto b) {
+            return a.second < b.second;
+        })->first;
+    for (qsizetype r = 0; r < rows.size(); ++r)
+        if (splits[r] < 0) splits[r] = secondTable(plainDigits(lines[rows[r].line]), most);
     QList<ParsedRow> first, second;
     for (qsizetype r = 0; r < rows.size(); ++r) {
         if (splits[r] < 0) {

@@ -421,20 +421,26 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
         EXPECT_TRUE(model.problems().isEmpty()) << title;
     }
     // October and November side by side, each row of the page a day of both; a row whose
-    // November day is missing (the 31st) stands alone.
+    // November day is missing (the 31st) stands alone, and one whose November day went unread
+    // is named, not lost.
     text = "OCTOBER 2026      NOVEMBER 2026\n";
     for (int day = 1; day <= 31; ++day) {
         text += QString::asprintf("%d Thu 6:%02d 13:30 16:30 19:00 20:30", day, day);
         if (day <= 30)
-            text += QString::asprintf("   %d Sun 7:%02d 12:15 14:30 16:55 18:30", day, day);
+            text += QString::asprintf("   %s Sun 7:%02d 12:15 14:30 16:55 18:30",
+                                      day == 12 ? "Wea" : qPrintable(QString::number(day)), day);
         text += u'\n';
     }
     model.setText(text);
     EXPECT_EQ(model.status(), "Found 61 rows with 5 times each.");
     const DayTable both = model.days();
-    EXPECT_EQ(both.size(), 61);
+    EXPECT_EQ(both.size(), 60);
+    EXPECT_EQ(both.value("2026-10-12")["Fajr"], "06:12");
+    EXPECT_FALSE(both.contains("2026-11-12"));
     EXPECT_EQ(both.value("2026-10-31")["Fajr"], "06:31");
     EXPECT_EQ(both.value("2026-11-01")["Fajr"], "07:01");
     EXPECT_EQ(both.value("2026-11-30")["Isha"], "18:30");
-    EXPECT_TRUE(model.problems().isEmpty());
+    ASSERT_EQ(model.problems().size(), 1);
+    EXPECT_EQ(model.problems()[0].line, 12);
+    EXPECT_EQ(model.problems()[0].reason, RowProblem::NoDay);
 }

@@ -220,9 +220,6 @@ QList<ParsedRow> usable(const QList<ParsedRow>& rows, int largest) {
     return usable;
 }
 
-// A sheet of several months numbered by day alone (a Ramadan sheet, one month a page): where
-// the count falls from the month's last days back to its first, the rows that follow belong to
-// the next month. Those rows get that month's date; a day it does not have gets none.
 // A Ramadan sheet numbers its fasts before the dates, and both count up a row at a time. The
 // date is the number that runs from the month's last day back to the 1st, unless the first
 // number does so itself or runs through the whole month (then a later one is a Hijri day).
@@ -253,6 +250,9 @@ QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
     return rows;
 }
 
+// A sheet of several months numbered by day alone (a Ramadan sheet, one month a page): where
+// the count falls from the month's last days back to its first, the rows that follow belong to
+// the next month. Those rows get that month's date; a day it does not have gets none.
 QList<ParsedRow> continuedMonths(QList<ParsedRow> rows, int month, int year) {
     rows = datesChosen(std::move(rows), month, year);
     int monthsOn = 0;

@@ -44,7 +44,8 @@ namespace TimetableParser {
 // (which a right-to-left sheet scatters between digits) removed.
 QString plainDigits(const QString& line);
 // One row per line holding at least three times, in line order. Lines are read through
-// `plainDigits`; `raw` keeps them as given.
+// `plainDigits`; `raw` keeps them as given. Two months printed side by side make two rows of a
+// line: the first table's rows come first, then the second's.
 QList<ParsedRow> parse(const QStringList& lines);
 ColumnMap guessColumns(int columnCount);
 // The day a row stands for: its full date, else its day number in `month` of `year` when that

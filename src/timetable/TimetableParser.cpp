@@ -189,11 +189,13 @@ QString plainDigits(const QString& line) {
 
 QList<ParsedRow> parse(const QStringList& lines) {
     QList<ParsedRow> rows;
+    QStringList plain; // each row's line, read through plainDigits
     QList<qsizetype> splits;
     for (int i = 0; i < lines.size(); ++i) {
         if (auto row = parseLine(lines[i])) {
             row->line = i;
-            splits << secondTable(plainDigits(lines[i]));
+            plain << plainDigits(lines[i]);
+            splits << secondTable(plain.last());
             rows << std::move(*row);
         }
     }
@@ -207,24 +209,22 @@ QList<ParsedRow> parse(const QStringList& lines) {
     QMap<qsizetype, int> perTable;
     for (qsizetype r = 0; r < rows.size(); ++r)
         if (splits[r] >= 0)
-            if (const auto row = parseLine(plainDigits(lines[rows[r].line]).left(splits[r])))
-                ++perTable[row->times.size()];
+            if (const auto row = parseLine(plain[r].left(splits[r]))) ++perTable[row->times.size()];
     if (perTable.isEmpty()) return rows;
     const qsizetype most =
         std::max_element(perTable.keyValueBegin(), perTable.keyValueEnd(), [](auto a, auto b) {
             return a.second < b.second;
         })->first;
     for (qsizetype r = 0; r < rows.size(); ++r)
-        if (splits[r] < 0) splits[r] = secondTable(plainDigits(lines[rows[r].line]), most);
+        if (splits[r] < 0) splits[r] = secondTable(plain[r], most);
     QList<ParsedRow> first, second;
     for (qsizetype r = 0; r < rows.size(); ++r) {
         if (splits[r] < 0) {
             first << rows[r];
             continue;
         }
-        const QString line = plainDigits(lines[rows[r].line]);
-        for (auto [half, to] :
-             {std::pair{line.left(splits[r]), &first}, std::pair{line.mid(splits[r]), &second}})
+        for (auto [half, to] : {std::pair{plain[r].left(splits[r]), &first},
+                                std::pair{plain[r].mid(splits[r]), &second}})
             if (auto row = parseLine(half)) {
                 row->line = rows[r].line;
                 *to << std::move(*row);

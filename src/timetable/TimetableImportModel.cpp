@@ -220,6 +220,16 @@ QList<ParsedRow> usable(const QList<ParsedRow>& rows, int largest) {
     return usable;
 }
 
+// Whether a count of days that starts again at `day` has just passed the month's last day: one
+// of the last three counted to it, so that one misread or unread day near the end still turns
+// the month. A Hijri count, which starts again after its 29th or 30th, does not.
+bool monthEnded(const QList<int>& before, int day, int monthEnd) {
+    if (day < 1 || day > 2) return false;
+    for (qsizetype k = 1; k <= 3 && k <= before.size(); ++k)
+        if (before[before.size() - k] + k - 1 == monthEnd) return true;
+    return false;
+}
+
 // A Ramadan sheet numbers its fasts before the dates, and both count up a row at a time. The
 // date is the number that runs from the month's last day back to the 1st, unless the first
 // number does so itself or runs through the whole month (then a later one is a Hijri day).
@@ -233,7 +243,7 @@ QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
     };
     auto turns = [&](const QList<int>& down) {
         for (qsizetype i = 1; i < down.size(); ++i)
-            if (down[i - 1] == monthEnd && down[i] <= 2) return true;
+            if (monthEnded(down.first(i), down[i], monthEnd)) return true;
         return false;
     };
     const QList<int> first = numbers(0);
@@ -256,11 +266,17 @@ QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
 QList<ParsedRow> continuedMonths(QList<ParsedRow> rows, int month, int year) {
     rows = datesChosen(std::move(rows), month, year);
     int monthsOn = 0;
-    int last = 0;
+    QList<int> counted; // the days of the month so far
     for (ParsedRow& row : rows) {
         if (row.date || !row.day) continue;
-        if (last >= 28 && *row.day >= 1 && *row.day <= 3) ++monthsOn;
-        last = *row.day;
+        const int monthEnd = QDate(year, month, 1).addMonths(monthsOn).daysInMonth();
+        const int last = counted.isEmpty() ? 0 : counted.last();
+        if ((last >= 28 && *row.day >= 1 && *row.day <= 3) ||
+            monthEnded(counted, *row.day, monthEnd)) {
+            ++monthsOn;
+            counted.clear();
+        }
+        counted << *row.day;
         if (monthsOn == 0) continue;
         const QDate first = QDate(year, month, 1).addMonths(monthsOn);
         const QDate date(first.year(), first.month(), *row.day);

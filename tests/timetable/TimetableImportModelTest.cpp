@@ -420,6 +420,21 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
         EXPECT_EQ(read.value(fast ? "2026-03-01" : "2026-06-11")["Fajr"], "05:10") << title;
         EXPECT_TRUE(model.problems().isEmpty()) << title;
     }
+    // The 28th misread as 26 and the 1st unread, just where the dates start again: the count
+    // of the days before still ends the month, and the fasts stay fasts.
+    text = "February 2026\nFast  Date  Day\n";
+    for (int i = 0; i < 29; ++i) {
+        const QString date = i == 9    ? "26"
+                             : i == 10 ? "|"
+                                       : QString::number(i < 10 ? 19 + i : i - 9);
+        text += QString::asprintf("%d  %s  Sat  5:%02d  1:10  4:%02d  7:%02d  8:40\n", i + 1,
+                                  qPrintable(date), i, i, i);
+    }
+    model.setText(text);
+    const DayTable misread = model.days();
+    EXPECT_EQ(misread.firstKey(), "2026-02-19");
+    EXPECT_EQ(misread.value("2026-03-02")["Fajr"], "05:11");
+    EXPECT_EQ(misread.lastKey(), "2026-03-19");
     // October and November side by side, each row of the page a day of both; a row whose
     // November day is missing (the 31st) stands alone, and one whose November day went unread
     // is named, not lost.

@@ -220,13 +220,16 @@ QList<ParsedRow> usable(const QList<ParsedRow>& rows, int largest) {
     return usable;
 }
 
-// Whether a count of days that starts again at `day` has just passed the month's last day: one
-// of the last three counted to it, so that one misread or unread day near the end still turns
-// the month. A Hijri count, which starts again after its 29th or 30th, does not.
+// Whether a count of days that starts again at `day` has just passed the month's last day:
+// counted on a day a row from one of the last three, it comes to `day` of the next month, so
+// that a day misread near the turn, or the 1st unread, still turns the month. A Hijri count,
+// which starts again after its 29th or 30th, does not.
 bool monthEnded(const QList<int>& before, int day, int monthEnd) {
     if (day < 1 || day > 2) return false;
-    for (qsizetype k = 1; k <= 3 && k <= before.size(); ++k)
-        if (before[before.size() - k] + k - 1 == monthEnd) return true;
+    for (qsizetype k = 1; k <= 3 && k <= before.size(); ++k) {
+        const int counted = before[before.size() - k] + int(k) - monthEnd;
+        if (counted == day || (day == 2 && counted == 1)) return true;
+    }
     return false;
 }
 

@@ -435,6 +435,18 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     EXPECT_EQ(misread.firstKey(), "2026-02-19");
     EXPECT_EQ(misread.value("2026-03-02")["Fajr"], "05:11");
     EXPECT_EQ(misread.lastKey(), "2026-03-19");
+    // Dates before their Ramadan days, 16 February to 17 March, where the 1st went unread and
+    // its row holds the Ramadan day alone.
+    text = "February 2026\nDate  Ramadan  Day\n";
+    for (int i = 0; i < 30; ++i) {
+        const QString date = i == 13 ? "" : QString::number(i < 13 ? 16 + i : i - 12);
+        text += QString::asprintf("%s  %d  Sun  5:%02d  1:10  4:%02d  7:%02d  8:40\n",
+                                  qPrintable(date), i + 1, i, i, i);
+    }
+    model.setText(text);
+    const DayTable unread = model.days();
+    EXPECT_EQ(unread.value("2026-03-02")["Fajr"], "05:14");
+    EXPECT_EQ(unread.lastKey(), "2026-03-17");
     // October and November side by side, each row of the page a day of both; a row whose
     // November day is missing (the 31st) stands alone, and one whose November day went unread
     // is named, not lost.

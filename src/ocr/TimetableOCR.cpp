@@ -194,8 +194,10 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         reading.shape = tableShape(reading.lines);
         return reading;
     };
+    // A week's rows at least: a reading that found a row or two and nothing else has lost the
+    // table, however cleanly those rows read.
     auto whole = [](const TableShape& shape) {
-        return shape.times > 0 && shape.cells == shape.times;
+        return shape.times > 0 && shape.cells == shape.times && shape.cells >= 7 * shape.columns;
     };
     // The table with more cells, a cell settled from its neighbours or read again counting half:
     // a page read poorly fills a table with guesses. A threshold or the automatic layout may lose

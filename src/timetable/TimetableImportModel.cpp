@@ -220,10 +220,10 @@ QList<ParsedRow> usable(const QList<ParsedRow>& rows, int largest) {
     return usable;
 }
 
-// Whether a count of days that starts again at `day` has just passed the month's last day:
-// counted on a day a row from one of the last three, it comes to `day` of the next month, so
-// that a day misread near the turn, or the 1st unread, still turns the month. A Hijri count,
-// which starts again after its 29th or 30th, does not.
+// Whether a count of days that starts again at `day` has just passed the month's last day.
+// Counting on one day a row from any of the last three days reaches `day` of the next month (or
+// the 2nd with the 1st missing), so one day misread or unread near the turn still turns the
+// month. A Hijri count, which starts again after its 29th or 30th, does not reach it.
 bool monthEnded(const QList<int>& before, int day, int monthEnd) {
     if (day < 1 || day > 2) return false;
     for (qsizetype k = 1; k <= 3 && k <= before.size(); ++k) {

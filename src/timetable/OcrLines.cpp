@@ -88,7 +88,7 @@ bool isMeridiem(const QString& word) {
 
 bool isTime(const QString& word) {
     static const QRegularExpression re(
-        QStringLiteral("^([01]?\\d|2[0-3])[:.][0-5]\\d( ?[AaPp]\\.?[Mm]\\.?)?$"));
+        QStringLiteral("^([01]?\\d|2[0-3])[:.][0-5]\\d( ?[AaPp]\\.?[Mm]\\.?|[AaPp]\\.?)?$"));
     return re.match(word).hasMatch();
 }
 

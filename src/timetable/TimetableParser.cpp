@@ -21,10 +21,13 @@ QRegularExpression compile(const char* pattern) {
 }
 
 struct Patterns {
-    // After the minutes, an am/pm marker: Latin letters, or the Arabic sad (morning) or meem
-    // (evening) standing alone, not the first letter of a word such as a prayer's name.
+    // After the minutes, an am/pm marker: Latin letters, "a" or "p" alone only when glued to
+    // the minutes ("6:48a"; a lone letter further off may be a stray mark), or the Arabic sad
+    // (morning) or meem (evening) standing alone, not the first letter of a word such as a
+    // prayer's name.
     QRegularExpression time = compile(R"((?<![\d:.])([01]?\d|2[0-3])[:.]([0-5]\d)(?![\d])\s*)"
-                                      R"(([AaPp]\.?[Mm]\.?|[\x{0635}\x{0645}](?![\p{L}\p{M}]))?)");
+                                      R"(([AaPp]\.?[Mm]\.?|(?<=\d)[AaPp]\.?(?![\p{L}\p{M}])|)"
+                                      R"([\x{0635}\x{0645}](?![\p{L}\p{M}]))?)");
     QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
     QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
@@ -62,6 +65,7 @@ QString meridiem(QStringView marker) {
     QString letters;
     for (QChar c : marker)
         if (c.isLetter()) letters += c.toLower();
+    if (letters.size() == 1) letters += u'm';
     return letters;
 }
 

@@ -119,6 +119,10 @@ TEST(TimetableParserTest, MarkersDecideTheHalfOfTheDayElseThePrayerDoes) {
     const QStringList arabicClock{"05:12", "00:30", "13:15", "19:22", "20:50"};
     for (int i = 0; i < arabicClock.size(); ++i)
         EXPECT_EQ(arabic.times[i].clock("Isha"), arabicClock[i]) << i;
+    // A letter glued to the minutes is a marker; one apart from them, or beginning a word, is not.
+    const ParsedRow letters = only("6:48a 12:09p 8:05P. 7:30 p 5:30 Asr");
+    EXPECT_EQ(labels(letters), QStringList({"6:48 am", "12:09 pm", "8:05 pm", "7:30", "5:30"}));
+    EXPECT_EQ(letters.times[2].clock("Fajr"), "20:05");
 
     const struct {
         int hour, minute;

@@ -11,61 +11,13 @@
 
 namespace tarvanel::OcrLines::words {
 
-QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
-                       const QList<qsizetype>& table) {
+namespace {
+
+// The doubts in one column of days: `firsts` holds the column's word in each row. A column
+// that holds few readable days is read again word by word only when `sparse` allows it.
+QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsizetype>& firsts,
+                           const QSet<qsizetype>& wholeRows, qreal timesBegin, bool sparse) {
     QList<Doubt> doubts;
-    // The times a whole row holds: the count most of the table's rows read.
-    QMap<qsizetype, int> rowsWith;
-    for (qsizetype l : table)
-        ++rowsWith[timesIn(items, lines[l])];
-    const qsizetype whole =
-        std::max_element(rowsWith.keyValueBegin(), rowsWith.keyValueEnd(), [](auto a, auto b) {
-            return a.second < b.second;
-        })->first;
-    // Where the rows' times begin: the first time of most rows, its colon perhaps lost.
-    QList<qreal> starts;
-    for (qsizetype l : table)
-        for (qsizetype i : lines[l])
-            if (isTimeLike(items[i].text)) {
-                starts << items[i].box.left();
-                break;
-            }
-    std::sort(starts.begin(), starts.end());
-    const qreal timesBegin = starts.isEmpty() ? 0 : starts[starts.size() / 2];
-    // The first word of a row, or the second after a weekday's name, perhaps misread; two
-    // letters only as a weekday's short name ("ll" is 11 misread). A short name with a digit
-    // run into it ("Sunt", "Mon1") holds the day itself.
-    static const QRegularExpression name(
-        QStringLiteral("^([A-Za-z]{3,9}|mo|tu|we|th|fr|sa|su)\\.?$"),
-        QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression withDay(
-        QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)[\\dlIit|]{1,2}$"),
-        QRegularExpression::CaseInsensitiveOption);
-    QList<qsizetype> firsts;
-    for (qsizetype l = table.first(); l <= table.last(); ++l) {
-        const QList<qsizetype>& line = lines[l];
-        static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
-        // A month's name first ("Jun 445") is a date whose day went unread.
-        static const QRegularExpression month(
-            QStringLiteral("^(jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)"),
-            QRegularExpression::CaseInsensitiveOption);
-        const QString& first = items[line[0]].text;
-        // After the name, digits left of where the rows' times begin are the day ("Sat 130",
-        // 13 and a mark run together); else they are the first time, and the name a misread
-        // day ("Wian 445").
-        const QString second = line.size() > 1 ? items[line[1]].text : QString();
-        const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
-                             !withDay.match(first).hasMatch() && !month.match(first).hasMatch() &&
-                             !clock.match(second).hasMatch() &&
-                             (!isTimeLike(second) || items[line[1]].box.center().x() < timesBegin);
-        // A row whose times all went unreadable still holds its place in the count; a heading
-        // between two months' tables does not.
-        if (table.contains(l) || isDay(items[line[weekday ? 1 : 0]].text))
-            firsts << line[weekday ? 1 : 0];
-    }
-    QSet<qsizetype> wholeRows; // the first words of lines that hold as many
-    for (qsizetype l : table)
-        if (timesIn(items, lines[l]) >= whole) wholeRows << lines[l][0];
     const auto days = std::count_if(firsts.begin(), firsts.end(),
                                     [&](qsizetype i) { return isDay(items[i].text); });
     auto read = [&](qsizetype k) {
@@ -111,6 +63,7 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         counting += day(k) > 0 && (nearest(k, -1, firsts.size()) == day(k) ||
                                    nearest(k, 1, firsts.size()) == day(k));
     if (days * 2 < firsts.size() && (counting < 3 || counting * 2 < days)) {
+        if (!sparse) return doubts;
         // Too few to count by: a short word where the days stand is each read again on its own
         // ("01" read as "o" among the table's rules); a whole date or a weekday is no day.
         static const QRegularExpression weekday(QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)"),
@@ -162,6 +115,83 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
             counted = further;
         doubts.append({firsts[k], Doubt::Day, counted});
     }
+    return doubts;
+}
+
+} // namespace
+
+QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
+                       const QList<qsizetype>& table) {
+    // The times a whole row holds: the count most of the table's rows read.
+    QMap<qsizetype, int> rowsWith;
+    for (qsizetype l : table)
+        ++rowsWith[timesIn(items, lines[l])];
+    const qsizetype whole =
+        std::max_element(rowsWith.keyValueBegin(), rowsWith.keyValueEnd(), [](auto a, auto b) {
+            return a.second < b.second;
+        })->first;
+    // Where the rows' times begin: the first time of most rows, its colon perhaps lost.
+    QList<qreal> starts;
+    for (qsizetype l : table)
+        for (qsizetype i : lines[l])
+            if (isTimeLike(items[i].text)) {
+                starts << items[i].box.left();
+                break;
+            }
+    std::sort(starts.begin(), starts.end());
+    const qreal timesBegin = starts.isEmpty() ? 0 : starts[starts.size() / 2];
+    // The first word of a row, or the second after a weekday's name, perhaps misread; two
+    // letters only as a weekday's short name ("ll" is 11 misread). A short name with a digit
+    // run into it ("Sunt", "Mon1") holds the day itself.
+    static const QRegularExpression name(
+        QStringLiteral("^([A-Za-z]{3,9}|mo|tu|we|th|fr|sa|su)\\.?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression withDay(
+        QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)[\\dlIit|]{1,2}$"),
+        QRegularExpression::CaseInsensitiveOption);
+    QList<qsizetype> firsts, rows; // the word and its line
+    for (qsizetype l = table.first(); l <= table.last(); ++l) {
+        const QList<qsizetype>& line = lines[l];
+        static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
+        // A month's name first ("Jun 445") is a date whose day went unread.
+        static const QRegularExpression month(
+            QStringLiteral("^(jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)"),
+            QRegularExpression::CaseInsensitiveOption);
+        const QString& first = items[line[0]].text;
+        // After the name, digits left of where the rows' times begin are the day ("Sat 130",
+        // 13 and a mark run together); else they are the first time, and the name a misread
+        // day ("Wian 445").
+        const QString second = line.size() > 1 ? items[line[1]].text : QString();
+        const bool weekday = line.size() > 1 && name.match(first).hasMatch() &&
+                             !withDay.match(first).hasMatch() && !month.match(first).hasMatch() &&
+                             !clock.match(second).hasMatch() &&
+                             (!isTimeLike(second) || items[line[1]].box.center().x() < timesBegin);
+        // A row whose times all went unreadable still holds its place in the count; a heading
+        // between two months' tables does not.
+        if (table.contains(l) || isDay(items[line[weekday ? 1 : 0]].text)) {
+            firsts << line[weekday ? 1 : 0];
+            rows << l;
+        }
+    }
+    QSet<qsizetype> wholeRows; // the first words of lines that hold as many
+    for (qsizetype l : table)
+        if (timesIn(items, lines[l]) >= whole) wholeRows << lines[l][0];
+    QList<Doubt> doubts = countedDoubts(items, firsts, wholeRows, timesBegin, true);
+    // A second column of days beside the first (a Ramadan day, then the date) counts as well,
+    // once most of it reads as days.
+    QList<qsizetype> seconds;
+    for (qsizetype k = 0; k < firsts.size(); ++k) {
+        const QList<qsizetype>& line = lines[rows[k]];
+        const qsizetype at = line.indexOf(firsts[k]) + 1;
+        const bool beside = at < line.size() && items[line[at]].box.right() < timesBegin &&
+                            !name.match(items[line[at]].text).hasMatch();
+        seconds << (beside ? line[at] : -1);
+    }
+    const auto secondDays = std::count_if(seconds.begin(), seconds.end(), [&](qsizetype i) {
+        return i >= 0 && isDay(items[i].text);
+    });
+    if (secondDays * 4 >= seconds.size() * 3 && !seconds.contains(-1))
+        doubts << countedDoubts(items, seconds, wholeRows, timesBegin, false);
     return doubts;
 }
 

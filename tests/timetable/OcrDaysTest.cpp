@@ -43,6 +43,15 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // Nor is "ll" a weekday before the second date column (the Hijri day): 11 misread.
     EXPECT_EQ(dayDoubts({"10 20" + times, "ll 21" + times, "12 22" + times, "13 23" + times}),
               QStringList({"ll/11"}));
+    // A Ramadan day first, then the date: the dates keep a count of their own, across the turn
+    // of the month; 11 read as "1 and 17 as 7 are named, the month's 1st is not.
+    QStringList ramadan;
+    for (int r = 0; r < 20; ++r) {
+        const int date = r < 2 ? 27 + r : r - 1;
+        const QString read = date == 11 ? "\"1" : date == 17 ? "7" : QString::number(date);
+        ramadan << QString::number(r + 1) + " " + read + times;
+    }
+    EXPECT_EQ(dayDoubts(ramadan), QStringList({"\"1/11", "7/17"}));
     // A weekday's name and its day read as one word ("Sunt" for "Sun 1") is no weekday before
     // a Hijri day: the new month's first day.
     EXPECT_EQ(dayDoubts({"Fri 27 12" + times, "Sat 28 13" + times, "Sunt 14" + times,

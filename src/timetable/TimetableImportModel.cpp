@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <algorithm>
+#include <span>
 
 namespace tarvanel {
 
@@ -224,9 +225,9 @@ QList<ParsedRow> usable(const QList<ParsedRow>& rows, int largest) {
 // Counting on one day a row from any of the last three days reaches `day` of the next month (or
 // the 2nd with the 1st missing), so one day misread or unread near the turn still turns the
 // month. A Hijri count, which starts again after its 29th or 30th, does not reach it.
-bool monthEnded(const QList<int>& before, int day, int monthEnd) {
+bool monthEnded(std::span<const int> before, int day, int monthEnd) {
     if (day < 1 || day > 2) return false;
-    for (qsizetype k = 1; k <= 3 && k <= before.size(); ++k) {
+    for (size_t k = 1; k <= 3 && k <= before.size(); ++k) {
         const int counted = before[before.size() - k] + int(k) - monthEnd;
         if (counted == day || (day == 2 && counted == 1)) return true;
     }
@@ -246,7 +247,7 @@ QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
     };
     auto turns = [&](const QList<int>& down) {
         for (qsizetype i = 1; i < down.size(); ++i)
-            if (monthEnded(down.first(i), down[i], monthEnd)) return true;
+            if (monthEnded({down.constData(), size_t(i)}, down[i], monthEnd)) return true;
         return false;
     };
     const QList<int> first = numbers(0);

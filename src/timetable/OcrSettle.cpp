@@ -75,7 +75,7 @@ QString leadingTime(const QString& reading) {
 // letters read as digits, still holds that hour before the minutes. Empty when it does not.
 QString withHourOf(const QString& first, const QString& second) {
     static const QRegularExpression minutesOnly(
-        QStringLiteral("^[:.]([0-5]\\d)(\\s*[AaPp]\\.?[Mm]\\.?)?$"));
+        QStringLiteral("^[:.]([0-5]\\d)(\\s*[AaPp]\\.?[Mm]\\.?|[AaPp]\\.?)?$"));
     const QRegularExpressionMatch m = minutesOnly.match(second);
     if (!m.hasMatch()) return {};
     QString digits;

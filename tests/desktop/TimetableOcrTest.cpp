@@ -163,8 +163,9 @@ TEST(TimetableOcrTest, ScannedPdfsOfTwoMonthsFillBothMonths) {
 // narrow print and of a grid, a Ramadan sheet over two months whose weekdays run into their days
 // ("Sunt"), a blurred photo whose first readings fill the table with guesses, a photo taken
 // from one side, its rows leaning one way at the top and the other at the bottom, two months
-// side by side in small print on a page with the wall around it, and bold serif am/pm times
-// whose first reading finds a row or two and nothing else.
+// side by side in small print on a page with the wall around it, bold serif am/pm times
+// whose first reading finds a row or two and nothing else, and times marked "6:48a" and
+// "12:09p" beside the dates and Hijri days.
 TEST(TimetableOcrTest, SheetsDrawnWithOtherToolsAreReadBack) {
     const QDir dir(QStringLiteral(TARVANEL_DRAWN_ELSEWHERE));
     QFile file(dir.filePath("jamaat.json"));
@@ -181,7 +182,8 @@ TEST(TimetableOcrTest, SheetsDrawnWithOtherToolsAreReadBack) {
                                                   {"july-full-dates-photo.jpg", 145},
                                                   {"october-keystone-photo.jpg", 150},
                                                   {"january-february-side-by-side-photo.jpg", 250},
-                                                  {"may-bold-serif-photo.jpg", 120}};
+                                                  {"may-bold-serif-photo.jpg", 120},
+                                                  {"january-single-letter-am-pm.png", 155}};
     for (const auto& [name, floor] : floors) {
         const QJsonObject days = sheets.value(name).toObject();
         const QDate first = QDate::fromString(days.keys().first(), Qt::ISODate);

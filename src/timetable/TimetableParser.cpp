@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QtGlobal>
 #include <algorithm>
+#include <climits>
 
 namespace tarvanel {
 namespace {
@@ -221,10 +222,23 @@ QList<ParsedRow> parse(const QStringList& lines) {
         })->first;
     for (qsizetype r = 0; r < rows.size(); ++r)
         if (splits[r] < 0) splits[r] = secondTable(plain[r], most);
+    // How far apart two rows' times are, in minutes: a printed time moves a minute or two a day.
+    auto apart = [](const ParsedRow& a, const ParsedRow& b) {
+        if (a.times.size() != b.times.size()) return INT_MAX;
+        int minutes = 0;
+        for (qsizetype t = 0; t < a.times.size(); ++t)
+            minutes += std::abs((a.times[t].hour - b.times[t].hour) * 60 + a.times[t].minute -
+                                b.times[t].minute);
+        return minutes;
+    };
     QList<ParsedRow> first, second;
     for (qsizetype r = 0; r < rows.size(); ++r) {
+        // A row of one table alone (the longer month's last days) goes on the table whose last
+        // row its times follow.
         if (splits[r] < 0) {
-            first << rows[r];
+            const bool later = !first.isEmpty() && !second.isEmpty() &&
+                               apart(rows[r], second.last()) < apart(rows[r], first.last());
+            (later ? second : first) << rows[r];
             continue;
         }
         for (auto [half, to] : {std::pair{plain[r].left(splits[r]), &first},

@@ -470,4 +470,17 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     ASSERT_EQ(model.problems().size(), 1);
     EXPECT_EQ(model.problems()[0].line, 12);
     EXPECT_EQ(model.problems()[0].reason, RowProblem::NoDay);
+    // November and December: December's 31st stands alone below both tables and is its day.
+    text = "NOVEMBER 2026      DECEMBER 2026\n";
+    for (int day = 1; day <= 31; ++day) {
+        if (day <= 30)
+            text += QString::asprintf("%d Sun 6:%02d 12:00 14:00 16:30 18:00   ", day, day);
+        text += QString::asprintf("%d Tue 7:%02d 12:15 13:50 16:%02d 18:15\n", day, day, day);
+    }
+    model.setText(text);
+    const DayTable longer = model.days();
+    EXPECT_EQ(longer.size(), 61);
+    EXPECT_EQ(longer.value("2026-11-30")["Fajr"], "06:30");
+    EXPECT_EQ(longer.value("2026-12-31")["Fajr"], "07:31");
+    EXPECT_TRUE(model.problems().isEmpty());
 }

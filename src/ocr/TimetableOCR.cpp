@@ -57,13 +57,35 @@ QString wholeDate(const QString& word) {
     return m.captured(1) + u'/' + m.captured(2) + u'/' + m.captured(3);
 }
 
+// The word's box cut into one box per part, each as wide as its share of the letters.
+QList<Recognizer::Word> cut(const Recognizer::Word& word, const QStringList& parts) {
+    QList<Recognizer::Word> pieces;
+    const QRect box = word.box;
+    qsizetype before = 0;
+    for (const QString& part : parts) {
+        if (part.isEmpty()) continue;
+        const int left = box.left() + int(box.width() * before / word.text.size());
+        before += part.size();
+        const int right = box.left() + int(box.width() * before / word.text.size()) - 1;
+        pieces.append({part, QRect(QPoint(left, box.top()), QPoint(right, box.bottom()))});
+    }
+    return pieces;
+}
+
 // Dates as the parser reads them: whole (see wholeDate), and "1Mar" as the day and the month it
 // is printed with: a narrow space between them is easily lost, and the day is then no day to
-// the parser nor to the count down the column.
+// the parser nor to the count down the column. A weekday's name runs into the day the same way
+// ("Wed25Feb", "hu12Mar" with the T lost, "Mon23").
 QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
-    static const QRegularExpression glued(
-        QStringLiteral(
-            "^(\\S{1,3}?)((jan|feb|mar|apr|may|jun|jul|aug|sep|[o0]ct|nov|dec)\\w*\\.?)$"),
+    static const QString month =
+        QStringLiteral("((jan|feb|mar|apr|may|jun|jul|aug|sep|[o0]ct|nov|dec)\\w*\\.?)");
+    static const QRegularExpression glued(QStringLiteral("^(\\S{1,3}?)") + month + u'$',
+                                          QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression named(QStringLiteral("^([a-z]{2,3})([\\dlIi|]{1,2})") + month +
+                                              u'$',
+                                          QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression weekday(
+        QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)(\\d{1,2})$"),
         QRegularExpression::CaseInsensitiveOption);
     QList<Recognizer::Word> apart;
     for (const Recognizer::Word& word : words) {
@@ -71,16 +93,14 @@ QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
             apart.append({date, word.box});
             continue;
         }
-        const QRegularExpressionMatch m = glued.match(word.text);
-        if (!m.hasMatch()) {
+        if (const QRegularExpressionMatch m = named.match(word.text); m.hasMatch())
+            apart << cut(word, {m.captured(1), m.captured(2), m.captured(3)});
+        else if (const QRegularExpressionMatch m = weekday.match(word.text); m.hasMatch())
+            apart << cut(word, {m.captured(1), m.captured(2)});
+        else if (const QRegularExpressionMatch m = glued.match(word.text); m.hasMatch())
+            apart << cut(word, {m.captured(1), m.captured(2)});
+        else
             apart.append(word);
-            continue;
-        }
-        const QRect box = word.box;
-        const int split = box.left() + int(box.width() * m.capturedLength(1) / word.text.size());
-        apart.append(
-            {m.captured(1), QRect(QPoint(box.left(), box.top()), QPoint(split - 1, box.bottom()))});
-        apart.append({m.captured(2), QRect(QPoint(split, box.top()), box.bottomRight())});
     }
     return apart;
 }

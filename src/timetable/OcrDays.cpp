@@ -141,10 +141,11 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
     std::sort(starts.begin(), starts.end());
     const qreal timesBegin = starts.isEmpty() ? 0 : starts[starts.size() / 2];
     // The first word of a row, or the second after a weekday's name, perhaps misread; two
-    // letters only as a weekday's short name ("ll" is 11 misread). A short name with a digit
-    // run into it ("Sunt", "Mon1") holds the day itself.
+    // letters only as a weekday's short name, or Thursday's and Tuesday's with the T lost ("ll"
+    // is 11 misread). A short name with a digit run into it ("Sunt", "Mon1") holds the day
+    // itself.
     static const QRegularExpression name(
-        QStringLiteral("^([A-Za-z]{3,9}|mo|tu|we|th|fr|sa|su)\\.?$"),
+        QStringLiteral("^([A-Za-z]{3,9}|mo|tu|we|th|fr|sa|su|hu|ue)\\.?$"),
         QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression withDay(
         QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)[\\dlIit|]{1,2}$"),
@@ -177,14 +178,15 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
     for (qsizetype l : table)
         if (timesIn(items, lines[l]) >= whole) wholeRows << lines[l][0];
     QList<Doubt> doubts = countedDoubts(items, firsts, wholeRows, timesBegin, true);
-    // A second column of days beside the first (a Ramadan day, then the date) counts as well,
-    // once most of it reads as days.
+    // A second column of days beside the first (a Ramadan day, then the date, perhaps after the
+    // weekday) counts as well, once most of it reads as days.
     QList<qsizetype> seconds;
     for (qsizetype k = 0; k < firsts.size(); ++k) {
         const QList<qsizetype>& line = lines[rows[k]];
-        const qsizetype at = line.indexOf(firsts[k]) + 1;
-        const bool beside = at < line.size() && items[line[at]].box.right() < timesBegin &&
-                            !name.match(items[line[at]].text).hasMatch();
+        qsizetype at = line.indexOf(firsts[k]) + 1;
+        while (at < line.size() && name.match(items[line[at]].text).hasMatch())
+            ++at;
+        const bool beside = at < line.size() && items[line[at]].box.right() < timesBegin;
         seconds << (beside ? line[at] : -1);
     }
     const auto secondDays = std::count_if(seconds.begin(), seconds.end(), [&](qsizetype i) {

@@ -52,6 +52,12 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
         ramadan << QString::number(r + 1) + " " + read + times;
     }
     EXPECT_EQ(dayDoubts(ramadan), QStringList({"\"1/11", "7/17"}));
+    // The same with the weekday between them, Thursday's T lost: "hu" is no day to count.
+    QStringList named;
+    for (int r = 0; r < 10; ++r)
+        named << QString::number(r + 1) + (r % 7 == 1 ? " hu " : " Wed ") +
+                     (r == 5 ? "Z5" : QString::number(20 + r)) + times;
+    EXPECT_EQ(dayDoubts(named), QStringList({"Z5/25"}));
     // A weekday's name and its day read as one word ("Sunt" for "Sun 1") is no weekday before
     // a Hijri day: the new month's first day.
     EXPECT_EQ(dayDoubts({"Fri 27 12" + times, "Sat 28 13" + times, "Sunt 14" + times,

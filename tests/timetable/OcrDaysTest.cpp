@@ -52,6 +52,15 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
         ramadan << QString::number(r + 1) + " " + read + times;
     }
     EXPECT_EQ(dayDoubts(ramadan), QStringList({"\"1/11", "7/17"}));
+    // The 28th read as 26 and the 1st unread: the 2nd after them is the next month's, not a
+    // 28 that lost a digit, and the 1st is counted back from it.
+    QStringList turn;
+    for (int r = 0; r < 10; ++r)
+        turn << QString::number(r + 9) + " " +
+                    QStringList{"24", "25", "26", "27", "26", "x"}.value(r,
+                                                                         QString::number(r - 4)) +
+                    times;
+    EXPECT_EQ(dayDoubts(turn), QStringList({"x/1"}));
     // The same with the weekday between them, Thursday's T lost: "hu" is no day to count.
     QStringList named;
     for (int r = 0; r < 10; ++r)

@@ -49,10 +49,10 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
         run = -1;
         const int counted = nearest(k, -1, firsts.size()); // as the rows above count it
         const int lost = counted - read(k);
-        // The 1st or 2nd where the count has reached a month's end is the next month's, unless
-        // the days below still count on from the month before (29 read as 2, then 30, 31).
-        const bool monthTurned =
-            counted >= 28 && read(k) <= 2 && nearest(k, 1, firsts.size()) != counted;
+        // The 1st or 2nd where the count has reached a month's end is the next month's when
+        // the days below count on from it too (not 29 read as 2, then 30, and 31 read as 3).
+        const int below = nearest(k, 1, firsts.size());
+        const bool monthTurned = counted >= 28 && read(k) <= 2 && (below < 0 || below == read(k));
         if (counted > 0 && !monthTurned &&
             (lost == 10 || lost == 20 || (counted >= 10 && counted / 10 == read(k))) &&
             isDay(QString::number(counted))) {

@@ -49,10 +49,12 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
         run = -1;
         const int counted = nearest(k, -1, firsts.size()); // as the rows above count it
         const int lost = counted - read(k);
-        // The 1st or 2nd where the count has reached a month's end is the next month's when
-        // the days below count on from it too (not 29 read as 2, then 30, and 31 read as 3).
+        // A 2 where the count has reached a month's end, below an unreadable row, is the next
+        // month's when the days below count on from it too; straight after the 28th, or with
+        // the days below counting on from the month before, it is 29 that lost a digit.
         const int below = nearest(k, 1, firsts.size());
-        const bool monthTurned = counted >= 28 && read(k) <= 2 && (below < 0 || below == read(k));
+        const bool monthTurned =
+            counted >= 28 && read(k) == 2 && read(k - 1) < 0 && (below < 0 || below == read(k));
         if (counted > 0 && !monthTurned &&
             (lost == 10 || lost == 20 || (counted >= 10 && counted / 10 == read(k))) &&
             isDay(QString::number(counted))) {

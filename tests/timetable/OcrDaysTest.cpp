@@ -64,6 +64,7 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // 29 read as 2, the 30th as 0: the 31st below says the month goes on, read whole or not.
     EXPECT_EQ(dayDoubts({"27", "28", "2", "0", "31"}), QStringList({"2/29", "0/30"}));
     EXPECT_EQ(dayDoubts({"27", "28", "2", "0", "3"}), QStringList({"2/29", "0/30", "3/31"}));
+    EXPECT_EQ(dayDoubts({"27", "28", "2", "3", "4"}), QStringList({"2/29", "3/30", "4/31"}));
     // The same with the weekday between them, Thursday's T lost: "hu" is no day to count.
     QStringList named;
     for (int r = 0; r < 10; ++r)

@@ -84,8 +84,11 @@ bool Recognizer::load() {
                 QStringLiteral("Tarvanel: text recognition is not available (no English model)"));
         return false;
     }
-    // Tesseract's diagnostics (statistics of an empty cell) are no use in the log.
+    // Tesseract's diagnostics (statistics of an empty cell) are no use in the log, nor is
+    // Leptonica's complaint about a page's background with holes at its edge, which it fills
+    // all the same. Once for the process: the setting is Leptonica's global.
     api_.SetVariable("debug_file", "/dev/null");
+    [[maybe_unused]] static const int quiet = setMsgSeverity(L_SEVERITY_NONE);
     // Retrying doubtful words as white on black doubles the time and never helps a sheet.
     api_.SetVariable("tessedit_do_invert", "0");
     api_.SetVariable("tessedit_char_blacklist", lookalikeCapitals);

@@ -26,12 +26,30 @@ QList<QList<qsizetype>> lineIndices(const QList<RecognizedItem>& items) {
     std::stable_sort(order.begin(), order.end(),
                      [&](qsizetype a, qsizetype b) { return middle(a) > middle(b); });
 
+    // A word whose box holds a piece of a rule or a speck as well is taller than its print,
+    // which stands at one end of the box; a heading is taller all through. Its middle is taken
+    // at either end or at the middle, whichever is nearest to `y`.
+    auto middleNear = [&](qsizetype i, qreal y) {
+        const QRectF& box = items[i].box;
+        qreal best = middle(i);
+        if (box.height() > 1.3 * typical)
+            for (const qreal end : {box.top() + typical / 2, box.bottom() - typical / 2})
+                if (std::abs(end - y) < std::abs(best - y)) best = end;
+        return best;
+    };
+    // Each word is held against the middle of the line so far: a row still a little askew
+    // after levelling drifts along its length by more than the words of one place differ.
     QList<QList<qsizetype>> lines;
+    qreal sum = 0;
     for (qsizetype i : order) {
-        if (!lines.isEmpty() && std::abs(middle(i) - middle(lines.last().first())) < 0.6 * typical)
+        const qreal y = lines.isEmpty() ? 0 : sum / qreal(lines.last().size());
+        if (!lines.isEmpty() && std::abs(middleNear(i, y) - y) < 0.6 * typical) {
             lines.last() << i;
-        else
+            sum += middleNear(i, y);
+        } else {
             lines.append(QList<qsizetype>{i});
+            sum = middle(i);
+        }
     }
     for (QList<qsizetype>& line : lines)
         std::stable_sort(line.begin(), line.end(), [&](qsizetype a, qsizetype b) {
@@ -42,7 +60,8 @@ QList<QList<qsizetype>> lineIndices(const QList<RecognizedItem>& items) {
     // height that one reached, is the same row.
     auto goesOn = [&](const QList<qsizetype>& left, const QList<qsizetype>& right) {
         return items[left.last()].box.right() <= items[right.first()].box.left() &&
-               std::abs(middle(left.last()) - middle(right.first())) < 0.6 * typical;
+               std::abs(middleNear(left.last(), middle(right.first())) -
+                        middleNear(right.first(), middle(left.last()))) < 0.6 * typical;
     };
     for (qsizetype l = 0; l + 1 < lines.size();) {
         if (goesOn(lines[l], lines[l + 1]))

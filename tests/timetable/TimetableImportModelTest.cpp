@@ -176,6 +176,18 @@ TEST(TimetableImportModelTest, RecognisedWordsGroupIntoLevelLines) {
             askew << item(c ? "4:10" : row ? "4" : "3", 10 + 200 * c, 300 + 40 * row + 5 * c);
     EXPECT_EQ(OcrLines::group(askew),
               QStringList({"3   4:10   4:10   4:10   4:10", "4   4:10   4:10   4:10   4:10"}));
+    // Rows still a little askew after levelling, each with a word whose box reaches down into
+    // the rule below it: its middle lies lower than its print, and the row's last word lies as
+    // far from its first as words of one place may.
+    QList<RecognizedItem> ruled;
+    for (int row = 0; row < 2; ++row)
+        for (int c = 0; c < 5; ++c)
+            ruled << item(c     ? "4:10"
+                          : row ? "2"
+                                : "1",
+                          10 + 200 * c, 300 + 40 * row + 3 * c, c == 2 ? 34 : 20);
+    EXPECT_EQ(OcrLines::group(ruled),
+              QStringList({"1   4:10   4:10   4:10   4:10", "2   4:10   4:10   4:10   4:10"}));
     EXPECT_EQ(OcrLines::relativeBox(100, 0, 300, 50, 1000, 500), QRectF(0.1, 0.9, 0.2, 0.1));
     EXPECT_TRUE(OcrLines::group({}).isEmpty());
 

@@ -171,10 +171,15 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                 continue;
             }
             const auto at = rows.indexOf(l);
-            for (qsizetype t = at - 1; t >= 0 && at - t <= 3 && slot.above.isEmpty(); --t)
+            for (qsizetype t = at - 1; t >= 0 && at - t <= 3 && slot.above.isEmpty(); --t) {
                 slot.above = cleanTime(rows[t], column);
-            for (qsizetype t = at + 1; t < rows.size() && t - at <= 3 && slot.below.isEmpty(); ++t)
+                slot.aboveRows = int(at - t);
+            }
+            for (qsizetype t = at + 1; t < rows.size() && t - at <= 3 && slot.below.isEmpty();
+                 ++t) {
                 slot.below = cleanTime(rows[t], column);
+                slot.belowRows = int(t - at);
+            }
             found << slot;
         }
     }

@@ -315,8 +315,12 @@ QList<Doubt> columnDoubts(const QList<RecognizedItem>& items) {
     for (const words::Slot& slot : words::emptySlots(items, lines, tableLines(items, lines))) {
         if (slot.item >= 0 && isTime(items[slot.item].text)) // misread: what the rows agree on
             doubts.append({slot.item, Doubt::Time, words::dialMinutes(slot.above), slot.above});
-        else
-            doubts.append({slot.item, Doubt::Time, -1, {}, slot.above, slot.below, slot.box});
+        else {
+            Doubt unread{slot.item, Doubt::Time, -1, {}, slot.above, slot.below, slot.box};
+            unread.aboveRows = slot.aboveRows;
+            unread.belowRows = slot.belowRows;
+            doubts << unread;
+        }
     }
     return doubts;
 }

@@ -62,6 +62,8 @@ struct Doubt {
     // Where the cell stands when nothing was read there at all (`item` is then -1), in the
     // items' coordinates.
     QRectF box = {};
+    // How many rows away `above` and `below` stand.
+    int aboveRows = 1, belowRows = 1;
 };
 QList<Doubt> doubtful(const QList<RecognizedItem>& items);
 // The day cells the count of the table's days settles; meant for after a day column read too

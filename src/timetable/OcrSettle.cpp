@@ -107,8 +107,8 @@ Clock clockOf(const QString& time) {
 
 // An unreadable cell of a time column, from the clean times nearest above and below it there:
 // minutes still read ("#15") under the hour of the nearest, as long as that keeps it within
-// half an hour of it; else the time both agree on, or the one midway between two a few
-// minutes apart (a begins time moves a minute a day). Empty when they say nothing.
+// half an hour of it; else the time both agree on, or the one between two a few minutes apart
+// (a begins time moves a minute a day). Empty when they say nothing.
 QString fromColumn(const Doubt& doubt, const QStringList& readings) {
     const Clock near = clockOf(doubt.above.isEmpty() ? doubt.below : doubt.above);
     if (near.hour < 0) return {};
@@ -144,11 +144,15 @@ QString fromColumn(const Doubt& doubt, const QStringList& readings) {
     for (const QString& reading : readings)
         if (const auto m = digit.match(reading); m.hasMatch() && nearest.endsWith(m.captured(1)))
             return nearest;
+    // Between the times above and below it, as far from each as it stands in rows, when the
+    // column moves no more than two minutes a day between them.
     const Clock above = clockOf(doubt.above), below = clockOf(doubt.below);
     if (above.hour < 0 || below.hour < 0) return {};
     const int a = above.hour * 60 + above.minute, b = below.hour * 60 + below.minute;
-    if (std::abs(a - b) > 4) return {};
-    return above.text((a + b) / 2 / 60, (a + b) / 2 % 60);
+    const int rows = doubt.aboveRows + doubt.belowRows;
+    if (std::abs(a - b) > 2 * rows) return {};
+    const int at = (a * doubt.belowRows + b * doubt.aboveRows) / rows;
+    return above.text(at / 60, at % 60);
 }
 } // namespace
 

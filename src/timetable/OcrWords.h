@@ -49,6 +49,7 @@ struct Slot {
     qsizetype item = -1;
     QRectF box;
     QString above, below;
+    int aboveRows = 1, belowRows = 1; // how many rows away each stands
 };
 // The cells of the table's time columns that hold no time, or a misread one (`table`: lines
 // of `lines`, top to bottom, each item indices left to right), judged by the columns of the

@@ -136,3 +136,18 @@ TEST(OcrColumnsTest, PoorRowsDoNotHideAColumnsMisreadCell) {
         doubted << items[doubt.item].text;
     EXPECT_TRUE(doubted.contains("43440")) << doubted.join(' ').toStdString();
 }
+
+// Two cells running unreadable in a begins column that moves a minute or two a day: each takes
+// the time as far between the clean ones around it as it stands from them in rows; a column
+// that moves further than two minutes a day between them says nothing.
+TEST(OcrColumnsTest, UnreadableCellsOfAMovingColumnStandBetweenTheTimesAroundThem) {
+    const auto items = table({{"1", "6:44", "7:00", "8:00"},
+                              {"2", "6:46", "7:00", "8:03"},
+                              {"3", "6:48", "7:00", "8:06"},
+                              {"4", "6%", "7:00", "8;0"},
+                              {"5", "6s!", "7:00", "#1!"},
+                              {"6", "6:53", "7:00", "8:13"},
+                              {"7", "6:55", "7:00", "8:16"}});
+    EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
+              QStringList({"6%  6:49", "8;0  8;0", "6s!  6:51", "#1!  #1!"}));
+}

@@ -34,13 +34,11 @@ std::pair<int, int> printed(const std::vector<std::pair<int, int>>& spans, int b
     return {first * bin, (last + 1) * bin};
 }
 
-} // namespace
-
-int characterHeight(Pix* page) {
-    const PixPtr binary(pixThresholdToBinary(page, 160));
-    if (!binary) return 0;
-    Boxa* boxes = pixConnCompBB(binary.get(), 8);
-    if (!boxes) return 0;
+// The heights of the blobs of `page` darker than `threshold` that may be characters.
+std::vector<int> characterHeights(Pix* page, int threshold) {
+    const PixPtr binary(pixThresholdToBinary(page, threshold));
+    Boxa* boxes = binary ? pixConnCompBB(binary.get(), 8) : nullptr;
+    if (!boxes) return {};
     std::vector<int> heights;
     for (int i = 0; i < boxaGetCount(boxes); ++i) {
         l_int32 x, y, w, h;
@@ -51,9 +49,26 @@ int characterHeight(Pix* page) {
             heights.push_back(h);
     }
     boxaDestroy(&boxes);
-    if (heights.empty()) return 0;
-    std::nth_element(heights.begin(), heights.begin() + heights.size() / 2, heights.end());
-    return heights[heights.size() / 2];
+    return heights;
+}
+
+} // namespace
+
+int characterHeight(Pix* page) {
+    auto median = [](std::vector<int> heights) {
+        if (heights.empty()) return 0;
+        std::nth_element(heights.begin(), heights.begin() + heights.size() / 2, heights.end());
+        return heights[heights.size() / 2];
+    };
+    // Light grey print (a thin typeface, a photo in poor light) is all but gone at the usual
+    // threshold, where only the headings and a dark header band remain. At a lighter one
+    // characters only grow, their strokes thicker and their neighbours run together: when it
+    // finds far more of them, and smaller, the usual threshold saw the headings alone.
+    const std::vector<int> usual = characterHeights(page, 160);
+    const std::vector<int> light = characterHeights(page, 200);
+    const int height = median(usual);
+    if (light.size() < 2 * usual.size()) return height;
+    return height > 0 ? std::min(height, median(light)) : median(light);
 }
 
 PixPtr printOnly(PixPtr page, int character) {

@@ -228,6 +228,31 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
         }
         return QString();
     };
+    // In a column that moves a minute or two a day (Maghrib at sunset), a time far from where
+    // the clean times around it put it, with minutes that fit there ("5:34pm" between 8:33pm
+    // and 8:35pm), has its hour misread: a day never moves half an hour while those around it
+    // keep pace. The nearest two within three rows either side that keep pace say where it
+    // stands; a misread time beside it does not.
+    auto hourBetween = [&](qsizetype at, const QRectF& column, const QString& time) {
+        QList<std::pair<QString, qsizetype>> above, below; // with how many rows away
+        for (qsizetype t = at - 1; t >= 0 && at - t <= 3; --t)
+            if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
+                above.append({other, at - t});
+        for (qsizetype t = at + 1; t < rows.size() && t - at <= 3; ++t)
+            if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
+                below.append({other, t - at});
+        for (qsizetype apart = 2; apart <= 6; ++apart)
+            for (const auto& [near, aboveRows] : above)
+                for (const auto& [far, belowRows] : below) {
+                    const int a = dialMinutes(near), b = dialMinutes(far);
+                    if (aboveRows + belowRows != apart || dialDistance(a, b) > 2 * apart) continue;
+                    const int towardsBelow = (b - a + 1080) % 720 - 360;
+                    const int expected = (a + int(towardsBelow * aboveRows / apart) + 720) % 720;
+                    if (dialDistance(dialMinutes(time), expected) < 30) return QString();
+                    return withHourNear(time, near, (expected + 717) % 720, (expected + 3) % 720);
+                }
+        return QString();
+    };
     // Each column's clean times, top to bottom.
     QList<QStringList> columnTimes(columns);
     for (qsizetype at = 0; at < rows.size(); ++at)
@@ -264,6 +289,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                     agreed = candidate;
             if (agreed.isEmpty() || count(agreed) <= count(time) + 1 || !misread(time, agreed))
                 agreed = hourFromBeyond(at, column, time);
+            if (agreed.isEmpty()) agreed = hourBetween(at, column, time);
             // Only where the column holds its times for days: a column that moves a minute a
             // day (Maghrib at sunset) may be round at times and hold the look-alike too.
             QSet<QString> around{withColon(time)};

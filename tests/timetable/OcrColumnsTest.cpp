@@ -151,3 +151,19 @@ TEST(OcrColumnsTest, UnreadableCellsOfAMovingColumnStandBetweenTheTimesAroundThe
     EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
               QStringList({"6%  6:49", "8;0  8;0", "6s!  6:51", "#1!  #1!"}));
 }
+
+// A Maghrib column moving a minute or two a day, two days running read hours off, on twelve-
+// and twenty-four-hour sheets: the days around that keep pace give each its hour, passing over
+// the misread one beside it. A time whose minutes do not fit there is left to its second
+// reading.
+TEST(OcrColumnsTest, ADayHoursOffAColumnThatKeepsPaceTakesTheHourItsNeighboursGive) {
+    const auto items = table({{"11", "8:51pm", "20:51", "22:30"},
+                              {"12", "8:52pm", "20:52", "22:30"},
+                              {"13", "4:54pm", "16:54", "22:30"},
+                              {"14", "5:55pm", "20:55", "22:30"},
+                              {"15", "8:57pm", "20:57", "22:30"},
+                              {"16", "7:20pm", "20:58", "22:30"},
+                              {"17", "9:00pm", "21:00", "22:30"}});
+    EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
+              QStringList({"4:54pm 8:54pm 8:54pm", "16:54 20:54 20:54", "5:55pm 8:55pm 8:55pm"}));
+}

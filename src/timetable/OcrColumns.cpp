@@ -241,6 +241,10 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
         for (qsizetype t = at + 1; t < rows.size() && t - at <= 3; ++t)
             if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
                 below.append({other, t - at});
+        // A day near it is a column that holds it: the columns misplaced in rows that lean.
+        const int x = dialMinutes(time);
+        for (const auto& [other, rowsAway] : above + below)
+            if (dialDistance(dialMinutes(other), x) < 30) return QString();
         for (qsizetype apart = 2; apart <= 6; ++apart)
             for (const auto& [near, aboveRows] : above)
                 for (const auto& [far, belowRows] : below) {
@@ -248,7 +252,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
                     if (aboveRows + belowRows != apart || dialDistance(a, b) > 2 * apart) continue;
                     const int towardsBelow = (b - a + 1080) % 720 - 360;
                     const int expected = (a + int(towardsBelow * aboveRows / apart) + 720) % 720;
-                    if (dialDistance(dialMinutes(time), expected) < 30) return QString();
+                    if (dialDistance(x, expected) < 30) return QString();
                     return withHourNear(time, near, (expected + 717) % 720, (expected + 3) % 720);
                 }
         return QString();

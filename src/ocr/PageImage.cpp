@@ -271,8 +271,9 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look
     if (stopped()) return {};
     page = levelled(std::move(page), stopped);
     if (stopped()) return {};
-    int character = PrintArea::characterHeight(page.get());
-    page = PrintArea::printOnly(std::move(page), character);
+    PrintArea::Print print = PrintArea::find(std::move(page));
+    page = std::move(print.page);
+    int character = print.character;
     if (stopped()) return {};
     // Small print is enlarged twice, or as much as the pixel budget allows: a large page of small
     // print reads far better a little larger than as it is. Another size enlarges small print

@@ -34,62 +34,54 @@ std::pair<int, int> printed(const std::vector<std::pair<int, int>>& spans, int b
     return {first * bin, (last + 1) * bin};
 }
 
-// The heights of the blobs of `page` darker than `threshold` that may be characters.
-std::vector<int> characterHeights(Pix* page, int threshold) {
+struct Blob {
+    QRect box;
+    // Dots, colons and rules say nothing about the size of the print; letters that touch (a
+    // word) do.
+    bool mayBeCharacter(int pageWidth) const {
+        return box.height() >= 6 && box.height() <= 8 * box.width() && box.width() < pageWidth / 4;
+    }
+};
+
+// The blobs of `page` darker than `threshold`.
+std::vector<Blob> blobs(Pix* page, int threshold) {
     const PixPtr binary(pixThresholdToBinary(page, threshold));
     Boxa* boxes = binary ? pixConnCompBB(binary.get(), 8) : nullptr;
     if (!boxes) return {};
-    std::vector<int> heights;
+    std::vector<Blob> found;
+    found.reserve(size_t(boxaGetCount(boxes)));
     for (int i = 0; i < boxaGetCount(boxes); ++i) {
         l_int32 x, y, w, h;
-        // Dots, colons and rules say nothing about the size of the print; letters that touch
-        // (a word) do.
-        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0 && h >= 6 && h <= 8 * w &&
-            w < pixGetWidth(page) / 4)
-            heights.push_back(h);
+        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0) found.push_back({QRect(x, y, w, h)});
     }
     boxaDestroy(&boxes);
-    return heights;
+    return found;
 }
 
-} // namespace
-
-int characterHeight(Pix* page) {
-    auto median = [](std::vector<int> heights) {
-        if (heights.empty()) return 0;
-        std::nth_element(heights.begin(), heights.begin() + heights.size() / 2, heights.end());
-        return heights[heights.size() / 2];
-    };
-    // Light grey print (a thin typeface, a photo in poor light) is all but gone at the usual
-    // threshold, where only the headings and a dark header band remain. At a lighter one
-    // characters only grow, their strokes thicker and their neighbours run together: when it
-    // finds far more of them, and smaller, the usual threshold saw the headings alone.
-    const std::vector<int> usual = characterHeights(page, 160);
-    const std::vector<int> light = characterHeights(page, 200);
-    const int height = median(usual);
-    if (light.size() < 2 * usual.size()) return height;
-    return height > 0 ? std::min(height, median(light)) : median(light);
+// The median height of the blobs that may be characters, and how many there are.
+std::pair<int, size_t> characters(const std::vector<Blob>& found, int pageWidth) {
+    std::vector<int> heights;
+    for (const Blob& blob : found)
+        if (blob.mayBeCharacter(pageWidth)) heights.push_back(blob.box.height());
+    if (heights.empty()) return {0, 0};
+    std::nth_element(heights.begin(), heights.begin() + heights.size() / 2, heights.end());
+    return {heights[heights.size() / 2], heights.size()};
 }
 
-PixPtr printOnly(PixPtr page, int character) {
-    if (character <= 0) return page;
-    // Lighter than the usual threshold: blurred grey print falls apart there.
-    const PixPtr binary(pixThresholdToBinary(page.get(), 200));
-    Boxa* boxes = binary ? pixConnCompBB(binary.get(), 8) : nullptr;
-    if (!boxes) return page;
+// Where the print of `light` stands on a page of `whole`, with a margin; `whole` when it
+// fills most of the page.
+QRect printArea(const std::vector<Blob>& light, int character, const QRect& whole) {
     std::vector<std::pair<int, int>> xs, ys;
-    for (int i = 0; i < boxaGetCount(boxes); ++i) {
-        l_int32 x, y, w, h;
+    for (const Blob& blob : light) {
+        const QRect& b = blob.box;
         // Specks are smaller than print, a heading's letters larger, and blurred bold print
         // runs together into words.
-        if (boxaGetBoxGeometry(boxes, i, &x, &y, &w, &h) == 0 && 10 * h >= 7 * character &&
-            h <= 4 * character && w <= 25 * character) {
-            xs.emplace_back(x, x + w - 1);
-            ys.emplace_back(y, y + h - 1);
+        if (10 * b.height() >= 7 * character && b.height() <= 4 * character &&
+            b.width() <= 25 * character) {
+            xs.emplace_back(b.left(), b.right());
+            ys.emplace_back(b.top(), b.bottom());
         }
     }
-    boxaDestroy(&boxes);
-    const QRect whole(0, 0, pixGetWidth(page.get()), pixGetHeight(page.get()));
     const auto [left, right] = printed(xs, 4 * character, whole.width());
     const auto [top, bottom] = printed(ys, 2 * character, whole.height());
     const int margin = 4 * character;
@@ -97,11 +89,34 @@ PixPtr printOnly(PixPtr page, int character) {
                             .adjusted(-margin, -margin, margin, margin)
                             .intersected(whole);
     if (qint64(print.width()) * print.height() * 5 > qint64(whole.width()) * whole.height() * 4)
-        return page;
+        return whole;
+    return print;
+}
+
+} // namespace
+
+Print find(PixPtr page) {
+    const int width = pixGetWidth(page.get());
+    // Light grey print (a thin typeface, a photo in poor light) is all but gone at the usual
+    // threshold, where only the headings and a dark header band remain. At a lighter one
+    // characters only grow, their strokes thicker and their neighbours run together: when it
+    // finds far more of them, and smaller, the usual threshold saw the headings alone.
+    const auto [usual, usualCount] = characters(blobs(page.get(), 160), width);
+    // The lighter threshold also finds where the print stands: blurred grey print falls apart
+    // at the usual one.
+    const std::vector<Blob> light = blobs(page.get(), 200);
+    const auto [lighter, lighterCount] = characters(light, width);
+    int character = usual;
+    if (lighterCount >= 2 * usualCount && lighter > 0)
+        character = usual > 0 ? std::min(usual, lighter) : lighter;
+    if (character <= 0) return {std::move(page), 0};
+    const QRect whole(0, 0, width, pixGetHeight(page.get()));
+    const QRect print = printArea(light, character, whole);
+    if (print == whole) return {std::move(page), character};
     Box* box = boxCreate(print.x(), print.y(), print.width(), print.height());
     PixPtr clipped(box ? pixClipRectangle(page.get(), box, nullptr) : nullptr);
     boxDestroy(&box);
-    return clipped ? std::move(clipped) : std::move(page);
+    return {clipped ? std::move(clipped) : std::move(page), character};
 }
 
 } // namespace tarvanel::PrintArea

@@ -5,10 +5,14 @@
 
 namespace tarvanel::PrintArea {
 
-// The typical height of a character in pixels, from the page's dark blobs; 0 for an empty page.
-int characterHeight(Pix* page);
-// The part of `page` that holds print, with a margin; the page as it is when its print fills
-// most of it or `character` is unknown (0).
-PageImage::PixPtr printOnly(PageImage::PixPtr page, int character);
+struct Print {
+    // The part of the page that holds print, with a margin; the page as it is when its print
+    // fills most of it or no character was found.
+    PageImage::PixPtr page;
+    // The typical height of a character in pixels, from the page's dark blobs; 0 for an empty
+    // page.
+    int character = 0;
+};
+Print find(PageImage::PixPtr page);
 
 } // namespace tarvanel::PrintArea

@@ -133,6 +133,24 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             if (isTime(items[i].text)) return items[i].text;
         return QString();
     };
+    // The clean times of `column` within `reach` rows above and below row `at`, nearest first,
+    // with how many rows away each stands.
+    struct Near {
+        QString time;
+        int rows;
+    };
+    auto cleanAround = [&](qsizetype at, const QRectF& column, int reach) {
+        std::pair<QList<Near>, QList<Near>> near;
+        for (int t = 1; t <= reach; ++t) {
+            if (at - t >= 0)
+                if (const QString time = cleanTime(rows[at - t], column); !time.isEmpty())
+                    near.first.append({time, t});
+            if (at + t < rows.size())
+                if (const QString time = cleanTime(rows[at + t], column); !time.isEmpty())
+                    near.second.append({time, t});
+        }
+        return near;
+    };
     QList<Slot> found;
     for (qsizetype l : rows) {
         if (times[l].size() >= columns || times[l].isEmpty()) continue;
@@ -170,15 +188,14 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             } else {
                 continue;
             }
-            const auto at = rows.indexOf(l);
-            for (qsizetype t = at - 1; t >= 0 && at - t <= 3 && slot.above.isEmpty(); --t) {
-                slot.above = cleanTime(rows[t], column);
-                slot.aboveRows = int(at - t);
+            const auto [above, below] = cleanAround(rows.indexOf(l), column, 3);
+            if (!above.isEmpty()) {
+                slot.above = above.first().time;
+                slot.aboveRows = above.first().rows;
             }
-            for (qsizetype t = at + 1; t < rows.size() && t - at <= 3 && slot.below.isEmpty();
-                 ++t) {
-                slot.below = cleanTime(rows[t], column);
-                slot.belowRows = int(t - at);
+            if (!below.isEmpty()) {
+                slot.below = below.first().time;
+                slot.belowRows = below.first().rows;
             }
             found << slot;
         }
@@ -186,7 +203,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     // A clean time that the column's times around it say was misread: a time read both above
     // and below it within a few rows, more often than it is, that it differs from as a misreading
     // does. A jamaat time holds for days, so a run of misread cells still has it on both sides.
-    constexpr qsizetype reach = 4;
+    constexpr int reach = 4;
     auto same = [](const QString& a, const QString& b) { return withColon(a) == withColon(b); };
     // A day whose other times move half an hour or more from the day next to it, in two columns
     // or more, is a change of timetable (the clocks going back at the month's end), not a
@@ -234,17 +251,11 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     // keep pace. The nearest two within three rows either side that keep pace say where it
     // stands; a misread time beside it does not.
     auto hourBetween = [&](qsizetype at, const QRectF& column, const QString& time) {
-        QList<std::pair<QString, qsizetype>> above, below; // with how many rows away
-        for (qsizetype t = at - 1; t >= 0 && at - t <= 3; --t)
-            if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
-                above.append({other, at - t});
-        for (qsizetype t = at + 1; t < rows.size() && t - at <= 3; ++t)
-            if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
-                below.append({other, t - at});
+        const auto [above, below] = cleanAround(at, column, 3);
         // A day near it is a column that holds it: the columns misplaced in rows that lean.
         const int x = dialMinutes(time);
-        for (const auto& [other, rowsAway] : above + below)
-            if (dialDistance(dialMinutes(other), x) < 30) return QString();
+        for (const Near& other : above + below)
+            if (dialDistance(dialMinutes(other.time), x) < 30) return QString();
         for (qsizetype apart = 2; apart <= 6; ++apart)
             for (const auto& [near, aboveRows] : above)
                 for (const auto& [far, belowRows] : below) {
@@ -272,12 +283,11 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
             const QString time = cleanTime(rows[at], column);
             if (time.isEmpty()) continue;
             QStringList above, below;
-            for (qsizetype t = std::max<qsizetype>(0, at - reach); t < at; ++t)
-                if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
-                    above << other;
-            for (qsizetype t = at + 1; t < rows.size() && t - at <= reach; ++t)
-                if (const QString other = cleanTime(rows[t], column); !other.isEmpty())
-                    below << other;
+            const auto [nearAbove, nearBelow] = cleanAround(at, column, reach);
+            for (const Near& other : nearAbove) // top to bottom
+                above.prepend(other.time);
+            for (const Near& other : nearBelow)
+                below << other.time;
             auto count = [&](const QString& value) {
                 return std::count_if(above.begin(), above.end(),
                                      [&](auto& o) { return same(o, value); }) +

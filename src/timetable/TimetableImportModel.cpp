@@ -82,40 +82,7 @@ QStringList TimetableImportModel::monthNames() {
 }
 
 std::optional<MonthAndYear> TimetableImportModel::monthAndYear(const QString& text) {
-    const QString haystack = TimetableParser::plainDigits(text).toLower();
-    const QStringList names = monthNames();
-    auto letterAt = [&](qsizetype i) {
-        return i >= 0 && i < haystack.size() && haystack[i].isLetter();
-    };
-    qsizetype bestAt = -1;
-    qsizetype bestLength = 0;
-    int bestMonth = 0;
-    // Sheets are often in English whatever the user's language, so English names count too.
-    const QLocale english = QLocale::c();
-    for (int m = 1; m <= 12; ++m) {
-        const QString full = names[m - 1].toLower();
-        const QString inEnglish = english.standaloneMonthName(m, QLocale::LongFormat).toLower();
-        for (const QString& form : {full, full.left(3), inEnglish, inEnglish.left(3)}) {
-            if (form.isEmpty()) continue;
-            const bool shortForm = form.size() == 3 && form != full && form != inEnglish;
-            for (qsizetype at = haystack.indexOf(form); at >= 0;
-                 at = haystack.indexOf(form, at + 1)) {
-                if (letterAt(at - 1) || (shortForm && letterAt(at + form.size()))) continue;
-                if (bestAt < 0 || at < bestAt) {
-                    bestAt = at;
-                    bestLength = form.size();
-                    bestMonth = m;
-                }
-                break;
-            }
-        }
-    }
-    if (bestAt < 0) return std::nullopt;
-    static const QRegularExpression yearPattern(QStringLiteral("20\\d\\d"));
-    const QRegularExpressionMatch year = yearPattern.match(haystack.mid(bestAt + bestLength, 12));
-    MonthAndYear found{bestMonth, std::nullopt};
-    if (year.hasMatch()) found.year = year.captured().toInt();
-    return found;
+    return MonthInText::find(text, monthNames());
 }
 
 ImportFileKind TimetableImportModel::kindOf(const QString& path) {

@@ -1,6 +1,7 @@
 #pragma once
 // The import window's state and logic: the sheet's text, the rows found in it, the chosen
 // columns, month and year, and the day table that "Use This Timetable" would save.
+#include "timetable/MonthInText.h"
 #include "timetable/OcrLines.h"
 #include "timetable/RowProblems.h"
 #include "timetable/TimetableParser.h"
@@ -13,12 +14,6 @@
 #include <utility>
 
 namespace tarvanel {
-
-struct MonthAndYear {
-    int month = 0; // 1-12
-    std::optional<int> year;
-    bool operator==(const MonthAndYear&) const = default;
-};
 
 // What a picked file is read as.
 enum class ImportFileKind { Text, Image, Pdf };

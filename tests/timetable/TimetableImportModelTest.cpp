@@ -70,7 +70,11 @@ TEST(TimetableImportModelTest, MonthAndYearInFreeText) {
         {"Prayer timetable \u2013 Ramadan / March 2025", M{3, 2025}}, {"Mar 2025", M{3, 2025}},
         {"Marks for 2025", std::nullopt}, {"March", M{3, std::nullopt}}, {"xmay 2025", std::nullopt},
         {"SEPTEMBER ... and a long way on 2026", M{9, std::nullopt}},
-        {"Decemberish 2031, then jan", M{12, 2031}}};
+        {"Decemberish 2031, then jan", M{12, 2031}},
+        // A photographed title with a letter misread, lost or doubled; not a short name.
+        {"FERUARY 2026", M{2, 2026}}, {"Jamaat Novenber  2026", M{11, 2026}},
+        {"SEPTEMBBER 2026 ... Jumu'ah 1 March", M{9, 2026}}, {"Match 2026", std::nullopt},
+        {"Feruary timetable", std::nullopt}, {"Febuary 1999, Octber 2026", M{10, 2026}}};
     // clang-format on
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(TimetableImportModel::monthAndYear(text), expected) << text.toStdString();

@@ -83,16 +83,22 @@ QString hourOfColumn(const QString& time, const QStringList& column) {
 
 QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
                        const QList<qsizetype>& table) {
+    // A cell of a time column, read or not: a time, or one with its digits read as letters
+    // ("O5:37", "OS.37", "O55"). A column of small print may read so on most days, and it is a
+    // column all the same.
+    auto cellLike = [&](qsizetype i) {
+        return isTimeLike(items[i].text) || isTimeLike(asDigits(items[i].text));
+    };
     QMap<qsizetype, QList<qsizetype>> times; // per table line, left to right
     QMap<qsizetype, int> rowsWith;           // rows per count of times
     for (qsizetype l : table) {
         for (qsizetype i : lines[l])
-            if (isTimeLike(items[i].text)) times[l] << i;
+            if (cellLike(i)) times[l] << i;
         ++rowsWith[times[l].size()];
     }
-    // The most times that a fair share of the rows read: a misreading loses times far more
-    // often than it adds them, and on a poor photo most rows may have lost one.
-    const int share = std::max<int>(2, int(table.size() / 5));
+    // The most times that a tenth of the rows read: a misreading loses times far more often
+    // than it adds them, and on a poor photo most rows may have lost one or two.
+    const int share = std::max<int>(2, int(table.size() / 10));
     qsizetype columns = 0;
     for (auto it = rowsWith.begin(); it != rowsWith.end(); ++it)
         if (it.value() >= share) columns = it.key();
@@ -113,7 +119,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     auto poorRow = [&](qsizetype l) {
         if (l < 0 || l >= lines.size() || table.contains(l)) return false;
         for (qsizetype i : lines[l])
-            if (isTimeLike(items[i].text)) times[l] << i;
+            if (cellLike(i)) times[l] << i;
         const qsizetype model = nearestClean(l);
         for (qsizetype k = 0; k < columns; ++k) {
             const QList<qsizetype> in = standingIn(items, lines[l], items[times[model][k]].box);
@@ -153,7 +159,7 @@ QList<Slot> emptySlots(const QList<RecognizedItem>& items, const QList<QList<qsi
     };
     QList<Slot> found;
     for (qsizetype l : rows) {
-        if (times[l].size() >= columns || times[l].isEmpty()) continue;
+        if (timesIn(items, lines[l]) >= columns || times[l].isEmpty()) continue;
         const qsizetype model = nearestClean(l);
         for (qsizetype k = 0; k < columns; ++k) {
             const QRectF column = items[times[model][k]].box;

@@ -167,3 +167,16 @@ TEST(OcrColumnsTest, ADayHoursOffAColumnThatKeepsPaceTakesTheHourItsNeighboursGi
     EXPECT_EQ(settled(items, OcrLines::columnDoubts(items)),
               QStringList({"4:54pm 8:54pm 8:54pm", "16:54 20:54 20:54", "5:55pm 8:55pm 8:55pm"}));
 }
+
+// A begins column of small print that reads cleanly on three days in twenty, its digits taken
+// for letters on the others: it is a column all the same, each of those cells one to settle.
+TEST(OcrColumnsTest, AColumnReadAsLettersOnMostDaysIsAColumnStill) {
+    QList<QStringList> rows;
+    for (int r = 0; r < 20; ++r) {
+        const QString fajr = QString::asprintf(r % 8 == 0 ? "5:%02d" : "OS.%02d", 40 + r);
+        rows << QStringList{QString::number(r + 1), fajr, "6:25", "13:15"};
+    }
+    const QStringList out = settled(table(rows), OcrLines::columnDoubts(table(rows)));
+    EXPECT_EQ(out.size(), 17) << out.join(" | ").toStdString();
+    EXPECT_TRUE(out.contains("OS.46  05.46")) << out.join(" | ").toStdString();
+}

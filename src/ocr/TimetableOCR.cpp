@@ -8,7 +8,9 @@
 
 #include <QRegularExpression>
 #include <QSet>
+#include <algorithm>
 #include <climits>
+#include <functional>
 #include <leptonica/allheaders.h>
 #include <unistd.h>
 
@@ -18,7 +20,8 @@ namespace TimetableOCR {
 namespace {
 
 // How much of a table the lines hold: the most times that rows of one width give together,
-// counting only rows that name their day (a reading that lost the day column gives no day).
+// counting only rows that name their day (a reading that lost the day column gives no day)
+// and only the times that read.
 struct TableShape {
     int cells = 0;
     int columns = 0; // the times in each of those rows
@@ -28,8 +31,10 @@ TableShape tableShape(const QStringList& lines) {
     QMap<qsizetype, int> rowsWithCount;
     TableShape shape;
     for (const ParsedRow& row : TimetableParser::parse(lines)) {
-        if (row.day || row.date) ++rowsWithCount[row.times.size()];
-        shape.times += int(row.times.size());
+        const auto read =
+            std::count_if(row.times.begin(), row.times.end(), std::mem_fn(&ParsedTime::read));
+        if (row.day || row.date) ++rowsWithCount[read];
+        shape.times += int(read);
     }
     for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it)
         if (it.value() * int(it.key()) > shape.cells) {
@@ -108,7 +113,8 @@ QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
 // Reads again, with only a time's or a day's characters allowed, the words that stand in the
 // table's time and day columns but read as something else, or stand apart from the days
 // around them; then, the columns learned from the rows that now read cleanly, the cells of
-// those columns that still hold no time, and those where nothing was read at all.
+// those columns that still hold no time, and those where nothing was read at all. A cell that
+// no reading gives a time stands as unread in its column.
 void repair(QList<RecognizedItem>& items, QList<Recognizer::Word> words, Recognizer& recognizer,
             Pix* page) {
     const QByteArray timeCharacters = OcrLines::timeCharacters(items).toLatin1();
@@ -156,9 +162,10 @@ void repair(QList<RecognizedItem>& items, QList<Recognizer::Word> words, Recogni
             // What the column says counts only once the cell's own readings have had their say.
             OcrLines::Doubt alone = doubt;
             alone.above = alone.below = QString();
-            if (!reread.contains(doubt.item) && readAgain(alone)) continue;
             QString& text = items[doubt.item].text;
-            text = OcrLines::settle(doubt, text, text);
+            if (reread.contains(doubt.item) || !readAgain(alone))
+                text = OcrLines::settle(doubt, text, text);
+            if (round == 1 && !OcrLines::isTime(text)) text = QString::fromLatin1(unreadTime);
         }
 }
 
@@ -168,16 +175,18 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
     QList<RecognizedItem> items = relative(words, page);
     const QList<RecognizedItem> first = items;
     repair(items, words, recognizer, page);
-    // Cells read where nothing had been read are kept only as times.
-    items.erase(
-        std::remove_if(items.begin() + first.size(), items.end(),
-                       [](const RecognizedItem& item) { return !OcrLines::isTime(item.text); }),
-        items.end());
+    auto cell = [](const QString& text) {
+        return OcrLines::isTime(text) || text == QLatin1String(unreadTime);
+    };
+    // Cells read where nothing had been read are kept only as times, read or not.
+    items.erase(std::remove_if(items.begin() + first.size(), items.end(),
+                               [&](const RecognizedItem& item) { return !cell(item.text); }),
+                items.end());
     // A cell the second reading or its neighbours changed, or one read where nothing had been,
-    // is shown to the user to check, once it reads as a cell the table can use.
+    // is shown to the user to check, once it reads as a cell the table can use or is unread.
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i].doubtful = (i >= first.size() || items[i].text != first[i].text) &&
-                            (OcrLines::isTime(items[i].text) || OcrLines::isDay(items[i].text));
+                            (cell(items[i].text) || OcrLines::isDay(items[i].text));
     return OcrLines::datesCounted(OcrLines::hoursInOrder(OcrLines::group(items, marks), marks),
                                   marks);
 }

@@ -90,7 +90,7 @@ QList<RowProblem> find(const QList<ParsedRow>& rows, int month, int year, int la
     for (qsizetype r = 0; r < rows.size(); ++r) {
         const ParsedRow& row = rows[r];
         const std::optional<QDate> date = TimetableParser::dateOf(row, month, year);
-        if (row.times.size() < largest + 1)
+        if (row.times.size() < largest + 1 || TimetableParser::unreadIn(row, chosen))
             problems.append({RowProblem::MissingTime, row.line, date});
         else if (!date && row.day)
             problems.append({RowProblem::NotInMonth, row.line, {}, *row.day});

@@ -8,6 +8,7 @@
 #include <QtGlobal>
 #include <algorithm>
 #include <climits>
+#include <functional>
 
 namespace tarvanel {
 namespace {
@@ -26,9 +27,10 @@ struct Patterns {
     // the minutes ("6:48a"; a lone letter further off may be a stray mark), or the Arabic sad
     // (morning) or meem (evening) standing alone, not the first letter of a word such as a
     // prayer's name.
-    QRegularExpression time = compile(R"((?<![\d:.])([01]?\d|2[0-3])[:.]([0-5]\d)(?![\d])\s*)"
-                                      R"(([AaPp]\.?[Mm]\.?|(?<=\d)[AaPp]\.?(?![\p{L}\p{M}])|)"
-                                      R"([\x{0635}\x{0645}](?![\p{L}\p{M}]))?)");
+    QRegularExpression time =
+        compile(R"((?<![\d:.?])(?:([01]?\d|2[0-3])[:.]([0-5]\d)|\?\?:\?\?)(?![\d?])\s*)"
+                R"(([AaPp]\.?[Mm]\.?|(?<=\d)[AaPp]\.?(?![\p{L}\p{M}])|)"
+                R"([\x{0635}\x{0645}](?![\p{L}\p{M}]))?)");
     QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
     QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
@@ -100,13 +102,16 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
     while (it.hasNext()) {
         const QRegularExpressionMatch m = it.next();
         if (firstTime < 0) firstTime = m.capturedStart();
-        ParsedTime t;
-        t.hour = m.captured(1).toInt();
-        t.minute = m.captured(2).toInt();
+        ParsedTime t{-1, -1, std::nullopt};
+        if (m.hasCaptured(1)) {
+            t.hour = m.captured(1).toInt();
+            t.minute = m.captured(2).toInt();
+        }
         if (m.hasCaptured(3)) t.meridiem = meridiem(m.capturedView(3));
         row.times << t;
     }
-    if (row.times.size() < 3) return std::nullopt;
+    if (std::count_if(row.times.begin(), row.times.end(), std::mem_fn(&ParsedTime::read)) < 3)
+        return std::nullopt;
 
     if (!row.date) {
         const QString before = line.left(firstTime);
@@ -142,6 +147,7 @@ qsizetype secondTable(const QString& line, qsizetype perTable = 0) {
 } // namespace
 
 QString ParsedTime::label() const {
+    if (!read()) return QString::fromLatin1(unreadTime);
     QString text = QString::asprintf("%d:%02d", hour, minute);
     if (meridiem) text += u' ' + *meridiem;
     return text;
@@ -277,11 +283,17 @@ std::optional<QDate> dateOf(const ParsedRow& row, int month, int year) {
     return date;
 }
 
+bool unreadIn(const ParsedRow& row, const ColumnMap& columns) {
+    return std::any_of(columns.begin(), columns.end(), [&](int position) {
+        return position >= 0 && position < row.times.size() && !row.times[position].read();
+    });
+}
+
 DayTable days(const QList<ParsedRow>& rows, int month, int year, const ColumnMap& columns) {
     DayTable table;
     for (const ParsedRow& row : rows) {
         const std::optional<QDate> date = dateOf(row, month, year);
-        if (!date) continue;
+        if (!date || unreadIn(row, columns)) continue;
         QMap<QString, QString> entries;
         for (auto it = columns.begin(); it != columns.end(); ++it) {
             const int position = it.value();

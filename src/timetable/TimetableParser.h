@@ -12,14 +12,20 @@
 
 namespace tarvanel {
 
+// What stands for a time the recogniser could not read, in its column: the row's other times
+// keep their places, and the user sees where to type it.
+inline constexpr char unreadTime[] = "??:??";
+
 struct ParsedTime {
-    int hour = 0;
+    int hour = 0; // -1 for an unread time
+
     int minute = 0;
     // "am" / "pm" as printed, letters only, lower case; the Arabic sad and meem as "am" and "pm"
     std::optional<QString> meridiem;
 
-    // As printed: "5:12 am", "13:05".
+    // As printed: "5:12 am", "13:05", "??:??".
     QString label() const;
+    bool read() const { return hour >= 0; }
     // 24-hour "HH:mm" for the named prayer; absent outside 0:00–23:59.
     std::optional<QString> clock(const QString& prayer) const;
     bool operator==(const ParsedTime&) const = default;
@@ -29,7 +35,7 @@ struct ParsedRow {
     std::optional<int> day;    // day of the month at the start of the line
     QList<int> dayNumbers;     // the numbers up to 31 before the first time, `day` the first
     std::optional<QDate> date; // a full date printed on the line
-    QList<ParsedTime> times;   // every time on the line, left to right: the columns
+    QList<ParsedTime> times;   // every time on the line, read or not, left to right: the columns
     QString raw;
     int line = -1; // index of the line among those given to `parse`
 };
@@ -43,7 +49,7 @@ namespace TimetableParser {
 // semicolon and decimal and thousands separators as their Latin counterparts, and bidi marks
 // (which a right-to-left sheet scatters between digits) removed.
 QString plainDigits(const QString& line);
-// One row per line holding at least three times, in line order. Lines are read through
+// One row per line holding at least three times that read, in line order. Lines are read through
 // `plainDigits`; `raw` keeps them as given. Two months printed side by side make two rows of a
 // line: the first table's rows come first, then the second's.
 QList<ParsedRow> parse(const QStringList& lines);
@@ -51,7 +57,10 @@ ColumnMap guessColumns(int columnCount);
 // The day a row stands for: its full date, else its day number in `month` of `year` when that
 // month has such a day.
 std::optional<QDate> dateOf(const ParsedRow& row, int month, int year);
-// Day key → prayer → "HH:mm". `columns` holds positions ≥ 0 only.
+// Whether a position of `columns` holds a time of the row that did not read.
+bool unreadIn(const ParsedRow& row, const ColumnMap& columns);
+// Day key → prayer → "HH:mm"; no day of a row with a time unread in `columns`. `columns` holds
+// positions ≥ 0 only.
 DayTable days(const QList<ParsedRow>& rows, int month, int year, const ColumnMap& columns);
 
 } // namespace TimetableParser

@@ -249,6 +249,22 @@ TEST(TimetableImportModelTest, RowsThatWouldNotBeSavedAreNamedWithTheirReason) {
     model.setColumn("Isha", 4);
     EXPECT_EQ(model.problemSummary(), "3 rows can't be used: 30 April and 1 and 2 May are "
                                       "missing a time in a chosen column.");
+
+    // Times the recogniser could not read keep their places: an unread time in a column that
+    // is not chosen costs nothing, one in a chosen column the day. Three read times make a row.
+    model.setText("May 2026\n1  4:01 ??:?? 1:01 5:01 8:01 9:01\n2  4:02 5:32 ??:?? 5:02 8:02 "
+                  "9:02\n3  ??:?? ??:??  ??:?? 5:03 8:03 9:03\nJumu'ah ??:?? ??:?? 1:30 2:00");
+    EXPECT_EQ(model.status(), "Found 3 rows with 6 times each.");
+    EXPECT_EQ(model.problemSummary(),
+              "2 rows can't be used: 2 and 3 May are missing a time in a chosen column.");
+    const DayTable days = model.days();
+    EXPECT_EQ(days.keys(), QStringList{"2026-05-01"});
+    EXPECT_EQ(days.value("2026-05-01"), (QMap<QString, QString>{{"Fajr", "04:01"},
+                                                                {"Dhuhr", "13:01"},
+                                                                {"Asr", "17:01"},
+                                                                {"Maghrib", "20:01"},
+                                                                {"Isha", "21:01"}}));
+    EXPECT_EQ(model.columnLabel(1), "Column 2  \u00B7  ??:??");
 }
 
 TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeighbours) {

@@ -228,12 +228,18 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
     auto whole = [](const TableShape& shape) {
         return shape.times > 0 && shape.cells == shape.times && shape.cells >= 7 * shape.columns;
     };
-    // The table with more cells, a cell settled from its neighbours or read again counting half:
-    // a page read poorly fills a table with guesses. A threshold or the automatic layout may lose
-    // a column of the table (the layout sets it apart as a picture): a table with fewer cells to
-    // a row has lost one, however sure its cells, unless it holds a quarter more cells in all.
+    // The table with more cells, a cell settled from its neighbours or read again counting half
+    // and one no reading gave counting nothing: a page read poorly fills a table with guesses. A
+    // threshold or the automatic layout may lose a column of the table (the layout sets it apart as
+    // a picture): a table with fewer cells to a row has lost one, however sure its cells, unless it
+    // holds a quarter more cells in all.
     auto better = [](const Reading& one, const Reading& than) {
-        auto sure = [](const Reading& r) { return 2 * r.shape.cells - r.marks.size(); };
+        auto sure = [](const Reading& r) {
+            const auto guessed = std::count_if(r.marks.begin(), r.marks.end(), [&](auto m) {
+                return r.lines.value(m.line).mid(m.start, m.length) != QLatin1String(unreadTime);
+            });
+            return 2 * r.shape.cells - guessed;
+        };
         return sure(one) > sure(than) && (one.shape.columns >= than.shape.columns ||
                                           4 * one.shape.cells >= 5 * than.shape.cells);
     };

@@ -28,18 +28,17 @@ struct TableShape {
     int times = 0;
 };
 TableShape tableShape(const QStringList& lines) {
-    QMap<qsizetype, int> rowsWithCount;
+    QMap<int, int> rowsWithCount;
     TableShape shape;
     for (const ParsedRow& row : TimetableParser::parse(lines)) {
-        const auto read =
-            std::count_if(row.times.begin(), row.times.end(), std::mem_fn(&ParsedTime::read));
+        const int read = row.readTimes();
         if (row.day || row.date) ++rowsWithCount[read];
-        shape.times += int(read);
+        shape.times += read;
     }
     for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it)
-        if (it.value() * int(it.key()) > shape.cells) {
-            shape.cells = it.value() * int(it.key());
-            shape.columns = int(it.key());
+        if (it.value() * it.key() > shape.cells) {
+            shape.cells = it.value() * it.key();
+            shape.columns = it.key();
         }
     return shape;
 }

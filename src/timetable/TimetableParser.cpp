@@ -23,6 +23,7 @@ QRegularExpression compile(const char* pattern) {
 }
 
 struct Patterns {
+    // "h:mm" or "h.mm", or "??:??" for a cell no reading gave (captures 1 and 2 left empty).
     // After the minutes, an am/pm marker: Latin letters, "a" or "p" alone only when glued to
     // the minutes ("6:48a"; a lone letter further off may be a stray mark), or the Arabic sad
     // (morning) or meem (evening) standing alone, not the first letter of a word such as a
@@ -110,8 +111,7 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
         if (m.hasCaptured(3)) t.meridiem = meridiem(m.capturedView(3));
         row.times << t;
     }
-    if (std::count_if(row.times.begin(), row.times.end(), std::mem_fn(&ParsedTime::read)) < 3)
-        return std::nullopt;
+    if (row.readTimes() < 3) return std::nullopt;
 
     if (!row.date) {
         const QString before = line.left(firstTime);

@@ -8,6 +8,8 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <algorithm>
+#include <functional>
 #include <optional>
 
 namespace tarvanel {
@@ -38,6 +40,10 @@ struct ParsedRow {
     QList<ParsedTime> times;   // every time on the line, read or not, left to right: the columns
     QString raw;
     int line = -1; // index of the line among those given to `parse`
+
+    int readTimes() const {
+        return int(std::count_if(times.begin(), times.end(), std::mem_fn(&ParsedTime::read)));
+    }
 };
 
 // Prayer name → column position; -1 for a prayer the sheet does not have.

@@ -21,16 +21,20 @@ namespace {
 
 // How much of a table the lines hold: the most times that rows of one width give together,
 // counting only rows that name their day (a reading that lost the day column gives no day)
-// and only the times that read.
+// and only the times that read; and how many of the times keep pace with their column. A
+// printed time moves a minute or two a day, or not at all; what a poor reading takes for
+// times jumps from row to row.
 struct TableShape {
     int cells = 0;
     int columns = 0; // the times in each of those rows
     int times = 0;
+    int steady = 0; // within five minutes of the same column's time a row above or below
 };
 TableShape tableShape(const QStringList& lines) {
     QMap<int, int> rowsWithCount;
     TableShape shape;
-    for (const ParsedRow& row : TimetableParser::parse(lines)) {
+    const QList<ParsedRow> rows = TimetableParser::parse(lines);
+    for (const ParsedRow& row : rows) {
         const int read = row.readTimes();
         if (row.day || row.date) ++rowsWithCount[read];
         shape.times += read;
@@ -40,6 +44,19 @@ TableShape tableShape(const QStringList& lines) {
             shape.cells = it.value() * it.key();
             shape.columns = it.key();
         }
+    auto dial = [](const ParsedTime& t) { return (t.hour % 12) * 60 + t.minute; }; // 1:05 = 13:05
+    auto near = [&](qsizetype r, qsizetype other, qsizetype c) {
+        if (other < 0 || other >= rows.size() || rows[other].times.size() <= c) return false;
+        const ParsedTime& a = rows[r].times[c];
+        const ParsedTime& b = rows[other].times[c];
+        if (!a.read() || !b.read()) return false;
+        const int d = std::abs(dial(a) - dial(b));
+        return std::min(d, 720 - d) <= 5;
+    };
+    for (qsizetype r = 0; r < rows.size(); ++r)
+        if (rows[r].day || rows[r].date)
+            for (qsizetype c = 0; c < rows[r].times.size(); ++c)
+                shape.steady += near(r, r - 1, c) || near(r, r + 1, c);
     return shape;
 }
 
@@ -227,18 +244,19 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
     auto whole = [](const TableShape& shape) {
         return shape.times > 0 && shape.cells == shape.times && shape.cells >= 7 * shape.columns;
     };
-    // The table with more cells, a cell settled from its neighbours or read again counting half
-    // and one no reading gave counting nothing: a page read poorly fills a table with guesses. A
-    // threshold or the automatic layout may lose a column of the table (the layout sets it apart as
-    // a picture): a table with fewer cells to a row has lost one, however sure its cells, unless it
-    // holds a quarter more cells in all.
-    auto better = [](const Reading& one, const Reading& than) {
-        auto sure = [](const Reading& r) {
-            const auto guessed = std::count_if(r.marks.begin(), r.marks.end(), [&](auto m) {
-                return r.lines.value(m.line).mid(m.start, m.length) != QLatin1String(unreadTime);
-            });
-            return 2 * r.shape.cells - guessed;
-        };
+    // The table with more cells, a cell that keeps pace with its column counting twice, one
+    // settled from its neighbours or read again counting one less, and one no reading gave
+    // counting nothing: a page read poorly fills a table with guesses and with times that jump.
+    // A threshold or the automatic layout may lose a column of the table (the layout sets it
+    // apart as a picture): a table with fewer cells to a row has lost one, however sure its
+    // cells, unless it holds a quarter more cells in all.
+    auto sure = [](const Reading& r) {
+        const auto guessed = std::count_if(r.marks.begin(), r.marks.end(), [&](auto m) {
+            return r.lines.value(m.line).mid(m.start, m.length) != QLatin1String(unreadTime);
+        });
+        return r.shape.cells + r.shape.steady - int(guessed);
+    };
+    auto better = [&](const Reading& one, const Reading& than) {
         return sure(one) > sure(than) && (one.shape.columns >= than.shape.columns ||
                                           4 * one.shape.cells >= 5 * than.shape.cells);
     };

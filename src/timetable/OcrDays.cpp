@@ -124,58 +124,6 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
     return doubts;
 }
 
-// Two months side by side: the second table's days stand between the first table's times and
-// its own, perhaps before a weekday's name, and are counted down the rows as the first's are.
-// The shorter month leaves its last rows without one.
-QList<Doubt> besideDoubts(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
-                          const QList<qsizetype>& rows, const QRegularExpression& name) {
-    static const QRegularExpression wordCharacter(QStringLiteral("\\w")); // no rule or mark
-    QList<qsizetype> days(rows.size(), -1), next(rows.size(), -1); // the word, the time after it
-    QList<qreal> centres, widths;
-    for (qsizetype k = 0; k < rows.size(); ++k) {
-        const QList<qsizetype>& line = lines[rows[k]];
-        bool timeBefore = false;
-        for (qsizetype at = 0; at < line.size(); ++at) {
-            const QString& text = items[line[at]].text;
-            if (isTimeLike(text)) {
-                widths << items[line[at]].box.width();
-                if (days[k] >= 0 && next[k] < 0) next[k] = line[at];
-                timeBefore = true;
-            } else if (timeBefore && days[k] < 0 && !name.match(text).hasMatch() &&
-                       text.contains(wordCharacter)) {
-                days[k] = line[at];
-            }
-        }
-        if (next[k] < 0) days[k] = -1;
-        if (days[k] >= 0) centres << items[days[k]].box.center().x();
-    }
-    if (centres.size() < 3) return {};
-    std::sort(centres.begin(), centres.end());
-    std::sort(widths.begin(), widths.end());
-    const qreal centre = centres[centres.size() / 2], width = widths[widths.size() / 2];
-    // Each run of rows with a day in the column is counted on its own: a row where it went
-    // unread breaks the count, as does the shorter month's end.
-    QList<QList<qsizetype>> runs(1);
-    QList<qreal> starts;
-    qsizetype readable = 0;
-    for (qsizetype k = 0; k < rows.size(); ++k) {
-        if (days[k] < 0 || std::abs(items[days[k]].box.center().x() - centre) >= width) {
-            if (!runs.last().isEmpty()) runs.append(QList<qsizetype>());
-            continue;
-        }
-        runs.last() << days[k];
-        starts << items[next[k]].box.left();
-        readable += isDay(items[days[k]].text);
-    }
-    if (readable * 4 < rows.size() * 3) return {};
-    std::sort(starts.begin(), starts.end());
-    QList<Doubt> doubts;
-    for (const QList<qsizetype>& run : runs)
-        if (run.size() >= 3)
-            doubts << countedDoubts(items, run, {}, starts[starts.size() / 2], false);
-    return doubts;
-}
-
 } // namespace
 
 QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsizetype>>& lines,
@@ -252,7 +200,6 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
     });
     if (secondDays * 4 >= seconds.size() * 3 && !seconds.contains(-1))
         doubts << countedDoubts(items, seconds, wholeRows, timesBegin, false);
-    doubts << besideDoubts(items, lines, rows, name);
     return doubts;
 }
 

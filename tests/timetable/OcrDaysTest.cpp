@@ -106,23 +106,6 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // Two that do are not enough to outweigh a column mostly unread.
     EXPECT_EQ(dayDoubts({"i", "Q", "3", "4", "x", "W", "yy", "z"}),
               QStringList({"i/-1", "Q/-1", "3/-1", "4/-1", "x/-1", "W/-1", "yy/-1", "z/-1"}));
-    // Two months side by side: the second's days, between the first's times and its own, keep
-    // a count of their own (11 read as 1, 14 as "4, 17 as 7), down to the shorter month's end.
-    // A note beside some rows is no such column.
-    QStringList twoMonths;
-    for (int day = 1; day <= 31; ++day) {
-        const QString second = day == 11   ? "1"
-                               : day == 14 ? "\"4"
-                               : day == 17 ? "7"
-                                           : QString::number(day);
-        twoMonths << QString::number(day) + times +
-                         (day < 31 ? " " + second + " Sat 6:10 1:30 4:00 8:00" : "");
-    }
-    EXPECT_EQ(dayDoubts(twoMonths), QStringList({"1/11", "\"4/14", "7/17"}));
-    QStringList noted;
-    for (int day = 1; day <= 12; ++day)
-        noted << QString::number(day) + times + (day % 7 == 3 ? " Jumu'ah 1:30" : "");
-    EXPECT_EQ(dayDoubts(noted), QStringList());
     // Read again one by one, the days that come back count the rest; a day may keep its zero.
     QList<RecognizedItem> items;
     const QStringList read{"01", "oo", "03", "4", "5", "w", "7"};

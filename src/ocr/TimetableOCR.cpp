@@ -4,6 +4,7 @@
 #include "ocr/Recognizer.h"
 #include "ocr/SheetReader.h"
 #include "timetable/OcrLines.h"
+#include "timetable/OcrWords.h"
 #include "timetable/TimetableParser.h"
 
 #include <QRegularExpression>
@@ -50,8 +51,7 @@ TableShape tableShape(const QStringList& lines) {
         const ParsedTime& a = rows[r].times[c];
         const ParsedTime& b = rows[other].times[c];
         if (!a.read() || !b.read()) return false;
-        const int d = std::abs(dial(a) - dial(b));
-        return std::min(d, 720 - d) <= 5;
+        return OcrLines::words::dialDistance(dial(a), dial(b)) <= 5;
     };
     for (qsizetype r = 0; r < rows.size(); ++r)
         if (rows[r].day || rows[r].date)

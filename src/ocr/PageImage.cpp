@@ -267,7 +267,8 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look
     const std::function<bool()> stopped = [&] { return stop && stop(); };
     // Print blurred past a stroke's width runs into its neighbours once made black; the
     // sharpened look steepens its edges from the grey instead.
-    PixPtr page = evenlyLit(greyPix(image), look != Look::Sharpened);
+    const bool sharpened = look == Look::Sharpened || look == Look::SharpenedNear;
+    PixPtr page = evenlyLit(greyPix(image), !sharpened);
     if (stopped()) return {};
     page = levelled(std::move(page), stopped);
     if (stopped()) return {};
@@ -302,8 +303,9 @@ PixPtr prepare(const QImage& image, const std::function<bool()>& stop, Look look
         }
     }
     // Edges steepened again: a shaking hand or a lens too close blurs print past reading.
-    if (look == Look::Sharpened) {
-        PixPtr sharp(pixUnsharpMaskingGray(page.get(), 4, 1.5f));
+    if (sharpened) {
+        const bool near = look == Look::SharpenedNear;
+        PixPtr sharp(pixUnsharpMaskingGray(page.get(), near ? 3 : 4, near ? 2.5f : 1.5f));
         if (sharp) page = std::move(sharp);
     }
     // Longer than a word's strokes; short enough that a rule photographed askew and levelled

@@ -34,10 +34,11 @@ QImage tiffPage(const QString& path, int index);
 // horizontal and vertical rules painted out, and enlarged twice when the print is small.
 // The other looks are for print the recogniser reads poorly at the first: `Look::Resized` gives
 // the page at another size (Tesseract reads some print far better at one size than at another
-// close to it), `Look::Sharpened` with its edges steepened (a blurred photo). Null for a null
-// image, when `stop` (asked between the steps) says so, and for another size of print large
-// enough as it is.
-enum class Look { Usual, Resized, Sharpened };
+// close to it), `Look::Sharpened` with its edges steepened (a blurred photo), `Look::SharpenedNear`
+// steepened harder over a shorter reach (blurred thin strokes, which the wider reach runs
+// together). Null for a null image, when `stop` (asked between the steps) says so, and for
+// another size of print large enough as it is.
+enum class Look { Usual, Resized, Sharpened, SharpenedNear };
 PixPtr prepare(const QImage& image, const std::function<bool()>& stop = {},
                Look look = Look::Usual);
 

@@ -274,16 +274,18 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         Reading layout = readAs(tesseract::PSM_AUTO, threshold);
         if (better(layout, best)) best = std::move(layout);
     }
-    // Still no whole table: the page at another size, then with its edges steepened. A page
-    // that no reading has found whole yet gave the first two little to choose a threshold by:
-    // the steepened page is read with the other one too.
-    for (const PageImage::Look look : {PageImage::Look::Resized, PageImage::Look::Sharpened}) {
+    // Still no whole table: the page at another size, then with its edges steepened, then
+    // steepened harder over a shorter reach. A page that no reading has found whole yet gave the
+    // first two little to choose a threshold by: the steepened page is read with the other one
+    // too.
+    using PageImage::Look;
+    for (const Look look : {Look::Resized, Look::Sharpened, Look::SharpenedNear}) {
         if (whole(best.shape)) break;
         const PageImage::PixPtr other = PageImage::prepare(image, stopped, look);
         if (!other) continue;
         Reading reading = readAs(tesseract::PSM_SINGLE_BLOCK, threshold, other.get());
         if (better(reading, best)) best = std::move(reading);
-        if (look != PageImage::Look::Sharpened || whole(best.shape)) continue;
+        if (look != Look::Sharpened || whole(best.shape)) continue;
         const Threshold second =
             threshold == Threshold::Local ? Threshold::Global : Threshold::Local;
         reading = readAs(tesseract::PSM_SINGLE_BLOCK, second, other.get());

@@ -56,7 +56,8 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
         const bool monthTurned =
             counted >= 28 && read(k) == 2 && read(k - 1) < 0 && (below < 0 || below == read(k));
         if (counted > 0 && !monthTurned &&
-            (lost == 10 || lost == 20 || (counted >= 10 && counted / 10 == read(k))) &&
+            ((read(k) < 10 && (lost == 10 || lost == 20)) ||
+             (counted >= 10 && counted / 10 == read(k))) &&
             isDay(QString::number(counted))) {
             digitLost[k] = counted;
             run = k;

@@ -91,6 +91,8 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"11", "12", "3", "l4", "5"}), QStringList({"3/13", "l4/14", "5/15"}));
     EXPECT_EQ(dayDoubts({"9", "10", "ll", "2", "13"}), QStringList({"ll/11", "2/12"}));
     EXPECT_EQ(dayDoubts({"28", "29", "30", "1", "2", "3"}), QStringList());
+    // A tens digit misread is no digit lost: after 11 read as 21, the 12th is the 12th.
+    EXPECT_EQ(dayDoubts({"09", "10", "21", "12", "13", "14"}), QStringList({"21/11"}));
     // Last digits lost: 30 and 31 read as 3 after 29, the last rows of a month's table.
     EXPECT_EQ(dayDoubts({"27", "28", "29", "3", "3", "APRIL 2026", "1", "2", "3"}),
               QStringList({"3/30", "3/31"}));

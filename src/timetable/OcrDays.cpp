@@ -82,6 +82,19 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
                 doubts.append({i, Doubt::Day, -1});
         return doubts;
     }
+    // A run read wrong between two that count on (22, then 1, 2, 3, 6, 2, then 28): days that
+    // keep the count with the day above them, and days as many rows further down that keep it
+    // with the day below, give every row between them its day.
+    QHash<qsizetype, int> bridged;
+    for (qsizetype a = 1; a < firsts.size(); ++a) {
+        if (day(a) <= 0 || day(a - 1) != day(a) - 1) continue;
+        for (qsizetype b = a + 2; b < firsts.size() && b - a <= 7; ++b)
+            if (day(b) - day(a) == b - a && (b + 1 == firsts.size() || day(b + 1) == day(b) + 1)) {
+                for (qsizetype k = a + 1; k < b; ++k)
+                    bridged[k] = day(a) + int(k - a);
+                break;
+            }
+    }
     for (qsizetype k = 0; k < firsts.size(); ++k) {
         // A row that lost its day begins with a time, where the times stand.
         if (items[firsts[k]].box.left() >= timesBegin) continue;
@@ -89,6 +102,10 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
         const bool between = before > 0 && after == before + 2;
         if (digitLost.contains(k)) {
             doubts.append({firsts[k], Doubt::Day, day(k)});
+            continue;
+        }
+        if (bridged.contains(k) && day(k) != bridged[k]) {
+            doubts.append({firsts[k], Doubt::Day, bridged[k]});
             continue;
         }
         if (day(k) > 0) {

@@ -93,6 +93,9 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     EXPECT_EQ(dayDoubts({"28", "29", "30", "1", "2", "3"}), QStringList());
     // A tens digit misread is no digit lost: after 11 read as 21, the 12th is the 12th.
     EXPECT_EQ(dayDoubts({"09", "10", "21", "12", "13", "14"}), QStringList({"21/11"}));
+    // A run read as a count of its own between rows that count on: the rows around it give it.
+    EXPECT_EQ(dayDoubts({"21", "22", "1", "2", "3", "6", "2", "28", "29"}),
+              QStringList({"1/23", "2/24", "3/25", "6/26", "2/27"}));
     // Last digits lost: 30 and 31 read as 3 after 29, the last rows of a month's table.
     EXPECT_EQ(dayDoubts({"27", "28", "29", "3", "3", "APRIL 2026", "1", "2", "3"}),
               QStringList({"3/30", "3/31"}));

@@ -26,7 +26,10 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
                    : -1;
     };
     QHash<qsizetype, int> digitLost; // days read with a digit lost, and the day
-    auto day = [&](qsizetype k) { return digitLost.value(k, read(k)); };
+    // Days the count below has set right: the rows after them count on from what they should be
+    // (28 read as 26 and set right, the unreadable row after it is the 29th, not the 27th).
+    QHash<qsizetype, int> setRight;
+    auto day = [&](qsizetype k) { return setRight.value(k, digitLost.value(k, read(k))); };
     // The readable day nearest row k (up to `reach` rows off) above (step -1) or below (+1),
     // as the count gives it for row k; -1 for none.
     auto nearest = [&](qsizetype k, int step, qsizetype reach) {
@@ -95,6 +98,10 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
                 break;
             }
     }
+    auto doubt = [&](qsizetype k, int expected) {
+        doubts.append({firsts[k], Doubt::Day, expected});
+        if (expected > 0) setRight[k] = expected;
+    };
     for (qsizetype k = 0; k < firsts.size(); ++k) {
         // A row that lost its day begins with a time, where the times stand.
         if (items[firsts[k]].box.left() >= timesBegin) continue;
@@ -105,7 +112,7 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
             continue;
         }
         if (bridged.contains(k) && day(k) != bridged[k]) {
-            doubts.append({firsts[k], Doubt::Day, bridged[k]});
+            doubt(k, bridged[k]);
             continue;
         }
         if (day(k) > 0) {
@@ -117,9 +124,9 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
             const bool first =
                 nearest(k, -1, firsts.size()) < 0 && after > 0 && day(k + 2) == after + 1;
             if ((between || last) && day(k) != before + 1)
-                doubts.append({firsts[k], Doubt::Day, before + 1});
+                doubt(k, before + 1);
             else if (first && day(k) != after - 1)
-                doubts.append({firsts[k], Doubt::Day, after - 1});
+                doubt(k, after - 1);
             continue;
         }
         // Unreadable: counted from the nearest readable day above, else below (three rows off at
@@ -137,7 +144,7 @@ QList<Doubt> countedDoubts(const QList<RecognizedItem>& items, const QList<qsize
                                                                  : -1;
         if (counted < 0 && further > 0 && further == nearest(k, 1, firsts.size()))
             counted = further;
-        doubts.append({firsts[k], Doubt::Day, counted});
+        doubt(k, counted);
     }
     return doubts;
 }

@@ -96,6 +96,9 @@ TEST(OcrDaysTest, AFewDaysThatKeepTheCountNumberTheRowsBetweenThem) {
     // A run read as a count of its own between rows that count on: the rows around it give it.
     EXPECT_EQ(dayDoubts({"21", "22", "1", "2", "3", "6", "2", "28", "29"}),
               QStringList({"1/23", "2/24", "3/25", "6/26", "2/27"}));
+    // The rows below a day set right count on from it: 28 read as 26, then the last three lost.
+    EXPECT_EQ(dayDoubts({"24", "25", "2", "2", "26", "2»", "3x0", "uv"}),
+              QStringList({"2/26", "2/27", "26/28", "2»/29", "3x0/30", "uv/31"}));
     // Last digits lost: 30 and 31 read as 3 after 29, the last rows of a month's table.
     EXPECT_EQ(dayDoubts({"27", "28", "29", "3", "3", "APRIL 2026", "1", "2", "3"}),
               QStringList({"3/30", "3/31"}));

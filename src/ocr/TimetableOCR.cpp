@@ -29,7 +29,8 @@ struct TableShape {
     int cells = 0;
     int columns = 0; // the times in each of those rows
     int times = 0;
-    int steady = 0; // within five minutes of the same column's time a row above or below
+    int steady = 0;     // within five minutes of the same column's time a row above or below
+    QSet<QString> read; // each time that read, with its row's day or date and its column
 };
 TableShape tableShape(const QStringList& lines) {
     QMap<int, int> rowsWithCount;
@@ -39,6 +40,11 @@ TableShape tableShape(const QStringList& lines) {
         const int read = row.readTimes();
         if (row.day || row.date) ++rowsWithCount[read];
         shape.times += read;
+        if (!row.day && !row.date) continue;
+        const QString day = row.date ? row.date->toString(Qt::ISODate) : QString::number(*row.day);
+        for (qsizetype c = 0; c < row.times.size(); ++c)
+            if (row.times[c].read())
+                shape.read.insert(day + u' ' + QString::number(c) + u' ' + row.times[c].label());
     }
     for (auto it = rowsWithCount.begin(); it != rowsWithCount.end(); ++it)
         if (it.value() * it.key() > shape.cells) {
@@ -231,12 +237,15 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         QStringList lines;
         QList<TextMark> marks;
         TableShape shape;
+        int agreed = 0; // its times that another reading read the same
     };
+    QList<Reading> taken;
     auto readAs = [&](tesseract::PageSegMode mode, Recognizer::Threshold threshold,
                       Pix* at = nullptr) {
         Reading reading;
         reading.lines = read(recognizer, at ? at : page.get(), mode, threshold, reading.marks);
         reading.shape = tableShape(reading.lines);
+        taken.append(reading);
         return reading;
     };
     // A week's rows at least: a reading that found a row or two and nothing else has lost the
@@ -254,7 +263,7 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
         const auto guessed = std::count_if(r.marks.begin(), r.marks.end(), [&](auto m) {
             return r.lines.value(m.line).mid(m.start, m.length) != QLatin1String(unreadTime);
         });
-        return r.shape.cells + r.shape.steady - int(guessed);
+        return r.shape.cells + r.shape.steady + r.agreed - int(guessed);
     };
     auto better = [&](const Reading& one, const Reading& than) {
         return sure(one) > sure(than) && (one.shape.columns >= than.shape.columns ||
@@ -290,6 +299,19 @@ QStringList lines(const QImage& image, Recognizer& recognizer, QList<TextMark>& 
             threshold == Threshold::Local ? Threshold::Global : Threshold::Local;
         reading = readAs(tesseract::PSM_SINGLE_BLOCK, second, other.get());
         if (better(reading, best)) best = std::move(reading);
+    }
+    // A page read three ways or more is judged again, each time another reading bears out
+    // counting once more: a reading that fills the table with steady but wrong times (a column
+    // shifted, a digit misread the same way all down) stands alone in them.
+    if (taken.size() >= 3) {
+        for (Reading& r : taken)
+            for (const QString& time : r.shape.read)
+                r.agreed += std::any_of(taken.begin(), taken.end(), [&](const Reading& other) {
+                    return &other != &r && other.shape.read.contains(time);
+                });
+        best = taken.first();
+        for (const Reading& r : taken)
+            if (better(r, best)) best = r;
     }
     marks = best.marks;
     return best.lines;

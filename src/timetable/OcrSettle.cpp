@@ -60,12 +60,14 @@ QStringList runOfFours(const QString& reading) {
 // "4:26" from "4:26.62" or "442~": a time whose cell also holds a mark after it (an Arabic
 // am/pm letter, a footnote's star) read as a few more characters. Empty unless the reading
 // begins with a time, its colon perhaps lost, that no digit follows; a longer tail is more
-// cells run together, not a mark.
+// cells run together, not a mark. The one digit that may follow is an "a" glued to the minutes
+// and read as the 0 or 8 it looks like ("5.150" for 5.15a), after a time that kept its colon.
 QString leadingTime(const QString& reading) {
-    static const QRegularExpression re(
-        QStringLiteral("^([01]?\\d|2[0-3])([:.]?)([0-5]\\d)(?!\\d).{1,3}$"));
+    static const QRegularExpression re(QStringLiteral(
+        "^([01]?\\d|2[0-3])(?:([:.]?)([0-5]\\d)(?!\\d).{1,3}|([:.])([0-5]\\d)[08])$"));
     const QRegularExpressionMatch m = re.match(reading);
     if (!m.hasMatch()) return {};
+    if (m.hasCaptured(5)) return m.captured(1) + m.captured(4) + m.captured(5);
     return m.captured(1) + (m.captured(2).isEmpty() ? QStringLiteral(":") : m.captured(2)) +
            m.captured(3);
 }

@@ -308,6 +308,10 @@ TEST(TimetableImportModelTest, MisreadCellsOfATableAreFoundAndSettledByTheirNeig
     EXPECT_EQ(OcrLines::settle(cell, "4:26.62", "4:26.62"), "4:26");
     EXPECT_EQ(OcrLines::settle(cell, "442~", "442~"), "4:42");
     EXPECT_EQ(OcrLines::settle(cell, "1:302", "1:302"), "1:302");
+    // An "a" glued to the minutes and read as a 0 or an 8: the time without it.
+    EXPECT_EQ(OcrLines::settle(cell, "5.150", "5.150"), "5.15");
+    EXPECT_EQ(OcrLines::settle(cell, "6:208", "6:208"), "6:20");
+    EXPECT_EQ(OcrLines::settle(cell, "5150", "5150"), "5150");
     EXPECT_EQ(OcrLines::settle(cell, "1544160001718)", "154 16:00"), "1544160001718)");
     // Unreadable twice: the agreed time when the readings end in its last digit, else kept.
     EXPECT_EQ(OcrLines::settle(cell, "#5", "5"), "1:05");

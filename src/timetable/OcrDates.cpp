@@ -12,18 +12,27 @@ QStringList datesCounted(QStringList lines, QList<TextMark>& marks) {
     const QString format = QStringLiteral("dd/MM/yyyy");
     struct Row {
         qsizetype line;
-        qsizetype firstTime; // words before it hold the date
+        qsizetype dateWords; // the words before the first time, or the first word alone
         QDate date;
     };
     QList<Row> rows;
+    // The date alone before the times, or first with other columns after it (the Hijri day,
+    // the weekday): then the date is the first word and only that.
+    qsizetype alone = 0, first = 0;
     for (qsizetype l = 0; l < lines.size(); ++l) {
         const QStringList words = lines[l].split(gap);
         const auto times = std::count_if(words.begin(), words.end(), isTime);
-        const auto first = std::find_if(words.begin(), words.end(), isTime);
         if (times < 3) continue;
-        const qsizetype at = first - words.begin();
-        rows.append({l, at, at == 1 ? QDate::fromString(words[0], format) : QDate()});
+        const qsizetype at = std::find_if(words.begin(), words.end(), isTime) - words.begin();
+        const QDate date = QDate::fromString(words[0], format);
+        rows.append({l, at, at > 0 ? date : QDate()});
+        (at == 1 ? alone : first) += date.isValid();
     }
+    for (Row& row : rows)
+        if (first > alone)
+            row.dateWords = std::min<qsizetype>(row.dateWords, 1);
+        else if (row.dateWords != 1)
+            row.date = QDate();
     const auto dated =
         std::count_if(rows.begin(), rows.end(), [](const Row& r) { return r.date.isValid(); });
     if (dated < 2 || dated * 4 < rows.size()) return lines;
@@ -31,8 +40,8 @@ QStringList datesCounted(QStringList lines, QList<TextMark>& marks) {
     auto write = [&](Row& row, QDate date) {
         row.date = date;
         QStringList words = lines[row.line].split(gap);
-        const qsizetype oldDate = words.mid(0, row.firstTime).join(gap).size();
-        words.erase(words.begin(), words.begin() + row.firstTime);
+        const qsizetype oldDate = words.mid(0, row.dateWords).join(gap).size();
+        words.erase(words.begin(), words.begin() + row.dateWords);
         const QString written = date.toString(format);
         words.prepend(written);
         lines[row.line] = words.join(gap);

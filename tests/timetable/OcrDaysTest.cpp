@@ -165,4 +165,14 @@ TEST(OcrDaysTest, FullDatesCountUpADayARowAndRunForward) {
     EXPECT_EQ(recounted[4], "07/12/2026" + times);
     EXPECT_EQ(recounted.mid(5), misread.mid(5));
     EXPECT_EQ(marks, QList<TextMark>({{3, 0, 10}, {4, 0, 10}}));
+    // The date first with the Hijri day and the weekday after it: the date alone is counted,
+    // and a date misread past reading ("177022026") too.
+    const QStringList hijri =
+        OcrLines::datesCounted({"01/02/2026   13   Sun" + times, "02/02/2026   14   Mon" + times,
+                                "04/02/2026   15   Tue" + times, "04/02/2026   16   Wed" + times,
+                                "177022026   17   Thu" + times, "06/02/2026   18   Fri" + times},
+                               marks);
+    EXPECT_EQ(hijri[2], "03/02/2026   15   Tue" + times);
+    EXPECT_EQ(hijri[4], "05/02/2026   17   Thu" + times);
+    EXPECT_EQ(hijri[5], "06/02/2026   18   Fri" + times);
 }

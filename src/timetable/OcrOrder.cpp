@@ -138,13 +138,6 @@ QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks) {
         }
         const std::optional<QList<int>> minutes = inOrder(row.minutes, offColumn, dial);
         if (!minutes) continue;
-        // A time that keeps pace with its column in the rows around is read right, whatever the
-        // row's order says: begins and jamaat in two groups on a twelve-hour sheet span a whole
-        // day when Isha's jamaat reaches the clock's reading of Fajr (6:45 and 6:45).
-        bool steady = false;
-        for (qsizetype i = 0; i < row.minutes.size(); ++i)
-            steady = steady || ((*minutes)[i] != row.minutes[i] && offColumn[i] <= 5);
-        if (steady) continue;
         // Back on the sheet's clock, from a time left as it was: unrolled, the row's times lie
         // a whole number of half days from where the sheet prints them.
         const QList<int> at = unrolled(*minutes, dial);

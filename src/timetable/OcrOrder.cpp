@@ -118,11 +118,21 @@ QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks) {
         for (Row& row : rows)
             row.minutes = row.dayMinutes;
     // A width that several rows have and none of them in the day's order is a sheet's own
-    // order (an iftar column after isha, say), not a misreading.
+    // order (an iftar column after isha, say), not a misreading. A day's times pass noon on a
+    // twelve-hour clock once and turn no hour back on a twenty-four-hour one: begins and jamaat
+    // in two groups turn it once more, though Isha's jamaat may stop short of Fajr's begins on
+    // the dial (6:35 after 6:47) and so span less than a day.
+    auto turns = [&](const QList<int>& minutes) {
+        int n = 0;
+        for (qsizetype i = 1; i < minutes.size(); ++i)
+            n += minutes[i] < minutes[i - 1];
+        return n;
+    };
     QMap<qsizetype, int> rowsOfWidth, inDaysOrder;
     for (const Row& row : rows) {
         ++rowsOfWidth[row.at.size()];
-        if (span(row.minutes, dial) < day) ++inDaysOrder[row.at.size()];
+        if (span(row.minutes, dial) < day && turns(row.minutes) <= (twentyFour ? 0 : 1))
+            ++inDaysOrder[row.at.size()];
     }
     for (qsizetype r = 0; r < rows.size(); ++r) {
         Row& row = rows[r];

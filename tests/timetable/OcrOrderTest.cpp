@@ -40,4 +40,13 @@ TEST(OcrOrderTest, TheTimesThatBreakARowsOrderOfTheDayTakeTheHourThatRestoresIt)
               QStringList({"1   05:10   13:15   16:45   18:52   19:15",
                            "2   05:09   13:15   16:46   18:54   19:15"}));
     EXPECT_EQ(none, QList<TextMark>({{0, 36, 5}}));
+
+    // Begins and jamaat in two groups on a twelve-hour sheet, Isha's jamaat reaching the clock's
+    // reading of Fajr: from then on the rows span a whole day, and they are the sheet's order.
+    const QStringList groups{
+        "9   6:45   8:09   12:11   2:20   4:08   6:13   7:10   12:30   2:30   6:35",
+        "10   6:45   8:08   12:11   2:22   4:09   6:14   7:05   12:30   2:40   6:45",
+        "11   6:45   8:07   12:11   2:23   4:11   6:15   7:05   12:30   2:40   6:45",
+        "12   6:44   8:06   12:12   2:24   4:12   6:17   7:05   12:30   2:40   6:45"};
+    EXPECT_EQ(OcrLines::hoursInOrder(groups, none), groups);
 }

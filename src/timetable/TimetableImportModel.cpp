@@ -201,9 +201,11 @@ bool monthEnded(std::span<const int> before, int day, int monthEnd) {
     return false;
 }
 
-// A Ramadan sheet numbers its fasts before the dates, and both count up a row at a time. The
-// date is the number that runs from the month's last day back to the 1st, unless the first
-// number does so itself or runs through the whole month (then a later one is a Hijri day).
+// A Ramadan sheet numbers its fasts before the dates, and a sheet may print the Hijri day
+// before the date; each counts up a row at a time. The date is the first number that runs
+// through the whole month, from the 1st to its last day; else the one that runs from the
+// month's last day back to the 1st, unless the first number does so itself (then a later one
+// is a Hijri day).
 QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
     const int monthEnd = QDate(year, month, 1).daysInMonth();
     auto numbers = [&](qsizetype column) {
@@ -217,17 +219,23 @@ QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
             if (monthEnded({down.constData(), size_t(i)}, down[i], monthEnd)) return true;
         return false;
     };
-    const QList<int> first = numbers(0);
-    if (first.isEmpty() || turns(first) || (first.first() == 1 && first.last() == monthEnd))
-        return rows;
-    for (qsizetype column = 1; column < 3; ++column) {
-        if (!turns(numbers(column))) continue;
+    auto whole = [&](const QList<int>& down) {
+        return !down.isEmpty() && down.first() == 1 && down.last() == monthEnd;
+    };
+    auto dayFrom = [&](qsizetype column) {
         for (ParsedRow& row : rows)
             if (!row.dayNumbers.isEmpty())
                 row.day = row.dayNumbers.size() > column ? std::optional(row.dayNumbers[column])
                                                          : std::nullopt;
-        break;
-    }
+        return rows;
+    };
+    constexpr qsizetype columns = 3;
+    for (qsizetype column = 0; column < columns; ++column)
+        if (whole(numbers(column))) return column == 0 ? rows : dayFrom(column);
+    const QList<int> first = numbers(0);
+    if (first.isEmpty() || turns(first)) return rows;
+    for (qsizetype column = 1; column < columns; ++column)
+        if (turns(numbers(column))) return dayFrom(column);
     return rows;
 }
 

@@ -35,7 +35,16 @@ struct Patterns {
     QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
     QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
+    // After a weekday or month name the recogniser garbled (Arabic script read as Latin
+    // letters), the day stands right before the first time.
+    QRegularExpression lastDay = compile(R"(^\D*\b([0-2]?\d|3[01])\s*$)");
     QRegularExpression dayNumber = compile(R"(\b([0-2]?\d|3[01])\b)");
+    // A day printed with its month's name ("01-Oct", "Sep 1"): the date, where a Hijri day or
+    // a fast's number stands before it.
+    QRegularExpression namedDay = compile(
+        R"((?i)\b([0-2]?\d|3[01])[\s./-]*(?:jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec))"
+        R"([a-z]*\b|\b(?:jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)[a-z]*\.?[\s/-]*)"
+        R"(([0-2]?\d|3[01])\b)");
     // Between two times, the start of a second table's row: its day, perhaps with a weekday's
     // or a month's name.
     QRegularExpression rowStart =
@@ -115,12 +124,19 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
 
     if (!row.date) {
         const QString before = line.left(firstTime);
-        const QRegularExpressionMatch d = p.leadingDay.match(before);
+        QRegularExpressionMatch d = p.leadingDay.match(before);
+        if (!d.hasMatch()) d = p.lastDay.match(before);
         if (d.hasMatch()) {
             row.day = d.captured(1).toInt();
             for (auto more = p.dayNumber.globalMatch(before, d.capturedEnd()); more.hasNext();)
                 row.dayNumbers << more.next().captured(1).toInt();
             row.dayNumbers.prepend(*row.day);
+        }
+        if (const QRegularExpressionMatch named = p.namedDay.match(before); named.hasMatch()) {
+            const int day = named.captured(named.hasCaptured(1) ? 1 : 2).toInt();
+            row.dayNumbers.removeOne(day);
+            row.dayNumbers.prepend(day);
+            row.day = day;
         }
     }
     return row;

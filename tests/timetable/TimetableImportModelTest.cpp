@@ -456,6 +456,17 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
         EXPECT_EQ(read.value(fast ? "2026-03-01" : "2026-06-11")["Fajr"], "05:10") << title;
         EXPECT_TRUE(model.problems().isEmpty()) << title;
     }
+    // The Hijri day before the date, its month turning on the 15th: the date is the number that
+    // runs through the whole month.
+    text = "October 2026\nHijri  Date  Day\n";
+    for (int i = 0; i < 31; ++i)
+        text += QString::asprintf("%d Rabi II  %d  Thu  5:%02d  1:10  4:%02d  7:%02d  8:40\n",
+                                  (i + 16) % 30 + 1, i + 1, i, i, i);
+    model.setText(text);
+    const DayTable hijriFirst = model.days();
+    EXPECT_EQ(hijriFirst.size(), 31);
+    EXPECT_EQ(hijriFirst.value("2026-10-15")["Fajr"], "05:14");
+    EXPECT_EQ(hijriFirst.lastKey(), "2026-10-31");
     // The 28th misread as 26 and the 1st unread, just where the dates start again: the count
     // of the days before still ends the month, and the fasts stay fasts.
     text = "February 2026\nFast  Date  Day\n";

@@ -30,12 +30,17 @@ TEST(TimetableParserTest, DayNumberWeekdayAndTwelveHourTimesMakeADay) {
     EXPECT_EQ(table.keys(), QStringList{"2025-03-01"});
     EXPECT_EQ(table.first().values(), QStringList({"16:40", "13:15", "05:12", "20:50", "19:22"}));
 
-    // The day number stands as a word before the first time, up to 31.
+    // The day number stands as a word near the start of the line or right before the first
+    // time, up to 31; a day printed with its month's name is the day, whatever number (a Hijri
+    // day) stands before it.
     // clang-format off
     const QList<std::pair<const char*, std::optional<int>>> days = {
         {"Sat 1 5:12 1:15 4:40", 1}, {"Wed, 12 5:12 6:45 1:15", 12}, {"  31 | 5:12 6:45 1:15", 31},
         {"1st Mar 5:12 6:45 1:15", {}}, {"Mon1 5:12 6:45 1:15", {}}, {"5:12 6:45 1:15 12", {}},
-        {"Wednesday, the 1 5:12 6:45 1:15", {}}, {"32 5:12 6:45 1:15", {}}};
+        {"Wednesday, the 1 5:12 6:45 1:15", 1}, {"32 5:12 6:45 1:15", {}},
+        {"el Mis} pl ph 2 5.09 6.37 12.07", 2}, {"Timetable 2026 5:12 6:45 1:15", {}},
+        {"Thu 17 Rabi II 01- Oct 4:25am 4:30am 4:40am", 1}, {"3Jum 16-Oct 5:12 6:45 1:15", 16},
+        {"19 Rabi' al-Awwal Sep 1 Tuesday 04:09 04:25 05:34", 1}, {"Mar7 Fri 5:39 5:39 6:00", 7}};
     // clang-format on
     for (const auto& [line, day] : days)
         EXPECT_EQ(only(line).day, day) << line;

@@ -201,6 +201,29 @@ bool monthEnded(std::span<const int> before, int day, int monthEnd) {
     return false;
 }
 
+// A right-to-left table prints the day at the right end of its rows, after the times. Taken
+// there only when most rows have none before the times and the numbers after them run through
+// the whole month: a Hijri day at the end of a row whose day went unread is no day.
+QList<ParsedRow> daysAtLineEnds(QList<ParsedRow> rows, int monthEnd) {
+    const auto dayless = std::count_if(rows.begin(), rows.end(), [](const ParsedRow& row) {
+        return !row.day && !row.date && !row.numbersAfter.isEmpty();
+    });
+    if (2 * dayless <= rows.size()) return rows;
+    for (qsizetype column = 0; column < 2; ++column) {
+        QList<int> down;
+        for (const ParsedRow& row : rows)
+            if (row.numbersAfter.size() > column) down << row.numbersAfter[column];
+        if (down.isEmpty() || down.first() != 1 || down.last() != monthEnd) continue;
+        for (ParsedRow& row : rows)
+            if (!row.day && !row.date && row.numbersAfter.size() > column) {
+                row.dayNumbers = row.numbersAfter;
+                row.day = row.dayNumbers[column];
+            }
+        break;
+    }
+    return rows;
+}
+
 // A Ramadan sheet numbers its fasts before the dates, and a sheet may print the Hijri day
 // before the date; each counts up a row at a time. The date is the first number that runs
 // through the whole month, from the 1st to its last day; else the one that runs from the
@@ -208,6 +231,7 @@ bool monthEnded(std::span<const int> before, int day, int monthEnd) {
 // is a Hijri day).
 QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
     const int monthEnd = QDate(year, month, 1).daysInMonth();
+    rows = daysAtLineEnds(std::move(rows), monthEnd);
     auto numbers = [&](qsizetype column) {
         QList<int> down;
         for (const ParsedRow& row : rows)

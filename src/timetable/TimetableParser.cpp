@@ -107,11 +107,12 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
     if (dateMatch.hasMatch())
         line = line.left(dateMatch.capturedStart()) + u' ' + line.mid(dateMatch.capturedEnd());
 
-    qsizetype firstTime = -1;
+    qsizetype firstTime = -1, lastTime = 0;
     auto it = p.time.globalMatch(line);
     while (it.hasNext()) {
         const QRegularExpressionMatch m = it.next();
         if (firstTime < 0) firstTime = m.capturedStart();
+        lastTime = m.capturedEnd();
         ParsedTime t{-1, -1, std::nullopt};
         if (m.hasCaptured(1)) {
             t.hour = m.captured(1).toInt();
@@ -121,6 +122,8 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
         row.times << t;
     }
     if (row.readTimes() < 3) return std::nullopt;
+    for (auto more = p.dayNumber.globalMatch(line, lastTime); more.hasNext();)
+        row.numbersAfter.prepend(more.next().captured(1).toInt());
 
     if (!row.date) {
         const QString before = line.left(firstTime);

@@ -36,6 +36,7 @@ struct ParsedTime {
 struct ParsedRow {
     std::optional<int> day;    // day of the month at the start of the line
     QList<int> dayNumbers;     // the numbers up to 31 before the first time, `day` the first
+    QList<int> numbersAfter;   // those after the last time, right to left (a right-to-left table)
     std::optional<QDate> date; // a full date printed on the line
     QList<ParsedTime> times;   // every time on the line, read or not, left to right: the columns
     QString raw;

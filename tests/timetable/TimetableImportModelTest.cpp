@@ -467,6 +467,21 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     EXPECT_EQ(hijriFirst.size(), 31);
     EXPECT_EQ(hijriFirst.value("2026-10-15")["Fajr"], "05:14");
     EXPECT_EQ(hijriFirst.lastKey(), "2026-10-31");
+    // A right-to-left table: Isha first, then the Hijri day and the date at the right end. A
+    // Hijri day at the end of rows whose dates went unread is no date.
+    for (const bool rightToLeft : {true, false}) {
+        text = "June 2025\n";
+        for (int i = 0; i < 30; ++i)
+            text += QString::asprintf("%s 8.%02d 7.07 3.42 12.25 4.07 %d %s\n",
+                                      rightToLeft ? "" : "|", i, (i + 4) % 30 + 1,
+                                      rightToLeft ? qPrintable(QString::number(i + 1)) : "");
+        model.setText(text);
+        for (int p = 0; p < 5; ++p)
+            model.setColumn(TimetableImportModel::prayers()[p], 4 - p);
+        const DayTable read = model.days();
+        EXPECT_EQ(read.size(), rightToLeft ? 30 : 0);
+        EXPECT_EQ(read.value("2025-06-12")["Isha"], rightToLeft ? "20:11" : "");
+    }
     // The 28th misread as 26 and the 1st unread, just where the dates start again: the count
     // of the days before still ends the month, and the fasts stay fasts.
     text = "February 2026\nFast  Date  Day\n";

@@ -33,7 +33,9 @@ struct Patterns {
                 R"(([AaPp]\.?[Mm]\.?|(?<=\d)[AaPp]\.?(?![\p{L}\p{M}])|)"
                 R"([\x{0635}\x{0645}](?![\p{L}\p{M}]))?)");
     QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
-    QRegularExpression slashDate = compile(R"(\b(\d{1,2})[/.-](\d{1,2})[/.-](20\d\d|\d\d)\b)");
+    QRegularExpression slashDate = compile(R"(\b(\d{1,2})([/.-])(\d{1,2})[/.-](20\d\d|\d\d)\b)");
+    // Day and month, or month and day, with a slash; also the first two parts of a whole date.
+    QRegularExpression dayAndMonth = compile(R"((?<![\d/])(\d{1,2})/(\d{1,2})(?!\d))");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
     // After a weekday or month name the recogniser garbled (Arabic script read as Latin
     // letters), the day stands right before the first time.
@@ -82,7 +84,22 @@ QString meridiem(QStringView marker) {
     return letters;
 }
 
-std::optional<ParsedRow> parseLine(const QString& raw) {
+// Whether the sheet prints its dates month first (02/25/2026, an American sheet). A sheet
+// keeps one order: a first part above 12 says day first, a second part above 12 month first.
+bool monthFirst(const QStringList& lines) {
+    int dayFirst = 0, monthFirst = 0;
+    for (const QString& line : lines)
+        for (auto it = patterns().dayAndMonth.globalMatch(TimetableParser::plainDigits(line));
+             it.hasNext();) {
+            const QRegularExpressionMatch m = it.next();
+            const int first = m.captured(1).toInt(), second = m.captured(2).toInt();
+            dayFirst += first > 12 && second <= 12;
+            monthFirst += second > 12 && first <= 12;
+        }
+    return monthFirst > dayFirst;
+}
+
+std::optional<ParsedRow> parseLine(const QString& raw, bool monthFirst) {
     const Patterns& p = patterns();
     ParsedRow row;
     row.raw = raw;
@@ -95,11 +112,12 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
     } else {
         dateMatch = p.slashDate.match(line);
         if (dateMatch.hasMatch()) {
-            const int month = dateMatch.captured(2).toInt();
+            const bool swapped = monthFirst && dateMatch.captured(2) == u"/";
+            const int month = dateMatch.captured(swapped ? 1 : 3).toInt();
             if (month >= 1 && month <= 12) {
-                int year = dateMatch.captured(3).toInt();
+                int year = dateMatch.captured(4).toInt();
                 if (year < 100) year += 2000;
-                row.date = lenientDate(year, month, dateMatch.captured(1).toInt());
+                row.date = lenientDate(year, month, dateMatch.captured(swapped ? 3 : 1).toInt());
             }
         }
     }
@@ -135,8 +153,13 @@ std::optional<ParsedRow> parseLine(const QString& raw) {
                 row.dayNumbers << more.next().captured(1).toInt();
             row.dayNumbers.prepend(*row.day);
         }
-        if (const QRegularExpressionMatch named = p.namedDay.match(before); named.hasMatch()) {
-            const int day = named.captured(named.hasCaptured(1) ? 1 : 2).toInt();
+        // The day of a date printed with its month, by name or by number ("Sun 02/25").
+        int day = 0;
+        if (const QRegularExpressionMatch named = p.namedDay.match(before); named.hasMatch())
+            day = named.captured(named.hasCaptured(1) ? 1 : 2).toInt();
+        else if (const QRegularExpressionMatch m = p.dayAndMonth.match(before); m.hasMatch())
+            day = m.captured(monthFirst ? 2 : 1).toInt();
+        if (day >= 1 && day <= 31) {
             row.dayNumbers.removeOne(day);
             row.dayNumbers.prepend(day);
             row.day = day;
@@ -218,6 +241,10 @@ QString plainDigits(const QString& line) {
 }
 
 QList<ParsedRow> parse(const QStringList& lines) {
+    const bool americanDates = monthFirst(lines);
+    auto parseLine = [americanDates](const QString& line) {
+        return tarvanel::parseLine(line, americanDates);
+    };
     QList<ParsedRow> rows;
     QStringList plain; // each row's line, read through plainDigits
     QList<qsizetype> splits;

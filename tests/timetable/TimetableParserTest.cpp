@@ -65,11 +65,22 @@ TEST(TimetableParserTest, DatesAreReadCarriedOverOrBlankedAndTimesNeedThree) {
             << date;
     }
 
-    // Month first: no date, the text is blanked anyway, so no day either.
-    const ParsedRow monthFirst = only("03/25/2025 5:12 6:45 1:15");
-    EXPECT_FALSE(monthFirst.date.has_value());
-    EXPECT_FALSE(monthFirst.day.has_value());
-    EXPECT_TRUE(TimetableParser::days({monthFirst}, 3, 2025, fiveColumns).isEmpty());
+    // Month first where a second part above 12 says so (an American sheet); day first where
+    // nothing does. A date without its year gives the day.
+    EXPECT_EQ(only("03/25/2025 5:12 6:45 1:15").date, QDate(2025, 3, 25));
+    const QList<ParsedRow> american =
+        TimetableParser::parse({"Sat 02/28 5:12 6:45 1:15", "Sun 03/01 5:12 6:45 1:15",
+                                "03/02/2026 5:12 6:45 1:15", "3/1 5:12 6:45 1:15"});
+    const QList<ParsedRow> european =
+        TimetableParser::parse({"Sat 28/02 5:12 6:45 1:15", "Sun 01/03 5:12 6:45 1:15",
+                                "02/03/2026 5:12 6:45 1:15", "1/3 5:12 6:45 1:15"});
+    for (const QList<ParsedRow>& rows : {american, european}) {
+        ASSERT_EQ(rows.size(), 4);
+        EXPECT_EQ(rows[0].day, 28);
+        EXPECT_EQ(rows[1].day, 1);
+        EXPECT_EQ(rows[2].date, QDate(2026, 3, 2));
+        EXPECT_EQ(rows[3].day, 1);
+    }
 
     // A row needs three times; glued or foreign digits are no time.
     for (const QString& line :

@@ -34,6 +34,10 @@ struct Patterns {
                 R"([\x{0635}\x{0645}](?![\p{L}\p{M}]))?)");
     QRegularExpression isoDate = compile(R"(\b(20\d\d)-(\d{1,2})-(\d{1,2})\b)");
     QRegularExpression slashDate = compile(R"(\b(\d{1,2})([/.-])(\d{1,2})[/.-](20\d\d|\d\d)\b)");
+    // A Hijri day with its month's name ("17 Rabi II", "1 Ramadan") and the words up to the
+    // next number: no date.
+    QRegularExpression hijriDay = compile(R"((?i)\b([0-2]?\d|30)\s*(?:muhar|safar|rab|raj|jumad|)"
+                                          R"(sha.?ban|ramad|shaww|dh?ul?\b|dhu)\D*)");
     // Day and month, or month and day, with a slash; also the first two parts of a whole date.
     QRegularExpression dayAndMonth = compile(R"((?<![\d/])(\d{1,2})/(\d{1,2})(?!\d))");
     QRegularExpression leadingDay = compile(R"(^\D{0,12}?\b([0-2]?\d|3[01])\b)");
@@ -144,7 +148,7 @@ std::optional<ParsedRow> parseLine(const QString& raw, bool monthFirst) {
         row.numbersAfter.prepend(more.next().captured(1).toInt());
 
     if (!row.date) {
-        const QString before = line.left(firstTime);
+        const QString before = line.left(firstTime).replace(p.hijriDay, QStringLiteral(" "));
         QRegularExpressionMatch d = p.leadingDay.match(before);
         if (!d.hasMatch()) d = p.lastDay.match(before);
         if (d.hasMatch()) {

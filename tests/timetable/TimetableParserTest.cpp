@@ -32,7 +32,7 @@ TEST(TimetableParserTest, DayNumberWeekdayAndTwelveHourTimesMakeADay) {
 
     // The day number stands as a word near the start of the line or right before the first
     // time, up to 31; a day printed with its month's name is the day, whatever number (a Hijri
-    // day) stands before it.
+    // day) stands before it, and a Hijri day with its month's name is none.
     // clang-format off
     const QList<std::pair<const char*, std::optional<int>>> days = {
         {"Sat 1 5:12 1:15 4:40", 1}, {"Wed, 12 5:12 6:45 1:15", 12}, {"  31 | 5:12 6:45 1:15", 31},
@@ -40,7 +40,9 @@ TEST(TimetableParserTest, DayNumberWeekdayAndTwelveHourTimesMakeADay) {
         {"Wednesday, the 1 5:12 6:45 1:15", 1}, {"32 5:12 6:45 1:15", {}},
         {"el Mis} pl ph 2 5.09 6.37 12.07", 2}, {"Timetable 2026 5:12 6:45 1:15", {}},
         {"Thu 17 Rabi II 01- Oct 4:25am 4:30am 4:40am", 1}, {"3Jum 16-Oct 5:12 6:45 1:15", 16},
-        {"19 Rabi' al-Awwal Sep 1 Tuesday 04:09 04:25 05:34", 1}, {"Mar7 Fri 5:39 5:39 6:00", 7}};
+        {"19 Rabi' al-Awwal Sep 1 Tuesday 04:09 04:25 05:34", 1}, {"Mar7 Fri 5:39 5:39 6:00", 7},
+        {"11   Rajab   10   Friday 05:56 07:25 12:26", 10}, {"1 Ramadan 06:12 06:17 06:35", {}},
+        {"2 Sha'ban 31 Friday 06:07 07:36 12:37", 31}};
     // clang-format on
     for (const auto& [line, day] : days)
         EXPECT_EQ(only(line).day, day) << line;

@@ -201,6 +201,11 @@ bool monthEnded(std::span<const int> before, int day, int monthEnd) {
     return false;
 }
 
+// Whether a column of day numbers runs through the whole month, from the 1st to its last day.
+bool wholeMonth(const QList<int>& down, int monthEnd) {
+    return !down.isEmpty() && down.first() == 1 && down.last() == monthEnd;
+}
+
 // A right-to-left table prints the day at the right end of its rows, after the times. Taken
 // there only when most rows have none before the times and the numbers after them run through
 // the whole month: a Hijri day at the end of a row whose day went unread is no day.
@@ -213,7 +218,7 @@ QList<ParsedRow> daysAtLineEnds(QList<ParsedRow> rows, int monthEnd) {
         QList<int> down;
         for (const ParsedRow& row : rows)
             if (row.numbersAfter.size() > column) down << row.numbersAfter[column];
-        if (down.isEmpty() || down.first() != 1 || down.last() != monthEnd) continue;
+        if (!wholeMonth(down, monthEnd)) continue;
         for (ParsedRow& row : rows)
             if (!row.day && !row.date && row.numbersAfter.size() > column) {
                 row.dayNumbers = row.numbersAfter;
@@ -243,9 +248,6 @@ QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
             if (monthEnded({down.constData(), size_t(i)}, down[i], monthEnd)) return true;
         return false;
     };
-    auto whole = [&](const QList<int>& down) {
-        return !down.isEmpty() && down.first() == 1 && down.last() == monthEnd;
-    };
     auto dayFrom = [&](qsizetype column) {
         for (ParsedRow& row : rows)
             if (!row.dayNumbers.isEmpty())
@@ -255,7 +257,7 @@ QList<ParsedRow> datesChosen(QList<ParsedRow> rows, int month, int year) {
     };
     constexpr qsizetype columns = 3;
     for (qsizetype column = 0; column < columns; ++column)
-        if (whole(numbers(column))) return column == 0 ? rows : dayFrom(column);
+        if (wholeMonth(numbers(column), monthEnd)) return column == 0 ? rows : dayFrom(column);
     const QList<int> first = numbers(0);
     if (first.isEmpty() || turns(first)) return rows;
     for (qsizetype column = 1; column < columns; ++column)

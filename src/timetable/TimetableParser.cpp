@@ -246,14 +246,12 @@ QString plainDigits(const QString& line) {
 
 QList<ParsedRow> parse(const QStringList& lines) {
     const bool americanDates = monthFirst(lines);
-    auto parseLine = [americanDates](const QString& line) {
-        return tarvanel::parseLine(line, americanDates);
-    };
+    auto parseRow = [americanDates](const QString& line) { return parseLine(line, americanDates); };
     QList<ParsedRow> rows;
     QStringList plain; // each row's line, read through plainDigits
     QList<qsizetype> splits;
     for (int i = 0; i < lines.size(); ++i) {
-        if (auto row = parseLine(lines[i])) {
+        if (auto row = parseRow(lines[i])) {
             row->line = i;
             plain << plainDigits(lines[i]);
             splits << secondTable(plain.last());
@@ -270,7 +268,7 @@ QList<ParsedRow> parse(const QStringList& lines) {
     QMap<qsizetype, int> perTable;
     for (qsizetype r = 0; r < rows.size(); ++r)
         if (splits[r] >= 0)
-            if (const auto row = parseLine(plain[r].left(splits[r]))) ++perTable[row->times.size()];
+            if (const auto row = parseRow(plain[r].left(splits[r]))) ++perTable[row->times.size()];
     if (perTable.isEmpty()) return rows;
     const qsizetype most =
         std::max_element(perTable.keyValueBegin(), perTable.keyValueEnd(), [](auto a, auto b) {
@@ -299,7 +297,7 @@ QList<ParsedRow> parse(const QStringList& lines) {
         }
         for (auto [half, to] : {std::pair{plain[r].left(splits[r]), &first},
                                 std::pair{plain[r].mid(splits[r]), &second}})
-            if (auto row = parseLine(half)) {
+            if (auto row = parseRow(half)) {
                 row->line = rows[r].line;
                 *to << std::move(*row);
             }

@@ -34,7 +34,7 @@ struct ParsedTime {
 };
 
 struct ParsedRow {
-    std::optional<int> day;    // day of the month at the start of the line
+    std::optional<int> day;    // day of the month, before the times (or after, right to left)
     QList<int> dayNumbers;     // the numbers up to 31 before the first time, `day` the first
     QList<int> numbersAfter;   // those after the last time, right to left (a right-to-left table)
     std::optional<QDate> date; // a full date printed on the line

@@ -3,6 +3,7 @@
 #include "ocr/PageImage.h"
 #include "ocr/Recognizer.h"
 #include "ocr/SheetReader.h"
+#include "timetable/MonthInText.h"
 #include "timetable/OcrLines.h"
 #include "timetable/OcrWords.h"
 #include "timetable/TimetableParser.h"
@@ -105,7 +106,9 @@ QList<Recognizer::Word> cut(const Recognizer::Word& word, const QStringList& par
 // ("Wed25Feb", "hu12Mar" with the T lost, "Mon23").
 QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
     static const QString month =
-        QStringLiteral("((jan|feb|mar|apr|may|jun|jul|aug|sep|[o0]ct|nov|dec)\\w*\\.?)");
+        QStringLiteral("((%1)\\w*\\.?)")
+            .arg(QString(MonthInText::shortEnglish)
+                     .replace(QStringLiteral("oct"), QStringLiteral("[o0]ct")));
     static const QRegularExpression glued(QStringLiteral("^(\\S{1,3}?)") + month + u'$',
                                           QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression named(QStringLiteral("^([a-z]{2,3})([\\dlIi|]{1,2})") + month +

@@ -14,6 +14,11 @@ struct MonthAndYear {
 
 namespace MonthInText {
 
+// The English months shortened to three letters, as a regular expression's alternatives: the
+// form a date prints its month in ("01-Oct", "Sep 1").
+inline const QString shortEnglish =
+    QStringLiteral("jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec");
+
 // The first month named in `text`, in `names` (the user's language, January first) or in
 // English, full or shortened to three letters, with the year written after it if there is one.
 // A long name with one letter misread, missing or added counts when a year follows it: a

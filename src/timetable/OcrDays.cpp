@@ -1,6 +1,7 @@
 // The day column: numbers counted down the rows, where small print and photos lose them. One
 // that is no number, or breaks the count between its neighbours, is read again; the count tells
 // what it should be.
+#include "timetable/MonthInText.h"
 #include "timetable/OcrWords.h"
 
 #include <QHash>
@@ -186,9 +187,9 @@ QList<Doubt> dayDoubts(const QList<RecognizedItem>& items, const QList<QList<qsi
         const QList<qsizetype>& line = lines[l];
         static const QRegularExpression clock(QStringLiteral("\\d[:.]\\d"));
         // A month's name first ("Jun 445") is a date whose day went unread.
-        static const QRegularExpression month(
-            QStringLiteral("^(jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)"),
-            QRegularExpression::CaseInsensitiveOption);
+        static const QRegularExpression month(QStringLiteral("^(") + MonthInText::shortEnglish +
+                                                  u')',
+                                              QRegularExpression::CaseInsensitiveOption);
         const QString& first = items[line[0]].text;
         // After the name, digits left of where the rows' times begin are the day ("Sat 130",
         // 13 and a mark run together); else they are the first time, and the name a misread

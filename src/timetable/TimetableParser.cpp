@@ -2,6 +2,7 @@
 #include "base/StateFiles.h"
 #include "engine/DayTimes.h"
 #include "engine/Digits.h"
+#include "timetable/MonthInText.h"
 
 #include <QMap>
 #include <QRegularExpression>
@@ -14,8 +15,8 @@ namespace tarvanel {
 namespace {
 
 // Default options on purpose: without Unicode properties, \d is 0-9 only.
-QRegularExpression compile(const char* pattern) {
-    QRegularExpression re(QString::fromLatin1(pattern));
+QRegularExpression compile(const QString& pattern) {
+    QRegularExpression re(pattern);
     if (!re.isValid())
         qFatal("timetable pattern does not compile: %s", qPrintable(re.errorString()));
     re.optimize();
@@ -47,10 +48,10 @@ struct Patterns {
     QRegularExpression dayNumber = compile(R"(\b([0-2]?\d|3[01])\b)");
     // A day printed with its month's name ("01-Oct", "Sep 1"): the date, where a Hijri day or
     // a fast's number stands before it.
-    QRegularExpression namedDay = compile(
-        R"((?i)\b([0-2]?\d|3[01])[\s./-]*(?:jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec))"
-        R"([a-z]*\b|\b(?:jan|feb|mar|apr|may|jun|jul|aug|sep|oct|nov|dec)[a-z]*\.?[\s/-]*)"
-        R"(([0-2]?\d|3[01])\b)");
+    QRegularExpression namedDay =
+        compile(QStringLiteral(R"((?i)\b([0-2]?\d|3[01])[\s./-]*(?:%1)[a-z]*\b|\b(?:%1)[a-z]*)"
+                               R"(\.?[\s/-]*([0-2]?\d|3[01])\b)")
+                    .arg(MonthInText::shortEnglish));
     // Between two times, the start of a second table's row: its day, perhaps with a weekday's
     // or a month's name.
     QRegularExpression rowStart =

@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -237,6 +238,26 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
         return !above.isEmpty() && above == nearest(1) ? above : QString();
     };
 
+    // A day number in a column of day numbers is no time: a second table's day, or the Hijri
+    // day, right of the first table's times. Small print loses many of them; those read count
+    // on, where minutes a column's hours went unread in repeat.
+    auto inDayColumn = [&](qsizetype l, qsizetype i) {
+        if (!isDay(items[i].text)) return false;
+        const qreal x = items[i].box.center().x();
+        QSet<QString> days;
+        qsizetype rows = 0;
+        for (qsizetype t : table)
+            for (qsizetype j : lines[t]) {
+                const QRectF other = items[j].box;
+                if (t != l && isDay(items[j].text) && other.left() <= x && x <= other.right()) {
+                    days.insert(items[j].text);
+                    ++rows;
+                    break;
+                }
+            }
+        return rows * 3 >= table.size() && days.size() * 5 >= rows * 4;
+    };
+
     QList<Doubt> doubts;
     // A word stands in a column of times when times of several other rows stand above or
     // below it. Only lines between the table's first and last row count: the heading above
@@ -260,8 +281,14 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
             if (isTimeLike(text) || (count >= 3 && count <= 4 && digitCell.match(text).hasMatch()))
                 firstTime = std::min(firstTime, items[i].box.left());
         }
+        // A whole date is no time run together with another, though its day may pass for an
+        // hour: a right-to-left table prints it right of the times.
+        static const QRegularExpression date(QStringLiteral(
+            "^(\\d{1,2}[/.-]\\d{1,2}[/.-](19|20)\\d\\d|(19|20)\\d\\d[/.-]\\d{1,2}[/.-]\\d{1,2})$"));
         for (qsizetype i : lines[l]) {
-            if (isTime(items[i].text) || isMeridiem(items[i].text)) continue;
+            if (isTime(items[i].text) || isMeridiem(items[i].text) ||
+                date.match(items[i].text).hasMatch() || inDayColumn(l, i))
+                continue;
             // Its am/pm marker aside: "iSpm" is a blurred 1:15pm.
             static const QRegularExpression marker(QStringLiteral("\\s*[AaPp]\\.?[Mm]\\.?$"));
             const QString digits = asDigits(QString(items[i].text).remove(marker));

@@ -180,3 +180,19 @@ TEST(OcrColumnsTest, AColumnReadAsLettersOnMostDaysIsAColumnStill) {
     EXPECT_EQ(out.size(), 17) << out.join(" | ").toStdString();
     EXPECT_TRUE(out.contains("OS.46  05.46")) << out.join(" | ").toStdString();
 }
+
+// Right of the times: a right-to-left table's whole date, and a second table's day column that
+// small print read on some rows only. Neither is a time to read again; a garbled time is.
+TEST(OcrColumnsTest, DatesAndADayColumnRightOfTheTimesAreNoTimes) {
+    QList<QStringList> rows;
+    for (int day = 1; day <= 9; ++day)
+        rows.append({QString::asprintf("5:%02d", 10 + day), "1:30", "8:15",
+                     day % 3 ? QString::number(day + 10) : QStringLiteral("~"),
+                     QString::asprintf("%02d/10/2027", day)});
+    rows[4][1] = "1;3O";
+    const auto items = table(rows);
+    QStringList doubted;
+    for (const OcrLines::Doubt& doubt : OcrLines::doubtful(items))
+        doubted << items[doubt.item].text;
+    EXPECT_EQ(doubted, QStringList({"1;3O"}));
+}

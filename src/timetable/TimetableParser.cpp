@@ -3,6 +3,7 @@
 #include "engine/DayTimes.h"
 #include "engine/Digits.h"
 #include "timetable/MonthInText.h"
+#include "timetable/SideBySide.h"
 
 #include <QMap>
 #include <QRegularExpression>
@@ -52,10 +53,11 @@ struct Patterns {
         compile(QStringLiteral(R"((?i)\b([0-2]?\d|3[01])[\s./-]*(?:%1)[a-z]*\b|\b(?:%1)[a-z]*)"
                                R"(\.?[\s/-]*([0-2]?\d|3[01])\b)")
                     .arg(MonthInText::shortEnglish));
-    // Between two times, the start of a second table's row: its day, perhaps with a weekday's
-    // or a month's name.
+    // Between two times, the start of a second table's row (capture 1): its day, perhaps after
+    // a weekday's name and before a month's name or a Hijri day.
     QRegularExpression rowStart =
-        compile(R"(^\s*\b([0-2]?\d|3[01])\b\s*([A-Za-z]{2,9}\.?\s*){0,2}$)");
+        compile(R"(^\s*((?:[A-Za-z]{2,9}\.?\s+)?\b([0-2]?\d|3[01])\b))"
+                R"((\s*[A-Za-z]{2,9}\.?|\s+([0-2]?\d|3[01])\b){0,2}\s*$)");
 };
 
 const Patterns& patterns() {
@@ -260,23 +262,30 @@ QList<ParsedRow> parse(const QStringList& lines) {
         }
     }
     // Two months side by side: when most rows hold a second table's row, that is a row of its
-    // own, and those rows follow all of the first table's.
+    // own, and those rows follow all of the first table's. A row whose second day went unread
+    // is cut after as many times as most first tables' rows hold.
     const auto split =
         std::count_if(splits.begin(), splits.end(), [](qsizetype at) { return at >= 0; });
-    if (split < 3 || 2 * split < rows.size()) return rows;
-    // A row whose second day went unread is cut after as many times as most first tables' rows
-    // hold: its second half has no day, and is shown as such rather than lost.
-    QMap<qsizetype, int> perTable;
+    QMap<qsizetype, int> count;
     for (qsizetype r = 0; r < rows.size(); ++r)
         if (splits[r] >= 0)
-            if (const auto row = parseRow(plain[r].left(splits[r]))) ++perTable[row->times.size()];
-    if (perTable.isEmpty()) return rows;
-    const qsizetype most =
-        std::max_element(perTable.keyValueBegin(), perTable.keyValueEnd(), [](auto a, auto b) {
-            return a.second < b.second;
-        })->first;
+            if (const auto row = parseRow(plain[r].left(splits[r]))) ++count[row->times.size()];
+    qsizetype perTable =
+        count.isEmpty()
+            ? 0
+            : std::max_element(count.keyValueBegin(), count.keyValueEnd(), [](auto a, auto b) {
+                  return a.second < b.second;
+              })->first;
+    // Where few second days were read, or none, the times must say it too: most lines hold
+    // two days' times.
+    if (split < 3 || 2 * split < rows.size()) {
+        const qsizetype byTimes = SideBySide::timesPerDay(rows);
+        if (byTimes == 0 || (split > 0 && byTimes != perTable)) return rows;
+        perTable = byTimes;
+    }
+    if (perTable == 0) return rows;
     for (qsizetype r = 0; r < rows.size(); ++r)
-        if (splits[r] < 0) splits[r] = secondTable(plain[r], most);
+        if (splits[r] < 0) splits[r] = secondTable(plain[r], perTable);
     // How far apart two rows' times are, in minutes: a printed time moves a minute or two a day.
     auto apart = [](const ParsedRow& a, const ParsedRow& b) {
         if (a.times.size() != b.times.size()) return INT_MAX;
@@ -287,6 +296,7 @@ QList<ParsedRow> parse(const QStringList& lines) {
         return minutes;
     };
     QList<ParsedRow> first, second;
+    QList<std::pair<qsizetype, qsizetype>> sameLine; // a row of each table, on one line
     for (qsizetype r = 0; r < rows.size(); ++r) {
         // A row of one table alone (the longer month's last days) goes on the table whose last
         // row its times follow.
@@ -302,7 +312,21 @@ QList<ParsedRow> parse(const QStringList& lines) {
                 row->line = rows[r].line;
                 *to << std::move(*row);
             }
+        if (!first.isEmpty() && !second.isEmpty() && first.last().line == second.last().line)
+            sameLine.append({first.size() - 1, second.size() - 1});
     }
+    // The months go day by day down the page, unless a line read with both days says not: a
+    // second day unread is then the first's.
+    auto dayByDay = [&](const auto& rows) {
+        const ParsedRow &a = first[rows.first], &b = second[rows.second];
+        return !a.day || !b.day || a.date || b.date || a.day == b.day;
+    };
+    if (std::all_of(sameLine.begin(), sameLine.end(), dayByDay))
+        for (auto [a, b] : sameLine)
+            if (!second[b].day && !second[b].date) {
+                second[b].day = first[a].day;
+                second[b].dayNumbers = first[a].dayNumbers;
+            }
     return first + second;
 }
 

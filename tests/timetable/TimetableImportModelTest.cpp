@@ -511,7 +511,7 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     EXPECT_EQ(unread.lastKey(), "2026-03-17");
     // October and November side by side, each row of the page a day of both; a row whose
     // November day is missing (the 31st) stands alone, and one whose November day went unread
-    // is named, not lost.
+    // takes its October day, as every line read whole says the months go day by day.
     text = "OCTOBER 2026      NOVEMBER 2026\n";
     for (int day = 1; day <= 31; ++day) {
         text += QString::asprintf("%d Thu 6:%02d 13:30 16:30 19:00 20:30", day, day);
@@ -523,15 +523,13 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     model.setText(text);
     EXPECT_EQ(model.status(), "Found 61 rows with 5 times each.");
     const DayTable both = model.days();
-    EXPECT_EQ(both.size(), 60);
+    EXPECT_EQ(both.size(), 61);
     EXPECT_EQ(both.value("2026-10-12")["Fajr"], "06:12");
-    EXPECT_FALSE(both.contains("2026-11-12"));
+    EXPECT_EQ(both.value("2026-11-12")["Fajr"], "07:12");
     EXPECT_EQ(both.value("2026-10-31")["Fajr"], "06:31");
     EXPECT_EQ(both.value("2026-11-01")["Fajr"], "07:01");
     EXPECT_EQ(both.value("2026-11-30")["Isha"], "18:30");
-    ASSERT_EQ(model.problems().size(), 1);
-    EXPECT_EQ(model.problems()[0].line, 12);
-    EXPECT_EQ(model.problems()[0].reason, RowProblem::NoDay);
+    EXPECT_TRUE(model.problems().isEmpty());
     // November and December: December's 31st stands alone below both tables and is its day.
     text = "NOVEMBER 2026      DECEMBER 2026\n";
     for (int day = 1; day <= 31; ++day) {
@@ -545,4 +543,35 @@ TEST(TimetableImportModelTest, DayNumbersThatStartAgainBelongToTheNextMonth) {
     EXPECT_EQ(longer.value("2026-11-30")["Fajr"], "06:30");
     EXPECT_EQ(longer.value("2026-12-31")["Fajr"], "07:31");
     EXPECT_TRUE(model.problems().isEmpty());
+    // December and January: the second day between its weekday and its Hijri day; then, those
+    // unread in every row, the line cut where its times begin a second day, which is the first's.
+    for (const bool unread : {false, true}) {
+        text = "DECEMBER 2026      JANUARY 2027\n";
+        for (int day = 1; day <= 31; ++day)
+            text += QString::asprintf(
+                "Mon %d 6:%02d 12:15 14:00 16:30 18:00   %s 7:%02d 12:30 "
+                "14:20 16:50 18:20\n",
+                day, day,
+                unread ? "" : qPrintable(QString::asprintf("Fri %d %d", day, day % 30 + 1)), day);
+        model.setText(text);
+        const DayTable two = model.days();
+        EXPECT_EQ(two.size(), 62) << unread;
+        EXPECT_EQ(two.value("2026-12-31")["Fajr"], "06:31");
+        EXPECT_EQ(two.value("2027-01-01")["Fajr"], "07:01");
+        EXPECT_EQ(two.value("2027-01-31")["Isha"], "18:20");
+        EXPECT_TRUE(model.problems().isEmpty());
+    }
+    // A month in two halves side by side: the lines say the halves go apart, so a second day
+    // unread is named, not taken from the first half's.
+    text = "FEBRUARY 2027\n";
+    for (int day = 1; day <= 14; ++day)
+        text += QString::asprintf("%d 5:%02d 12:30 15:40 18:00 19:30   %s 5:%02d 12:30 15:50 "
+                                  "18:20 19:40\n",
+                                  day, 40 - day,
+                                  day == 5 ? "" : qPrintable(QString::number(day + 14)), 26 - day);
+    model.setText(text);
+    EXPECT_EQ(model.days().size(), 27);
+    EXPECT_EQ(model.days().value("2027-02-28")["Fajr"], "05:12");
+    ASSERT_EQ(model.problems().size(), 1);
+    EXPECT_EQ(model.problems()[0].reason, RowProblem::NoDay);
 }

@@ -114,8 +114,9 @@ QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
     static const QRegularExpression named(QStringLiteral("^([a-z]{2,3})([\\dlIi|]{1,2})") + month +
                                               u'$',
                                           QRegularExpression::CaseInsensitiveOption);
+    // A 1 read as a letter beside a digit ("Satl0", "Monl2"); the T of Tuesday read as a J.
     static const QRegularExpression weekday(
-        QStringLiteral("^(mon|tue|wed|thu|fri|sat|sun)(\\d{1,2})$"),
+        QStringLiteral("^(mon|[tj]ue|wed|thu|fri|sat|sun)((?=\\D?\\d)[\\dlI|]{1,2})$"),
         QRegularExpression::CaseInsensitiveOption);
     QList<Recognizer::Word> apart;
     for (const Recognizer::Word& word : words) {
@@ -126,7 +127,7 @@ QList<Recognizer::Word> datesTidied(const QList<Recognizer::Word>& words) {
         if (const QRegularExpressionMatch m = named.match(word.text); m.hasMatch())
             apart << cut(word, {m.captured(1), m.captured(2), m.captured(3)});
         else if (const QRegularExpressionMatch m = weekday.match(word.text); m.hasMatch())
-            apart << cut(word, {m.captured(1), m.captured(2)});
+            apart << cut(word, {m.captured(1), OcrLines::words::asDigits(m.captured(2))});
         else if (const QRegularExpressionMatch m = glued.match(word.text); m.hasMatch())
             apart << cut(word, {m.captured(1), m.captured(2)});
         else

@@ -213,8 +213,10 @@ QStringList read(Recognizer& recognizer, Pix* page, tesseract::PageSegMode mode,
     for (qsizetype i = 0; i < items.size(); ++i)
         items[i].doubtful = (i >= first.size() || items[i].text != first[i].text) &&
                             (cell(items[i].text) || OcrLines::isDay(items[i].text));
-    return OcrLines::datesCounted(OcrLines::hoursInOrder(OcrLines::group(items, marks), marks),
-                                  marks);
+    return OcrLines::datesCounted(
+        OcrLines::hoursInOrder(OcrLines::datesFromClocks(OcrLines::group(items, marks), marks),
+                               marks),
+        marks);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "timetable/OcrLines.h"
 
 #include <QDate>
+#include <QMap>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace tarvanel::OcrLines {
@@ -92,6 +94,48 @@ QStringList datesCounted(QStringList lines, QList<TextMark>& marks) {
     for (qsizetype r = rows.size() - 2; r >= 0; --r)
         if (!rows[r].date.isValid() && rows[r + 1].date.isValid())
             write(rows[r], rows[r + 1].date.addDays(-1));
+    return lines;
+}
+
+QStringList datesFromClocks(QStringList lines, QList<TextMark>& marks) {
+    const QString gap = QStringLiteral("   ");
+    static const QRegularExpression clock(QStringLiteral("^(\\d{1,2})[:.](\\d\\d)$"));
+    struct Row {
+        qsizetype line, word;
+        int day, month;
+    };
+    QList<Row> rows;
+    qsizetype timed = 0;
+    for (qsizetype l = 0; l < lines.size(); ++l) {
+        const QStringList words = lines[l].split(gap);
+        if (std::count_if(words.begin(), words.end(), isTime) < 4) continue;
+        ++timed;
+        // The date stands first, or after a weekday's name.
+        const qsizetype at = std::find_if(words.begin(), words.end(), isTime) - words.begin();
+        if (const QRegularExpressionMatch m = clock.match(words[at]); at <= 1 && m.hasMatch())
+            rows.append({l, at, m.captured(1).toInt(), m.captured(2).toInt()});
+    }
+    QMap<int, int> months;
+    for (const Row& row : rows)
+        ++months[row.month];
+    const auto month = std::max_element(months.keyValueBegin(), months.keyValueEnd(),
+                                        [](auto a, auto b) { return a.second < b.second; });
+    if (month == months.keyValueEnd() || month->first < 1 || month->first > 12 ||
+        3 * month->second < 2 * timed)
+        return lines;
+    qsizetype counting = 0;
+    for (qsizetype r = 1; r < rows.size(); ++r)
+        counting += rows[r].day == rows[r - 1].day + 1;
+    if (3 * counting < rows.size()) return lines;
+    for (const Row& row : rows) {
+        if (row.month != month->first || row.day < 1 || row.day > 31) continue;
+        QStringList words = lines[row.line].split(gap);
+        const int start =
+            int(words.mid(0, row.word).join(gap).size() + (row.word > 0 ? gap.size() : 0));
+        words[row.word] = QString::asprintf("%02d/%02d", row.day, row.month);
+        lines[row.line] = words.join(gap);
+        marks.append({int(row.line), start, int(words[row.word].size())});
+    }
     return lines;
 }
 

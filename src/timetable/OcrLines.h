@@ -84,6 +84,11 @@ QString settle(const Doubt& doubt, const QString& first, const QString& second);
 // right, span less than a day on the twelve-hour dial) given the hour that restores it, its
 // minutes kept; the cells changed are added to `marks`.
 QStringList hoursInOrder(QStringList lines, QList<TextMark>& marks);
+// The lines with a day and month read as a clock ("01:02" for 01/02, its slash thin) written as
+// a date: a column that stands first, or after the weekday, whose minutes keep one month while
+// its hours count a day a row (on a third of rows or more: small print misreads the rest), as
+// no prayer's column does. The dates written are added to `marks`.
+QStringList datesFromClocks(QStringList lines, QList<TextMark>& marks);
 // The lines with full dates down the first column counted up a day a row: one that is
 // unreadable, or off the count without the row below going on from it, is the day after the
 // row above it; a short run at the top read ahead of the rows below is counted back from them.

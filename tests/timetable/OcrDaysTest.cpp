@@ -176,3 +176,30 @@ TEST(OcrDaysTest, FullDatesCountUpADayARowAndRunForward) {
     EXPECT_EQ(hijri[4], "05/02/2026   17   Thu" + times);
     EXPECT_EQ(hijri[5], "06/02/2026   18   Fri" + times);
 }
+
+// Day and month read as a clock, their slash taken for a colon, first or after the weekday: a
+// column that keeps one month while it counts a day a row is dates; a Fajr column that keeps
+// its time, or moves a minute a day, is not.
+TEST(OcrDaysTest, DayAndMonthReadAsAClockAreDates) {
+    QStringList lines{"Date   Fajr   Zuhr   Asr   Maghrib"};
+    for (int day = 1; day <= 6; ++day)
+        lines << QString::asprintf("Sun   %02d:02   6:%02d   12:22   2:%02d   4:52", day, 30 - day,
+                                   20 + day);
+    lines[4].remove(0, 6);
+    QList<TextMark> marks;
+    const QStringList dated = OcrLines::datesFromClocks(lines, marks);
+    EXPECT_EQ(dated[1], "Sun   01/02   6:29   12:22   2:21   4:52");
+    EXPECT_EQ(dated[4], "04/02   6:26   12:22   2:24   4:52");
+    EXPECT_EQ(dated[0], lines[0]);
+    EXPECT_EQ(marks.size(), 6);
+    EXPECT_EQ(marks[3], (TextMark{4, 0, 5}));
+    EXPECT_EQ(marks[4], (TextMark{5, 6, 5}));
+    for (const bool moving : {false, true}) {
+        QStringList times;
+        for (int day = 1; day <= 6; ++day)
+            times << QString::asprintf("5:%02d   6:30   12:22   2:20   4:52", moving ? day : 2);
+        marks.clear();
+        EXPECT_EQ(OcrLines::datesFromClocks(times, marks), times) << moving;
+        EXPECT_TRUE(marks.isEmpty());
+    }
+}

@@ -239,8 +239,8 @@ QList<Doubt> doubtful(const QList<RecognizedItem>& items) {
     };
 
     // A day number in a column of day numbers is no time: a second table's day, or the Hijri
-    // day, right of the first table's times. Small print loses many of them; those read count
-    // on, where minutes a column's hours went unread in repeat.
+    // day, right of the first table's times. Small print loses many of them; those it reads
+    // differ row to row, where a time column whose hours went unread repeats its minutes.
     auto inDayColumn = [&](qsizetype l, qsizetype i) {
         if (!isDay(items[i].text)) return false;
         const qreal x = items[i].box.center().x();

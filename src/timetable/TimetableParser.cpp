@@ -317,8 +317,8 @@ QList<ParsedRow> parse(const QStringList& lines) {
     }
     // The months go day by day down the page, unless a line read with both days says not: a
     // second day unread is then the first's.
-    auto dayByDay = [&](const auto& rows) {
-        const ParsedRow &a = first[rows.first], &b = second[rows.second];
+    auto dayByDay = [&](const auto& pair) {
+        const ParsedRow &a = first[pair.first], &b = second[pair.second];
         return !a.day || !b.day || a.date || b.date || a.day == b.day;
     };
     if (std::all_of(sameLine.begin(), sameLine.end(), dayByDay))
